@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "Qor/Platform/Export.h"
+
+namespace qor {
+
+/// A code point and the number of bytes (1 to 4) that it takes in UTF-8.
+struct Utf8CodePoint {
+  char32_t value = 0;
+  std::size_t length = 0;
+
+  friend bool operator==(const Utf8CodePoint&, const Utf8CodePoint&) = default;
+};
+
+/// The first code point of `text`. Empty for an empty text and for bytes that aren't well-formed
+/// UTF-8: a stray or missing continuation byte, an overlong form, a surrogate, a value above
+/// U+10FFFF.
+QOR_API std::optional<Utf8CodePoint> firstCodePoint(std::string_view text);
+
+/// Whether `text` is well-formed UTF-8 throughout. Runs of ASCII take eight bytes a step.
+QOR_API bool isValidUtf8(std::string_view text);
+
+/// Appends `codePoint` in UTF-8. False, and nothing appended, for a surrogate and for values above
+/// U+10FFFF.
+QOR_API bool appendUtf8(std::string& text, char32_t codePoint);
+
+}  // namespace qor

@@ -1,0 +1,30 @@
+#include "Tests/Support/SharedModels.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace qor::test {
+
+namespace fs = std::filesystem;
+
+fs::path sharedFile(const std::string& relative) { return fs::path(FC_SHARED_DIR) / relative; }
+
+std::vector<fs::path> sharedModels() {
+  std::vector<fs::path> models;
+  if (!fs::is_directory(sharedFile("models"))) return models;
+  for (const auto& entry : fs::recursive_directory_iterator(sharedFile("models"))) {
+    if (entry.is_regular_file() && entry.path().extension() == ".ifc") models.push_back(entry);
+  }
+  std::ranges::sort(models);
+  return models;
+}
+
+std::string modelTestName(const testing::TestParamInfo<fs::path>& model) {
+  std::string name =
+      model.param.parent_path().filename().string() + '_' + model.param.stem().string();
+  std::ranges::replace_if(
+      name, [](unsigned char c) { return !std::isalnum(c); }, '_');
+  return name;
+}
+
+}  // namespace qor::test

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace qor::test {
+
+/// Where `relative`, such as "models/buildings/duplex.ifc", lies beside the repository. The file
+/// needn't be there.
+std::filesystem::path sharedFile(const std::string& relative);
+
+/// All IFC files under the folder "models", sorted by path; empty when the folder isn't there.
+std::vector<std::filesystem::path> sharedModels();
+
+/// Name of a model as a test parameter's suffix: letters, digits and underscores alone.
+std::string modelTestName(const testing::TestParamInfo<std::filesystem::path>& model);
+
+}  // namespace qor::test
+
+/// Declares `variable` as the path of a file that isn't part of the repository; skips the test
+/// where it is absent.
+#define FC_SHARED_FILE_OR_SKIP(variable, relative)                          \
+  const std::filesystem::path variable = ::qor::test::sharedFile(relative); \
+  if (!std::filesystem::exists(variable)) GTEST_SKIP() << variable << " isn't there"
