@@ -1,0 +1,61 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "Fc/Reflection/TypeOperations.h"
+#include "Qor/Object/PropertyId.h"
+
+namespace qor::fc {
+
+class FcBase;
+class InverseEntries;
+struct ClassInfo;
+
+/// One level of aggregation of an attribute, as the schema declares it.
+struct AggregateInfo {
+  enum class Kind : std::uint8_t { list, set, array, bag };
+  static constexpr std::uint32_t unbounded = 0xFFFFFFFF;
+
+  Kind kind;
+  std::uint32_t lower;
+  std::uint32_t upper;
+};
+
+/// Where a forward attribute is written on its target: on targets whose class id lies in [first, last], into the inverse
+/// attribute that `entries` gives.
+struct InverseLink {
+  std::uint32_t first;
+  std::uint32_t last;
+  /// Holds one entry at most: a further one replaces it.
+  bool single;
+  const char* inverseName;
+  InverseEntries& (*entries)(FcBase& target);
+};
+
+/// One attribute of a schema class, forward or inverse: constant, with the whole program's life.
+struct AttributeInfo {
+  /// The EXPRESS name, "PredefinedType".
+  std::string_view name;
+  const object::PropertyId& (*id)();
+  /// The declared type without aggregation and OPTIONAL: "IfcWallTypeEnum", "IfcLabel", "REAL"; of an inverse attribute the
+  /// class that holds the forward attribute.
+  std::string_view typeName;
+  /// Outermost first; empty for a single value.
+  std::span<const AggregateInfo> aggregates;
+  bool optional;
+  /// Of an inverse attribute, the forward attribute that writes it; empty otherwise.
+  std::string_view forward;
+  /// Of a forward attribute that the schema pairs with inverse attributes.
+  std::span<const InverseLink> links;
+  /// The member of an entity whose class declares or inherits this attribute; any other entity is undefined behaviour.
+  void* (*member)(FcBase& entity);
+  const TypeOperations* type;
+
+  bool isInverse() const { return !forward.empty(); }
+  void* of(FcBase& entity) const { return member(entity); }
+  const void* of(const FcBase& entity) const { return member(const_cast<FcBase&>(entity)); }
+};
+
+}  // namespace qor::fc

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string_view>
+#include <typeinfo>
+
+#include "Fc/Reflection/AttributeInfo.h"
+#include "Qor/String/StringHash.h"
+
+namespace qor::fc {
+
+class FcBase;
+
+/// What is constant about a schema class. One record a class, reached from an instance by `FcBase::classInfo()`, from the type
+/// by `FcWall::info()` and from a name by `Factory`.
+struct ClassInfo {
+  StringHash name;        ///< "IfcWall"
+  StringHash upperName;   ///< "IFCWALL"
+  const char* group;      ///< "Building Elements"
+  const char* groupPath;  ///< "Shared.Building Elements"
+  std::uint32_t classId;
+  std::uint32_t classIdLast;
+  /// Null for a class without a supertype.
+  const ClassInfo* parent;
+  /// A new instance; null for an abstract class.
+  std::shared_ptr<FcBase> (*create)();
+  const std::type_info* type;
+  /// The forward attributes that the class itself declares, in schema order.
+  std::span<const AttributeInfo> attributes;
+  /// The inverse attributes that the class itself declares, in schema order.
+  std::span<const AttributeInfo> inverseAttributes;
+  /// Attributes of supertypes that this class derives: a file writes `*` in their place.
+  std::span<const std::string_view> derivedAttributes;
+  /// The class or one of its supertypes has a forward attribute with an inverse.
+  bool linksTargets;
+
+  bool isAbstract() const { return create == nullptr; }
+  bool contains(std::uint32_t id) const { return id >= classId && id <= classIdLast; }
+  /// This class or one of its supertypes derives the attribute.
+  bool isDerived(std::string_view attribute) const {
+    for (std::string_view derived : derivedAttributes)
+      if (derived == attribute) return true;
+    return parent && parent->isDerived(attribute);
+  }
+  /// Calls back for each forward attribute, supertypes first: the order of a file's parameters.
+  template <class Callback>
+  void forEachAttribute(Callback&& callback) const {
+    if (parent) parent->forEachAttribute(callback);
+    for (const AttributeInfo& attribute : attributes) callback(attribute);
+  }
+  /// Calls back for each inverse attribute, supertypes first.
+  template <class Callback>
+  void forEachInverseAttribute(Callback&& callback) const {
+    if (parent) parent->forEachInverseAttribute(callback);
+    for (const AttributeInfo& attribute : inverseAttributes) callback(attribute);
+  }
+};
+
+}  // namespace qor::fc

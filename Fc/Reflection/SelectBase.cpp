@@ -1,0 +1,263 @@
+#include "Fc/Reflection/SelectBase.h"
+
+#include <cstring>
+
+#include "Fc/FcBase.h"
+#include "Fc/Reflection/ClassInfo.h"
+#include "Fc/Reflection/ValueSink.h"
+#include "Fc/Reflection/ValueSource.h"
+
+namespace qor::fc {
+
+namespace {
+
+// Whether a value with this type name belongs to an alternative at any depth.
+bool holdsTyped(const SelectInfo& info, std::string_view upperName) {
+  for (const AlternativeInfo& alternative : info.alternatives) {
+    if (alternative.nested ? holdsTyped(*alternative.nested, upperName)
+                           : !alternative.isEntity() && alternative.upperName == upperName)
+      return true;
+  }
+  return false;
+}
+
+bool holdsClass(const SelectInfo& info, std::uint32_t classId) {
+  for (const AlternativeInfo& alternative : info.alternatives) {
+    if (alternative.nested ? holdsClass(*alternative.nested, classId)
+                           : alternative.holds(classId))
+      return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+void* SelectBase::heap() const {
+  void* pointer;
+  std::memcpy(&pointer, m_place, sizeof pointer);
+  return pointer;
+}
+
+void SelectBase::reset(const SelectInfo& info) {
+  if (m_position == npos) return;
+  at(info).destroy(value(info));
+  if (!at(info).inPlace) ::operator delete(heap());
+  m_position = npos;
+}
+
+void* SelectBase::make(const SelectInfo& info, std::uint32_t position) {
+  reset(info);
+  if (position == npos) return nullptr;
+  const AlternativeOperations& operations = *info.alternatives[position].operations;
+  if (!operations.inPlace) {
+    void* pointer = ::operator new(operations.size);
+    std::memcpy(m_place, &pointer, sizeof pointer);
+  }
+  m_position = position;
+  void* place = value(info);
+  operations.construct(place);
+  return place;
+}
+
+void SelectBase::copyFrom(const SelectInfo& info, const SelectBase& other) {
+  void* place = make(info, other.m_position);
+  if (!place) return;
+  at(info).destroy(place);
+  at(info).copy(place, other.value(info));
+}
+
+void SelectBase::moveFrom(const SelectInfo& info, SelectBase& other) {
+  reset(info);
+  if (other.m_position == npos) return;
+  m_position = other.m_position;
+  if (at(info).inPlace) {
+    at(info).move(m_place, other.m_place);
+    other.reset(info);
+  } else {
+    std::memcpy(m_place, other.m_place, sizeof(void*));
+    other.m_position = npos;
+  }
+}
+
+FcBase* SelectBase::getEntity(const SelectInfo& info) const {
+  if (m_position == npos) return nullptr;
+  const AlternativeOperations& operations = at(info);
+  if (operations.entity) return operations.entity(value(info));
+  if (operations.select)
+    return operations.select(const_cast<void*>(value(info)))->getEntity(*info.alternatives[m_position].nested);
+  return nullptr;
+}
+
+LocalValue SelectBase::getLocalValue(const SelectInfo& info) const {
+  if (m_position == npos) return LocalValue(details::EmptyValue());
+  const AlternativeInfo& alternative = info.alternatives[m_position];
+  if (alternative.nested)
+    return at(info).select(const_cast<void*>(value(info)))->getLocalValue(*alternative.nested);
+  LocalValue result = at(info).type->getLocalValue(value(info));
+  if (!alternative.isEntity()) result.typeName = std::string(alternative.ifcName);
+  return result;
+}
+
+bool SelectBase::setLocalValue(const SelectInfo& info, const LocalValue& value) {
+  if (const auto* entity = std::get_if<std::shared_ptr<FcBase>>(&value.value))
+    return *entity && setEntity(info, *entity);
+  if (value.isEmpty() || value.index() == 0) return false;
+  if (value.typeName) return setNamed(info, value);
+  if (info.valueCount != 1) return false;
+  for (std::uint32_t i = 0; i < info.alternatives.size(); ++i) {
+    const AlternativeInfo& alternative = info.alternatives[i];
+    if (alternative.isEntity() || alternative.nested) continue;
+    LocalValue named = value;
+    named.typeName = std::string(alternative.ifcName);
+    return setNamed(info, named);
+  }
+  return false;
+}
+
+bool SelectBase::setNamed(const SelectInfo& info, const LocalValue& value) {
+  for (std::uint32_t i = 0; i < info.alternatives.size(); ++i) {
+    const AlternativeInfo& alternative = info.alternatives[i];
+    const AlternativeOperations& operations = *alternative.operations;
+    if (alternative.isEntity() || (!alternative.nested && alternative.ifcName != *value.typeName)) continue;
+    SelectBase candidate;
+    void* place = candidate.make(info, i);
+    const bool stored = alternative.nested ? operations.select(place)->setNamed(*alternative.nested, value)
+                                           : operations.type->setLocalValue(place, value);
+    if (stored) moveFrom(info, candidate);
+    candidate.reset(info);
+    if (stored) return true;
+  }
+  return false;
+}
+
+bool SelectBase::setEntity(const SelectInfo& info, const std::shared_ptr<FcBase>& entity) {
+  const std::uint32_t classId = entity->classId();
+  for (std::uint32_t i = 0; i < info.alternatives.size(); ++i) {
+    const AlternativeInfo& alternative = info.alternatives[i];
+    if (alternative.nested ? !holdsClass(*alternative.nested, classId) : !alternative.holds(classId)) continue;
+    void* place = make(info, i);
+    if (alternative.nested) return alternative.operations->select(place)->setEntity(*alternative.nested, entity);
+    alternative.operations->setEntity(place, entity);
+    return true;
+  }
+  return false;
+}
+
+std::optional<std::string> SelectBase::getAsString(const SelectInfo& info, bool withType) const {
+  if (m_position == npos) return std::nullopt;
+  const AlternativeInfo& alternative = info.alternatives[m_position];
+  if (alternative.nested)
+    return at(info).select(const_cast<void*>(value(info)))->getAsString(*alternative.nested, withType);
+  std::optional<std::string> text = at(info).getAsString(value(info));
+  if (text && withType) text = std::string(alternative.name) + "(" + *text + ")";
+  return text;
+}
+
+bool SelectBase::setFromString(const SelectInfo& info, const std::string& text) {
+  const std::size_t open = text.find('(');
+  if (open == std::string::npos || text.back() != ')') return false;
+  return setTypeFromString(info, text.substr(0, open)) &&
+         setValueOnTypeFromString(info, text.substr(open + 1, text.size() - open - 2));
+}
+
+bool SelectBase::setTypeFromString(const SelectInfo& info, const std::string& name) {
+  for (std::uint32_t i = 0; i < info.alternatives.size(); ++i) {
+    const AlternativeInfo& alternative = info.alternatives[i];
+    if (info.nestedOnly) {
+      SelectBase candidate;
+      void* place = candidate.make(info, i);
+      const bool known = alternative.operations->select(place)->setTypeFromString(*alternative.nested, name);
+      if (known) moveFrom(info, candidate);
+      candidate.reset(info);
+      if (known) return true;
+    } else if (alternative.name == name) {
+      make(info, i);
+      return true;
+    }
+  }
+  return false;
+}
+
+bool SelectBase::setValueOnTypeFromString(const SelectInfo& info, const std::string& text) {
+  if (m_position == npos) return false;
+  const AlternativeInfo& alternative = info.alternatives[m_position];
+  if (alternative.nested) return at(info).select(value(info))->setValueOnTypeFromString(*alternative.nested, text);
+  if (info.entitiesOnly) return false;
+  return at(info).setFromString(value(info), text);
+}
+
+void SelectBase::forEachEntity(const SelectInfo& info, TypeOperations::EntityCallback callback) const {
+  if (m_position == npos) return;
+  const AlternativeInfo& alternative = info.alternatives[m_position];
+  if (alternative.nested)
+    at(info).select(const_cast<void*>(value(info)))->forEachEntity(*alternative.nested, callback);
+  else
+    at(info).type->forEachEntity(value(info), callback);
+}
+
+bool SelectBase::read(const SelectInfo& info, ValueSource& source, const TypeOperations& expected) {
+  switch (source.next()) {
+    case ValueSource::Kind::null:
+    case ValueSource::Kind::derived:
+      source.skip();
+      reset(info);
+      return true;
+    case ValueSource::Kind::entity:
+      return readEntity(info, source, expected);
+    case ValueSource::Kind::typed: {
+      const std::string_view upperName = source.openTyped();
+      const bool known = holdsTyped(info, upperName);
+      bool stored = known && readTyped(info, upperName, source);
+      if (!known) {
+        source.rejected(Rejection::unknownType, upperName, expected);
+        source.skip();
+      }
+      source.closeTyped();
+      return stored;
+    }
+    default:
+      source.rejected(Rejection::wrongKind, {}, expected);
+      source.skip();
+      return false;
+  }
+}
+
+bool SelectBase::readTyped(const SelectInfo& info, std::string_view upperName, ValueSource& source) {
+  for (std::uint32_t i = 0; i < info.alternatives.size(); ++i) {
+    const AlternativeInfo& alternative = info.alternatives[i];
+    if (alternative.nested) {
+      if (!holdsTyped(*alternative.nested, upperName)) continue;
+      return alternative.operations->select(make(info, i))->readTyped(*alternative.nested, upperName, source);
+    }
+    if (alternative.isEntity() || alternative.upperName != upperName) continue;
+    return alternative.operations->type->read(make(info, i), source);
+  }
+  return false;
+}
+
+bool SelectBase::readEntity(const SelectInfo& info, ValueSource& source, const TypeOperations& expected) {
+  const std::shared_ptr<FcBase>* entity = source.takeEntity();
+  if (!entity) return false;
+  if (setEntity(info, *entity)) return true;
+  source.rejected(Rejection::wrongClass, (*entity)->ifcNameUpper(), expected);
+  return false;
+}
+
+void SelectBase::write(const SelectInfo& info, ValueSink& sink) const {
+  if (m_position == npos) {
+    sink.null();
+    return;
+  }
+  const AlternativeInfo& alternative = info.alternatives[m_position];
+  if (alternative.nested) {
+    at(info).select(const_cast<void*>(value(info)))->write(*alternative.nested, sink);
+  } else if (alternative.isEntity()) {
+    at(info).type->write(value(info), sink);
+  } else {
+    sink.openTyped(alternative.upperName);
+    at(info).type->write(value(info), sink);
+    sink.closeTyped();
+  }
+}
+
+}  // namespace qor::fc
