@@ -28,8 +28,8 @@ class QOR_API Guid {
                  const std::array<std::uint8_t, 8>& data4)
       : m_data1(data1), m_data2(data2), m_data3(data3), m_data4(data4) {}
 
-  /// A random guid (version 4), different on each call and on each thread. About ten nanoseconds;
-  /// the first call on a thread also takes a seed from the operating system.
+  /// A random guid (version 4), different on each call and on each thread. Some fifteen
+  /// nanoseconds; the first call on a thread also takes a seed from the operating system.
   static Guid generate();
 
   constexpr bool isNull() const { return *this == Guid(); }

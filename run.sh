@@ -1,0 +1,38 @@
+#!/usr/bin/env bash
+# Builds fctool and runs it on a model: what is in it, its tree, and the model written back to out/.
+#   ./run.sh              on the small model that the repository carries
+#   ./run.sh model.ifc    on yours
+# Exits as fctool does: 0, 1 (the file has problems, all reported) or 2 (it can't be done).
+set -euo pipefail
+
+if (($# > 1)); then
+  echo "usage: $0 [model.ifc]" >&2
+  exit 2
+fi
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+model=${1:-$root/Examples/sample.ifc}
+if [[ ! -r $model ]]; then
+  echo "run.sh: can't read '$model'" >&2
+  exit 2
+fi
+
+# Standard output is for what fctool tells.
+bash "$root/cmake/packages.sh" build
+cmake -S "$root" --preset release -B "$root/build/run" -DFC_BUILD_TESTS=OFF \
+  -DCMAKE_RUNTIME_OUTPUT_DIRECTORY="$root/build/run/bin" >&2
+cmake --build "$root/build/run" --target fctool >&2
+
+worst=0
+fctool() {
+  local code=0
+  "$root/build/run/bin/fctool" "$@" || code=$?
+  ((code < 2)) || exit "$code"
+  ((code <= worst)) || worst=$code
+}
+
+mkdir -p "$root/out"
+written=$root/out/$(basename "$model")
+fctool info "$model"
+fctool tree "$model"
+fctool convert "$model" "$written"
+exit "$worst"

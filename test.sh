@@ -1,0 +1,15 @@
+#!/usr/bin/env bash
+# Builds everything and runs all tests; ends with ctest's own summary.
+set -euo pipefail
+
+cd "$(dirname "${BASH_SOURCE[0]}")"
+bash cmake/packages.sh build test
+cmake --preset release
+cmake --build --preset release
+
+# A bounded fuzz run, in a build of its own; what it finds fails here, before the tests.
+if [[ -f cmake/fuzz.sh ]]; then
+  bash cmake/fuzz.sh
+fi
+
+ctest --test-dir build/release --output-on-failure --parallel "$(nproc)"
