@@ -4,6 +4,8 @@
 #include <charconv>
 #include <stdexcept>
 
+#include "Qor/String/IgnoreCase.h"
+
 namespace qor::schema {
 namespace {
 
@@ -12,7 +14,6 @@ bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 bool isWordPart(char c) { return isLetter(c) || isDigit(c) || c == '_'; }
 bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\f'; }
-char upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
 }  // namespace
 
@@ -20,10 +21,7 @@ TokenReader::TokenReader(std::string_view text, int firstLine) : m_rest(text), m
   skip();
 }
 
-bool TokenReader::at(std::string_view word) const {
-  return std::equal(m_token.begin(), m_token.end(), word.begin(), word.end(),
-                    [](char a, char b) { return upper(a) == upper(b); });
-}
+bool TokenReader::at(std::string_view word) const { return equalsIgnoreCase(m_token, word); }
 
 void TokenReader::skip() {
   m_token = {};

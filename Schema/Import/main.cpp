@@ -3,9 +3,7 @@
 #include <iostream>
 #include <sstream>
 
-#include "Schema/Import/ExpressReader.h"
-#include "Schema/Import/Groups.h"
-#include "Schema/SchemaCheck.h"
+#include "Schema/Import/SchemaImport.h"
 
 namespace {
 
@@ -23,7 +21,7 @@ void withFile(const std::string& path, const Read& read) {
   }
 }
 
-SchemaTable importSchema(const std::string& express, const std::vector<std::string>& groupFiles) {
+SchemaTable importFiles(const std::string& express, const std::vector<std::string>& groupFiles) {
   Groups groups;
   for (const std::string& path : groupFiles) {
     withFile(path, [&](std::istream& in) { readGroups(in, groups); });
@@ -32,9 +30,7 @@ SchemaTable importSchema(const std::string& express, const std::vector<std::stri
   withFile(express, [&](std::istream& in) {
     std::ostringstream text;
     text << in.rdbuf();
-    table = readExpress(text.str());
-    checkSchemaTable(table);
-    assignGroups(table, groups);
+    table = importSchema(text.str(), groups);
   });
   return table;
 }
@@ -51,10 +47,11 @@ int main(int argc, char** argv) {
       ->required();
   CLI11_PARSE(app, argc, argv);
   try {
-    writeSchemaTable(std::cout, importSchema(express, groupFiles));
+    writeSchemaTable(std::cout, importFiles(express, groupFiles));
+    if (!std::cout.flush()) throw std::runtime_error("the table can't be written");
   } catch (const std::exception& error) {
     std::cerr << error.what() << '\n';
     return 2;
   }
-  return std::cout.flush() ? 0 : 2;
+  return 0;
 }

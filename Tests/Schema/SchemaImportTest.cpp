@@ -1,0 +1,81 @@
+#include "Schema/Import/SchemaImport.h"
+
+#include <gmock/gmock.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "Tests/Schema/ExpectError.h"
+#include "Tests/Support/SharedModels.h"
+
+namespace qor::schema {
+namespace {
+
+using test::errorOf;
+using testing::Pair;
+using testing::UnorderedElementsAre;
+
+Groups groupsOf(std::initializer_list<const char*> files) {
+  Groups groups;
+  for (const char* file : files) {
+    std::istringstream in(file);
+    readGroups(in, groups);
+  }
+  return groups;
+}
+
+std::string textOf(const std::filesystem::path& path) {
+  std::ifstream in(path, std::ios::binary);
+  std::ostringstream text;
+  text << in.rdbuf();
+  return text.str();
+}
+
+TEST(Groups, ComeFromListsAndFromTables) {
+  EXPECT_THAT(groupsOf({"# name\tgroup\nIfcWall\tshared::buildingelements\r\n\nIfcRoot\tcore\n",
+                        "-- a table\nschema S\nentity IfcRoot core\ntype IfcLabel measure : REAL\n"
+                        "enumeration IfcE core\n  A\nselect IfcS core\n  IfcRoot\n"}),
+              UnorderedElementsAre(Pair("IfcWall", "shared::buildingelements"),
+                                   Pair("IfcRoot", "core"), Pair("IfcLabel", "measure"),
+                                   Pair("IfcE", "core"), Pair("IfcS", "core")));
+}
+
+TEST(Groups, AreRefusedWhenUnclear) {
+  EXPECT_EQ(errorOf([] {
+              groupsOf({"IfcWall\ta::b\n", "IfcWall\ta::c\n"});
+            }),
+            "IfcWall has two groups, a::b and a::c");
+  EXPECT_EQ(errorOf([] { groupsOf({"IfcWall\ta\nIfcDoor\n"}); }),
+            "line 2: expected a group, found the end");
+}
+
+TEST(SchemaImport, PutsEveryElementInItsGroup) {
+  const SchemaTable table =
+      importSchema("SCHEMA S; ENTITY A; END_ENTITY; TYPE B = SELECT (A); END_TYPE; END_SCHEMA;",
+                   {{"A", "one::a"}, {"B", "two::b"}, {"Gone", "three"}});
+  EXPECT_EQ(table.entities.at(0).group, "one::a");
+  EXPECT_EQ(table.selects.at(0).group, "two::b");
+}
+
+TEST(SchemaImport, NamesWhatIsMissingOrThereTwice) {
+  const auto errorOfImport = [](const std::string& declarations) {
+    return errorOf([&] {
+      importSchema("SCHEMA S; " + declarations + " END_SCHEMA;", {{"A", "core"}});
+    });
+  };
+  EXPECT_EQ(errorOfImport("ENTITY A; END_ENTITY; ENTITY C; END_ENTITY; TYPE B = REAL; END_TYPE;"),
+            "no group is given for: C B");
+  EXPECT_EQ(errorOfImport("ENTITY A; Tag : IfcLabel; END_ENTITY;"), "A.Tag: unknown type IfcLabel");
+  EXPECT_EQ(errorOfImport("ENTITY A; END_ENTITY; TYPE A = REAL; END_TYPE;"), "A is defined twice");
+}
+
+TEST(SchemaImport, MakesTheCommittedTableAgain) {
+  FC_SHARED_FILE_OR_SKIP(express, "IFC4X3_ADD2.exp");
+  const std::string committed = textOf(FC_SCHEMA_TABLE);
+  std::ostringstream again;
+  writeSchemaTable(again, importSchema(textOf(express), groupsOf({committed.c_str()})));
+  EXPECT_TRUE(again.str() == committed) << "run schema_import, and look at the difference";
+}
+
+}  // namespace
+}  // namespace qor::schema
