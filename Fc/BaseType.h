@@ -13,7 +13,8 @@
 
 namespace qor::fc {
 
-/// Reports "Not implemented for this type" for a value type without a text form. `type` is the type as the report spells it.
+/// Reports "Not implemented for this type" for a value type without a text form. `type` is the type
+/// as the report spells it.
 QOR_API void reportNoTextForm(const std::string& type, const char* operation);
 
 /// How a report spells a value type: "class std::vector<double,class std::allocator<double> >".
@@ -34,10 +35,12 @@ struct TypeSpelling<std::uint8_t> {
 };
 template <class T>
 struct TypeSpelling<std::shared_ptr<T>> {
-  static std::string get() { return "class std::shared_ptr<class " + std::string(T::spelling) + ">"; }
+  static std::string get() {
+    return "class std::shared_ptr<class " + std::string(T::spelling) + ">";
+  }
 };
 template <class T>
-  requires requires { T::spelling; }
+requires requires { T::spelling; }
 struct TypeSpelling<T> {
   static std::string get() { return "class " + std::string(T::spelling); }
 };
@@ -51,10 +54,13 @@ struct TypeSpelling<std::vector<T>> {
 };
 template <class T, std::size_t N>
 struct TypeSpelling<std::array<T, N>> {
-  static std::string get() { return "class std::array<" + TypeSpelling<T>::get() + "," + std::to_string(N) + ">"; }
+  static std::string get() {
+    return "class std::array<" + TypeSpelling<T>::get() + "," + std::to_string(N) + ">";
+  }
 };
 
-/// The text of a plain value, by its type alone; an assert and the negative result for a type that has no text form.
+/// The text of a plain value, by its type alone; an assert and the negative result for a type that
+/// has no text form.
 template <class T>
 std::optional<std::string> valueAsString(const T& value) {
   if constexpr (std::is_same_v<T, std::string>)
@@ -96,19 +102,23 @@ bool valueFromString(T& value, const std::string& text) {
   }
 }
 
-/// The base of every defined type of the schema: one value of type `T` under a name of its own. Converts both ways, so that
-/// numbers may be given and taken as numbers.
+/// The base of every defined type of the schema: one value of type `T` under a name of its own.
+/// Converts both ways, so that numbers may be given and taken as numbers.
 template <class T>
 class BaseType {
  public:
   using ValueType = T;
 
   BaseType() = default;
-  BaseType(T value) : m_value(std::move(value)) {}  // NOLINT(google-explicit-constructor): a length is given as a number
+  BaseType(T value)
+      : m_value(std::move(value)) {
+  }  // NOLINT(google-explicit-constructor): a length is given as a number
 
   const T& value() const { return m_value; }
   T& valueNonConst() { return m_value; }
-  operator const T&() const { return m_value; }  // NOLINT(google-explicit-constructor): and taken as one
+  operator const T&() const {
+    return m_value;
+  }  // NOLINT(google-explicit-constructor): and taken as one
 
   /// "2.500000"; empty, with an assert, where `T` has no text form.
   std::optional<std::string> getAsString() const { return valueAsString(m_value); }

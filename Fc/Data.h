@@ -21,13 +21,15 @@ class FcProject;
 class FcRoot;
 }  // namespace core::kernel
 
-/// One model: all entities of one IFC project in memory. Always held by a `std::shared_ptr`, which entities point back at.
+/// One model: all entities of one IFC project in memory. Always held by a `std::shared_ptr`, which
+/// entities point back at.
 ///
-/// Owns what it lists. An add is an append; sorting by class and indexing by guid wait for the first query that needs them and are
-/// then done for all at once. A class query is a binary search, since the ids of a class and its subclasses are one range.
+/// Owns what it lists. An add is an append; sorting by class and indexing by guid wait for the
+/// first query that needs them and are then done for all at once. A class query is a binary search,
+/// since the ids of a class and its subclasses are one range.
 ///
-/// No locks: a model belongs to one thread at a time. Before handing a model to reading threads, ask one class query and one
-/// guid look-up.
+/// No locks: a model belongs to one thread at a time. Before handing a model to reading threads,
+/// ask one class query and one guid look-up.
 class QOR_API Data : public std::enable_shared_from_this<Data> {
  public:
   using Entities = std::vector<std::shared_ptr<FcBase>>;
@@ -37,11 +39,12 @@ class QOR_API Data : public std::enable_shared_from_this<Data> {
   Data& operator=(const Data&) = delete;
   ~Data();
 
-  /// A new entity of the class with this mixed-case name, "IfcWall"; null, with an assert, for an unknown or abstract class.
-  /// A root gets no guid.
+  /// A new entity of the class with this mixed-case name, "IfcWall"; null, with an assert, for an
+  /// unknown or abstract class. A root gets no guid.
   std::shared_ptr<FcBase> entityCreate(const std::string& ifcName);
-  /// Lists the entity; with `checkDuplicate` only when it isn't there yet, which is a linear search. Null is no error. A root and
-  /// a geometric representation context learn of their model here.
+  /// Lists the entity; with `checkDuplicate` only when it isn't there yet, which is a linear
+  /// search. Null is no error. A root and a geometric representation context learn of their model
+  /// here.
   void entityAdd(std::shared_ptr<FcBase> entity, bool checkDuplicate);
   /// Takes the entity off the list, false when it isn't there. What refers to it goes on doing so.
   bool entityDelete(std::shared_ptr<FcBase> entity);
@@ -57,12 +60,15 @@ class QOR_API Data : public std::enable_shared_from_this<Data> {
 
   /// Takes all entities off the list. The references among them stay.
   void clear();
-  /// Keeps exactly what the project reaches, by forward or inverse attributes; an assert and no change without a project.
+  /// Keeps exactly what the project reaches, by forward or inverse attributes; an assert and no
+  /// change without a project.
   void rebuildEntityList();
 
   /// All that `start` reaches by forward and inverse attributes, itself included.
-  static std::set<std::shared_ptr<FcBase>> getAllReferencedEntitiesNonConst(std::shared_ptr<FcBase> start);
-  static std::set<std::shared_ptr<const FcBase>> getAllReferencedEntities(std::shared_ptr<const FcBase> start);
+  static std::set<std::shared_ptr<FcBase>> getAllReferencedEntitiesNonConst(
+      std::shared_ptr<FcBase> start);
+  static std::set<std::shared_ptr<const FcBase>> getAllReferencedEntities(
+      std::shared_ptr<const FcBase> start);
 
   /// A new entity of class `T`, listed.
   template <class T>
@@ -71,7 +77,8 @@ class QOR_API Data : public std::enable_shared_from_this<Data> {
     entityAdd(entity, false);
     return entity;
   }
-  /// All entities of class `T` and its subclasses, as a range of `std::shared_ptr<T>`; valid until an entity is added or deleted.
+  /// All entities of class `T` and its subclasses, as a range of `std::shared_ptr<T>`; valid until
+  /// an entity is added or deleted.
   template <class T>
   auto entities() const {
     return typed<T>(rangeFromId(T::firstClassId, T::lastClassId));
@@ -81,15 +88,17 @@ class QOR_API Data : public std::enable_shared_from_this<Data> {
   auto entitiesExactly() const {
     return typed<T>(rangeFromId(T::firstClassId));
   }
-  /// The first entity of class `T` or a subclass that the predicate, which takes a `const T&`, holds for; null for none.
+  /// The first entity of class `T` or a subclass that the predicate, which takes a `const T&`,
+  /// holds for; null for none.
   template <class T, class Predicate>
   std::shared_ptr<T> findFirst(Predicate&& predicate) const {
     for (std::shared_ptr<T> entity : entities<T>())
       if (predicate(std::as_const(*entity))) return entity;
     return nullptr;
   }
-  /// The root with this guid, null for none. Roots that had no guid when they were added are found from then on that they have
-  /// one; a root whose guid changes after it was looked up stays under the old one.
+  /// The root with this guid, null for none. Roots that had no guid when they were added are found
+  /// from then on that they have one; a root whose guid changes after it was looked up stays under
+  /// the old one.
   std::shared_ptr<core::kernel::FcRoot> entityByGuid(const Guid& guid) const;
 
   /// All entities, sorted by class.
@@ -112,8 +121,9 @@ class QOR_API Data : public std::enable_shared_from_this<Data> {
   template <class T>
   static auto typed(ConstRange range) {
     return std::ranges::subrange(range.first, range.second) |
-           std::views::transform(
-               [](const std::shared_ptr<FcBase>& entity) { return std::static_pointer_cast<T>(entity); });
+           std::views::transform([](const std::shared_ptr<FcBase>& entity) {
+             return std::static_pointer_cast<T>(entity);
+           });
   }
 
   mutable Entities m_entities;

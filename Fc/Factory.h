@@ -17,9 +17,9 @@ class FcBase;
 
 /// The whole schema by name: 876 classes, of which 743 can be instantiated.
 ///
-/// The key is the hash of the mixed-case name ("IfcWall"); the characters aren't compared, and "IFCWALL" is unknown. A look-up is
-/// about ten comparisons of numbers. An unknown name raises an assert that names it and gives the negative result. Safe from any
-/// thread.
+/// The key is the hash of the mixed-case name ("IfcWall"); the characters aren't compared, and
+/// "IFCWALL" is unknown. A look-up is about ten comparisons of numbers. An unknown name raises an
+/// assert that names it and gives the negative result. Safe from any thread.
 class QOR_API Factory {
  public:
   /// A new, empty instance; null for an unknown or abstract class.
@@ -27,7 +27,8 @@ class QOR_API Factory {
   /// Empty for an unknown or abstract class.
   static std::optional<std::type_index> typeInfoFromIfcName(const StringHash& name);
   /// (`classId`, `classIdLast`); abstract classes too.
-  static std::optional<std::pair<unsigned int, unsigned int>> boundFromIfcName(const StringHash& name);
+  static std::optional<std::pair<unsigned int, unsigned int>> boundFromIfcName(
+      const StringHash& name);
   /// The classes that can be instantiated, by type. Built on the first call.
   static const std::map<std::type_index, StringHash>& getFcClasses();
 

@@ -21,18 +21,21 @@ class FcVisitorBase;
 class FcVisitorBaseNonConst;
 class Property;
 
-/// The root of all schema classes: every instance of an IFC entity is an object of a class below it, held by a `std::shared_ptr`
-/// that `std::make_shared` made.
+/// The root of all schema classes: every instance of an IFC entity is an object of a class below
+/// it, held by a `std::shared_ptr` that `std::make_shared` made.
 ///
-/// What a class knows of its attributes stands in constant tables (`ClassInfo`), on which the operations here work once for all
-/// classes. Those that take an attribute's name compare it exactly along the chain of classes, which is for tools and user
-/// interfaces; hot code uses the typed accessors, readers and writers the tables themselves.
+/// What a class knows of its attributes stands in constant tables (`ClassInfo`), on which the
+/// operations here work once for all classes. Those that take an attribute's name compare it
+/// exactly along the chain of classes, which is for tools and user interfaces; hot code uses the
+/// typed accessors, readers and writers the tables themselves.
 ///
-/// Forward attributes own what they name, inverse attributes are weak. Nothing here is locked: several threads may read an
-/// entity that nobody changes.
-class QOR_API FcBase : public generate::ObjectInterface, public std::enable_shared_from_this<FcBase> {
+/// Forward attributes own what they name, inverse attributes are weak. Nothing here is locked:
+/// several threads may read an entity that nobody changes.
+class QOR_API FcBase : public generate::ObjectInterface,
+                       public std::enable_shared_from_this<FcBase> {
  public:
-  using EntityCallback = std::function<void(const std::shared_ptr<FcBase>&, const object::PropertyId&)>;
+  using EntityCallback =
+      std::function<void(const std::shared_ptr<FcBase>&, const object::PropertyId&)>;
 
   FcBase() = default;
   FcBase(const FcBase&) = delete;
@@ -42,12 +45,14 @@ class QOR_API FcBase : public generate::ObjectInterface, public std::enable_shar
   /// The record of the dynamic class.
   virtual const ClassInfo& classInfo() const = 0;
 
-  const char* ifcNameUpper() const { return classInfo().upperName.text; }         ///< "IFCWALL"
-  const char* ifcName() const { return classInfo().name.text; }                   ///< "IfcWall"
+  const char* ifcNameUpper() const { return classInfo().upperName.text; }  ///< "IFCWALL"
+  const char* ifcName() const { return classInfo().name.text; }            ///< "IfcWall"
   StringHash ifcNameUpperHash() const { return classInfo().upperName; }
   StringHash ifcNameHash() const { return classInfo().name; }
-  const char* schemaGroup() const { return classInfo().group; }                   ///< "Building Elements"
-  const char* schemaGroupPath() const { return classInfo().groupPath; }           ///< "Shared.Building Elements"
+  const char* schemaGroup() const { return classInfo().group; }  ///< "Building Elements"
+  const char* schemaGroupPath() const {
+    return classInfo().groupPath;
+  }  ///< "Shared.Building Elements"
   std::uint32_t classId() const { return classInfo().classId; }
   std::uint32_t classIdLast() const { return classInfo().classIdLast; }
 
@@ -55,48 +60,54 @@ class QOR_API FcBase : public generate::ObjectInterface, public std::enable_shar
   virtual void accept(FcVisitorBase& visitor) const;
   virtual void accept(FcVisitorBaseNonConst& visitor);
 
-  /// The text forms: numbers as "%f", "true", an enumerator's name, "(a, b)" for a list. Reading gives nothing for an unknown
-  /// or absent attribute. Setting gives false for a text that isn't one of the attribute's type, after an absent attribute has
-  /// become present with its default. References have no text form: an assert, and nothing or false.
+  /// The text forms: numbers as "%f", "true", an enumerator's name, "(a, b)" for a list. Reading
+  /// gives nothing for an unknown or absent attribute. Setting gives false for a text that isn't
+  /// one of the attribute's type, after an absent attribute has become present with its default.
+  /// References have no text form: an assert, and nothing or false.
   virtual bool setAttributeFromString(const std::string& name, const std::string& value);
   virtual std::optional<std::string> getAttributeAsString(const std::string& name) const;
 
-  /// Writes this entity into the inverse attributes of all that its forward attributes name. Removes nothing.
-  /// Throws `std::bad_weak_ptr` when no `std::shared_ptr` holds this entity and there is something to write.
+  /// Writes this entity into the inverse attributes of all that its forward attributes name.
+  /// Removes nothing. Throws `std::bad_weak_ptr` when no `std::shared_ptr` holds this entity and
+  /// there is something to write.
   virtual void updateInverseAttributes();
   /// Empties the inverse attributes of this entity.
   virtual void clearInverseAttributes();
 
-  /// Calls back for each entity that this one refers to, supertypes' attributes first, in schema order, with `followInverse` also
-  /// for each that refers to this one. `callback` must be callable.
+  /// Calls back for each entity that this one refers to, supertypes' attributes first, in schema
+  /// order, with `followInverse` also for each that refers to this one. `callback` must be
+  /// callable.
   virtual void forEachEntity(const EntityCallback& callback, bool followInverse);
 
   /// The value with its kind; see `LocalValueBase`. Inverse attributes can be read, not written.
   virtual LocalValue getLocalValue(const object::PropertyId& id) const;
-  /// False, and no change, for an unknown attribute or a value of another kind. The empty value clears. An unknown enumerator
-  /// stores the last one, an entity of another class stores null, both with true. Inverse attributes are kept in step.
+  /// False, and no change, for an unknown attribute or a value of another kind. The empty value
+  /// clears. An unknown enumerator stores the last one, an entity of another class stores null,
+  /// both with true. Inverse attributes are kept in step.
   virtual bool setLocalValue(LocalValue value, const object::PropertyId& id);
 
   virtual bool isOptional(const object::PropertyId& id) const;
-  /// The name for people, from the dictionaries of context "IFC" under "IfcWall.PredefinedType"; without one the bare name.
-  /// Empty for an unknown attribute.
+  /// The name for people, from the dictionaries of context "IFC" under "IfcWall.PredefinedType";
+  /// without one the bare name. Empty for an unknown attribute.
   virtual std::string getPropertyName(const object::PropertyId& id) const;
   /// The same under "IfcWall.PredefinedType_Description".
   virtual std::string getPropertyDescription(const object::PropertyId& id) const;
-  /// What an inspector shows: all forward attributes but references, supertypes' first. Throws `std::bad_weak_ptr` when no
-  /// `std::shared_ptr` holds this entity.
+  /// What an inspector shows: all forward attributes but references, supertypes' first. Throws
+  /// `std::bad_weak_ptr` when no `std::shared_ptr` holds this entity.
   virtual std::vector<std::shared_ptr<Property>> getLocalProperties() const;
   virtual bool hasEnumeratedValues(const object::PropertyId& id) const;
   /// All enumerators of an attribute of enumeration type; empty for any other.
   virtual std::vector<std::string> getEnumeratedValues(const object::PropertyId& id) const;
 };
 
-/// The entity as a `T`, or null when it is of another class or null itself. Two comparisons of class ids, no run-time type check.
+/// The entity as a `T`, or null when it is of another class or null itself. Two comparisons of
+/// class ids, no run-time type check.
 template <class T, class Base>
 std::shared_ptr<T> fcCast(const std::shared_ptr<Base>& entity) {
   if (!entity) return nullptr;
   const std::uint32_t id = entity->classId();
-  return id >= T::firstClassId && id < T::lastClassId + 1 ? std::static_pointer_cast<T>(entity) : nullptr;
+  return id >= T::firstClassId && id < T::lastClassId + 1 ? std::static_pointer_cast<T>(entity)
+                                                          : nullptr;
 }
 template <class T>
 T* fcCast(FcBase* entity) {

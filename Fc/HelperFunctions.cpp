@@ -19,14 +19,19 @@ std::string_view numberOf(std::string_view text) {
 
 void reportNotImplemented(const char* function, int line) {
   if (Assert::isEnabled())
-    Assert::addAssert({.kind = 0, .message = "Not implemented", .function = function, .source = "HelperFunctions", .line = line});
+    Assert::addAssert({.kind = 0,
+                       .message = "Not implemented",
+                       .function = function,
+                       .source = "HelperFunctions",
+                       .line = line});
 }
 
 }  // namespace
 
 std::string textFromReal(double value) {
   char buffer[352];  // 309 digits before the point, 6 behind it, sign and point
-  const auto [end, error] = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed, 6);
+  const auto [end, error] =
+      std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed, 6);
   return {buffer, end};
 }
 

@@ -10,11 +10,13 @@
 
 namespace qor::fc {
 
-/// Texts of attribute values and back. Readers answer false for a text that isn't one and then leave `out` as it was.
+/// Texts of attribute values and back. Readers answer false for a text that isn't one and then
+/// leave `out` as it was.
 
 /// Six decimals, a point whatever the locale: "2.500000".
 QOR_API std::string textFromReal(double value);
-/// White space in front and anything behind the number are passed over; false for no digits and for a number out of range.
+/// White space in front and anything behind the number are passed over; false for no digits and for
+/// a number out of range.
 QOR_API bool realFromText(const std::string& text, double& out);
 /// As `realFromText`, base 10; the range is that of 32 bits.
 QOR_API bool integerFromText(const std::string& text, std::int64_t& out);

@@ -14,7 +14,11 @@ if(FC_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
 endif()
 
 if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+  set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
   add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Werror)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    add_compile_options(-Wno-restrict) # false alarms on short literals at -O3 in GCC 12
+  endif()
   if(FC_CCACHE AND CMAKE_CXX_COMPILER_ID MATCHES "GNU")
     add_compile_options(-fpch-preprocess) # ccache can only cache users of a precompiled header with it
   endif()

@@ -10,8 +10,6 @@
 namespace qor::fc {
 
 class FcBase;
-class InverseEntries;
-struct ClassInfo;
 
 /// One level of aggregation of an attribute, as the schema declares it.
 struct AggregateInfo {
@@ -23,15 +21,16 @@ struct AggregateInfo {
   std::uint32_t upper;
 };
 
-/// Where a forward attribute is written on its target: on targets whose class id lies in [first, last], into the inverse
-/// attribute that `entries` gives.
+struct AttributeInfo;
+
+/// Where a forward attribute is written on its target: on targets whose class id lies in [first,
+/// last], into that inverse attribute.
 struct InverseLink {
   std::uint32_t first;
   std::uint32_t last;
   /// Holds one entry at most: a further one replaces it.
   bool single;
-  const char* inverseName;
-  InverseEntries& (*entries)(FcBase& target);
+  const AttributeInfo* inverse;
 };
 
 /// One attribute of a schema class, forward or inverse: constant, with the whole program's life.
@@ -39,8 +38,8 @@ struct AttributeInfo {
   /// The EXPRESS name, "PredefinedType".
   std::string_view name;
   const object::PropertyId& (*id)();
-  /// The declared type without aggregation and OPTIONAL: "IfcWallTypeEnum", "IfcLabel", "REAL"; of an inverse attribute the
-  /// class that holds the forward attribute.
+  /// The declared type without aggregation and OPTIONAL: "IfcWallTypeEnum", "IfcLabel", "REAL"; of
+  /// an inverse attribute the class that holds the forward attribute.
   std::string_view typeName;
   /// Outermost first; empty for a single value.
   std::span<const AggregateInfo> aggregates;
@@ -49,7 +48,8 @@ struct AttributeInfo {
   std::string_view forward;
   /// Of a forward attribute that the schema pairs with inverse attributes.
   std::span<const InverseLink> links;
-  /// The member of an entity whose class declares or inherits this attribute; any other entity is undefined behaviour.
+  /// The member of an entity whose class declares or inherits this attribute (of an inverse one its
+  /// `InverseEntries`); any other entity is undefined behaviour.
   void* (*member)(FcBase& entity);
   const TypeOperations* type;
 

@@ -13,8 +13,8 @@ namespace qor::fc {
 
 class FcBase;
 
-/// What is constant about a schema class. One record a class, reached from an instance by `FcBase::classInfo()`, from the type
-/// by `FcWall::info()` and from a name by `Factory`.
+/// What is constant about a schema class. One record a class, reached from an instance by
+/// `FcBase::classInfo()`, from the type by `FcWall::info()` and from a name by `Factory`.
 struct ClassInfo {
   StringHash name;        ///< "IfcWall"
   StringHash upperName;   ///< "IFCWALL"
@@ -44,6 +44,22 @@ struct ClassInfo {
       if (derived == attribute) return true;
     return parent && parent->isDerived(attribute);
   }
+  /// The forward attribute of this name, inherited or not; null for none. Compares names along the
+  /// chain of classes.
+  const AttributeInfo* findAttribute(std::string_view attribute) const {
+    return find(attribute, &ClassInfo::attributes);
+  }
+  const AttributeInfo* findInverseAttribute(std::string_view attribute) const {
+    return find(attribute, &ClassInfo::inverseAttributes);
+  }
+  /// The class in the chain that declares the attribute, forward or inverse; null for none.
+  const ClassInfo* declaringClass(std::string_view attribute) const {
+    for (const ClassInfo* info = this; info; info = info->parent)
+      if (info->declares(attribute, &ClassInfo::attributes) ||
+          info->declares(attribute, &ClassInfo::inverseAttributes))
+        return info;
+    return nullptr;
+  }
   /// Calls back for each forward attribute, supertypes first: the order of a file's parameters.
   template <class Callback>
   void forEachAttribute(Callback&& callback) const {
@@ -55,6 +71,28 @@ struct ClassInfo {
   void forEachInverseAttribute(Callback&& callback) const {
     if (parent) parent->forEachInverseAttribute(callback);
     for (const AttributeInfo& attribute : inverseAttributes) callback(attribute);
+  }
+  /// Class by class, supertypes first: the forward attributes to `forward`, then the inverse ones
+  /// to `inverse`.
+  template <class Forward, class Inverse>
+  void forEachAttributeByClass(Forward&& forward, Inverse&& inverse) const {
+    if (parent) parent->forEachAttributeByClass(forward, inverse);
+    for (const AttributeInfo& attribute : attributes) forward(attribute);
+    for (const AttributeInfo& attribute : inverseAttributes) inverse(attribute);
+  }
+
+ private:
+  using Attributes = std::span<const AttributeInfo> ClassInfo::*;
+
+  const AttributeInfo* declares(std::string_view attribute, Attributes list) const {
+    for (const AttributeInfo& info : this->*list)
+      if (info.name == attribute) return &info;
+    return nullptr;
+  }
+  const AttributeInfo* find(std::string_view attribute, Attributes list) const {
+    for (const ClassInfo* info = this; info; info = info->parent)
+      if (const AttributeInfo* found = info->declares(attribute, list)) return found;
+    return nullptr;
   }
 };
 

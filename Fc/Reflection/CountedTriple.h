@@ -7,8 +7,8 @@
 
 namespace qor::fc {
 
-/// Up to three numbers in place: the coordinates of a point, the ratios of a direction. Unused ones are 0, so that a planar
-/// point may be read as a spatial one. No heap.
+/// Up to three numbers in place: the coordinates of a point, the ratios of a direction. Unused ones
+/// are 0, so that a planar point may be read as a spatial one. No heap.
 template <class T>
 class CountedTriple {
  public:

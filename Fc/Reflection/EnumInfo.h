@@ -24,8 +24,8 @@ struct EnumInfo {
   }
 };
 
-/// What every enumeration class of the schema offers. `Derived` has a nested `Enum`, whose enumerators stand in the schema's
-/// order from 0, and `static const EnumInfo& info()`.
+/// What every enumeration class of the schema offers. `Derived` has a nested `Enum`, whose
+/// enumerators stand in the schema's order from 0, and `static const EnumInfo& info()`.
 template <class Derived>
 class EnumBase {
  public:
@@ -46,8 +46,8 @@ class EnumBase {
   static std::vector<std::string> enumNames() {
     return {Derived::info().names.begin(), Derived::info().names.end()};
   }
-  /// What an absent attribute holds while it is being set, and what an unknown name stores: the last enumerator, as a rule
-  /// NOTDEFINED.
+  /// What an absent attribute holds while it is being set, and what an unknown name stores: the
+  /// last enumerator, as a rule NOTDEFINED.
   static Derived last() {
     return static_cast<typename Derived::Enum>(Derived::info().names.size() - 1);
   }

@@ -9,11 +9,13 @@ namespace qor::fc {
 
 class FcBase;
 
-/// The holders of a forward attribute that point at one entity: weak pointers ordered by owner, no owner twice.
+/// The holders of a forward attribute that point at one entity: weak pointers ordered by owner, no
+/// owner twice.
 ///
-/// One word while empty, since most entities have no entry in most of their inverse attributes. Up to `flatLimit` entries stand
-/// in one sorted array, more in a balanced tree, so that an insertion stays logarithmic on an entity that a million others
-/// name. An entry whose entity has died stays until it is erased and is passed over by readers.
+/// One word while empty, since most entities have no entry in most of their inverse attributes. Up
+/// to `flatLimit` entries stand in one sorted array, more in a balanced tree, so that an insertion
+/// stays logarithmic on an entity that a million others name. An entry whose entity has died stays
+/// until it is erased and is passed over by readers.
 class QOR_API InverseEntries {
  public:
   static constexpr std::size_t flatLimit = 32;
@@ -34,14 +36,16 @@ class QOR_API InverseEntries {
   void erase(const std::weak_ptr<FcBase>& holder);
   void clear();
 
-  /// Calls back with a `std::shared_ptr<FcBase>` for each entry that is alive, in the order of owners.
+  /// Calls back with a `std::shared_ptr<FcBase>` for each entry that is alive, in the order of
+  /// owners.
   template <class Callback>
   void forEach(Callback&& callback) const {
     struct Context {
       Callback& callback;
     } context{callback};
     visit(&context, [](void* object, const std::weak_ptr<FcBase>& entry) {
-      if (std::shared_ptr<FcBase> alive = entry.lock()) static_cast<Context*>(object)->callback(std::move(alive));
+      if (std::shared_ptr<FcBase> alive = entry.lock())
+        static_cast<Context*>(object)->callback(std::move(alive));
     });
   }
 

@@ -7,19 +7,21 @@
 
 namespace qor::fc {
 
-/// An inverse attribute with any number of entries: who names this entity in a forward attribute. `T` is the class that holds
-/// the forward attribute. Never owning; written by the setters of the forward attribute alone.
+/// An inverse attribute with any number of entries: who names this entity in a forward attribute.
+/// `T` is the class that holds the forward attribute. Never owning; written by the setters of the
+/// forward attribute alone.
 ///
-/// The order of iteration has no meaning. Whoever may set or clear the forward attribute while walking takes `lock()`, the others
-/// `forEach`, which allocates nothing.
+/// The order of iteration has no meaning. Whoever may set or clear the forward attribute while
+/// walking takes `lock()`, the others `forEach`, which allocates nothing.
 template <class T>
 class InverseSet : public InverseEntries {
  public:
   /// Calls back with a `std::shared_ptr<T>` for each entry that is alive.
   template <class Callback>
   void forEach(Callback&& callback) const {
-    InverseEntries::forEach(
-        [&callback](std::shared_ptr<FcBase>&& entry) { callback(std::static_pointer_cast<T>(std::move(entry))); });
+    InverseEntries::forEach([&callback](std::shared_ptr<FcBase>&& entry) {
+      callback(std::static_pointer_cast<T>(std::move(entry)));
+    });
   }
   /// The entries that are alive.
   std::vector<std::shared_ptr<T>> lock() const {
@@ -37,7 +39,9 @@ class InverseRef : public InverseEntries {
   /// Null when nothing names this entity, or what did has died.
   std::shared_ptr<T> lock() const {
     std::shared_ptr<T> result;
-    InverseEntries::forEach([&result](std::shared_ptr<FcBase>&& entry) { result = std::static_pointer_cast<T>(std::move(entry)); });
+    InverseEntries::forEach([&result](std::shared_ptr<FcBase>&& entry) {
+      result = std::static_pointer_cast<T>(std::move(entry));
+    });
     return result;
   }
 };

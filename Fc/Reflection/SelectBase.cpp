@@ -23,8 +23,7 @@ bool holdsTyped(const SelectInfo& info, std::string_view upperName) {
 
 bool holdsClass(const SelectInfo& info, std::uint32_t classId) {
   for (const AlternativeInfo& alternative : info.alternatives) {
-    if (alternative.nested ? holdsClass(*alternative.nested, classId)
-                           : alternative.holds(classId))
+    if (alternative.nested ? holdsClass(*alternative.nested, classId) : alternative.holds(classId))
       return true;
   }
   return false;
@@ -84,7 +83,8 @@ FcBase* SelectBase::getEntity(const SelectInfo& info) const {
   const AlternativeOperations& operations = at(info);
   if (operations.entity) return operations.entity(value(info));
   if (operations.select)
-    return operations.select(const_cast<void*>(value(info)))->getEntity(*info.alternatives[m_position].nested);
+    return operations.select(const_cast<void*>(value(info)))
+        ->getEntity(*info.alternatives[m_position].nested);
   return nullptr;
 }
 
@@ -118,11 +118,13 @@ bool SelectBase::setNamed(const SelectInfo& info, const LocalValue& value) {
   for (std::uint32_t i = 0; i < info.alternatives.size(); ++i) {
     const AlternativeInfo& alternative = info.alternatives[i];
     const AlternativeOperations& operations = *alternative.operations;
-    if (alternative.isEntity() || (!alternative.nested && alternative.ifcName != *value.typeName)) continue;
+    if (alternative.isEntity() || (!alternative.nested && alternative.ifcName != *value.typeName))
+      continue;
     SelectBase candidate;
     void* place = candidate.make(info, i);
-    const bool stored = alternative.nested ? operations.select(place)->setNamed(*alternative.nested, value)
-                                           : operations.type->setLocalValue(place, value);
+    const bool stored = alternative.nested
+                            ? operations.select(place)->setNamed(*alternative.nested, value)
+                            : operations.type->setLocalValue(place, value);
     if (stored) moveFrom(info, candidate);
     candidate.reset(info);
     if (stored) return true;
@@ -134,9 +136,12 @@ bool SelectBase::setEntity(const SelectInfo& info, const std::shared_ptr<FcBase>
   const std::uint32_t classId = entity->classId();
   for (std::uint32_t i = 0; i < info.alternatives.size(); ++i) {
     const AlternativeInfo& alternative = info.alternatives[i];
-    if (alternative.nested ? !holdsClass(*alternative.nested, classId) : !alternative.holds(classId)) continue;
+    if (alternative.nested ? !holdsClass(*alternative.nested, classId)
+                           : !alternative.holds(classId))
+      continue;
     void* place = make(info, i);
-    if (alternative.nested) return alternative.operations->select(place)->setEntity(*alternative.nested, entity);
+    if (alternative.nested)
+      return alternative.operations->select(place)->setEntity(*alternative.nested, entity);
     alternative.operations->setEntity(place, entity);
     return true;
   }
@@ -147,7 +152,9 @@ std::optional<std::string> SelectBase::getAsString(const SelectInfo& info, bool 
   if (m_position == npos) return std::nullopt;
   const AlternativeInfo& alternative = info.alternatives[m_position];
   if (alternative.nested)
-    return at(info).select(const_cast<void*>(value(info)))->getAsString(*alternative.nested, withType);
+    return at(info)
+        .select(const_cast<void*>(value(info)))
+        ->getAsString(*alternative.nested, withType);
   std::optional<std::string> text = at(info).getAsString(value(info));
   if (text && withType) text = std::string(alternative.name) + "(" + *text + ")";
   return text;
@@ -166,7 +173,8 @@ bool SelectBase::setTypeFromString(const SelectInfo& info, const std::string& na
     if (info.nestedOnly) {
       SelectBase candidate;
       void* place = candidate.make(info, i);
-      const bool known = alternative.operations->select(place)->setTypeFromString(*alternative.nested, name);
+      const bool known =
+          alternative.operations->select(place)->setTypeFromString(*alternative.nested, name);
       if (known) moveFrom(info, candidate);
       candidate.reset(info);
       if (known) return true;
@@ -181,12 +189,14 @@ bool SelectBase::setTypeFromString(const SelectInfo& info, const std::string& na
 bool SelectBase::setValueOnTypeFromString(const SelectInfo& info, const std::string& text) {
   if (m_position == npos) return false;
   const AlternativeInfo& alternative = info.alternatives[m_position];
-  if (alternative.nested) return at(info).select(value(info))->setValueOnTypeFromString(*alternative.nested, text);
+  if (alternative.nested)
+    return at(info).select(value(info))->setValueOnTypeFromString(*alternative.nested, text);
   if (info.entitiesOnly) return false;
   return at(info).setFromString(value(info), text);
 }
 
-void SelectBase::forEachEntity(const SelectInfo& info, TypeOperations::EntityCallback callback) const {
+void SelectBase::forEachEntity(const SelectInfo& info,
+                               TypeOperations::EntityCallback callback) const {
   if (m_position == npos) return;
   const AlternativeInfo& alternative = info.alternatives[m_position];
   if (alternative.nested)
@@ -222,12 +232,14 @@ bool SelectBase::read(const SelectInfo& info, ValueSource& source, const TypeOpe
   }
 }
 
-bool SelectBase::readTyped(const SelectInfo& info, std::string_view upperName, ValueSource& source) {
+bool SelectBase::readTyped(const SelectInfo& info, std::string_view upperName,
+                           ValueSource& source) {
   for (std::uint32_t i = 0; i < info.alternatives.size(); ++i) {
     const AlternativeInfo& alternative = info.alternatives[i];
     if (alternative.nested) {
       if (!holdsTyped(*alternative.nested, upperName)) continue;
-      return alternative.operations->select(make(info, i))->readTyped(*alternative.nested, upperName, source);
+      return alternative.operations->select(make(info, i))
+          ->readTyped(*alternative.nested, upperName, source);
     }
     if (alternative.isEntity() || alternative.upperName != upperName) continue;
     return alternative.operations->type->read(make(info, i), source);
@@ -235,7 +247,8 @@ bool SelectBase::readTyped(const SelectInfo& info, std::string_view upperName, V
   return false;
 }
 
-bool SelectBase::readEntity(const SelectInfo& info, ValueSource& source, const TypeOperations& expected) {
+bool SelectBase::readEntity(const SelectInfo& info, ValueSource& source,
+                            const TypeOperations& expected) {
   const std::shared_ptr<FcBase>* entity = source.takeEntity();
   if (!entity) return false;
   if (setEntity(info, *entity)) return true;

@@ -11,15 +11,18 @@
 
 namespace qor::fc {
 
-/// What all select classes share: the current alternative and its value, worked on by a `SelectInfo`.
+/// What all select classes share: the current alternative and its value, worked on by a
+/// `SelectInfo`.
 ///
-/// A value of up to two words stands in place, a larger one on the heap; the select owns it either way.
+/// A value of up to two words stands in place, a larger one on the heap; the select owns it either
+/// way.
 class QOR_API SelectBase {
  public:
   SelectBase(const SelectBase&) = delete;
   SelectBase& operator=(const SelectBase&) = delete;
 
-  /// The position of the current alternative; the number of alternatives is unknown here, so NotSet is `npos`.
+  /// The position of the current alternative; the number of alternatives is unknown here, so NotSet
+  /// is `npos`.
   static constexpr std::uint32_t npos = 0xFFFFFFFF;
 
  protected:
@@ -27,8 +30,12 @@ class QOR_API SelectBase {
   ~SelectBase() = default;
 
   std::uint32_t position() const { return m_position; }
-  void* value(const SelectInfo& info) { return at(info).inPlace ? static_cast<void*>(m_place) : heap(); }
-  const void* value(const SelectInfo& info) const { return const_cast<SelectBase*>(this)->value(info); }
+  void* value(const SelectInfo& info) {
+    return at(info).inPlace ? static_cast<void*>(m_place) : heap();
+  }
+  const void* value(const SelectInfo& info) const {
+    return const_cast<SelectBase*>(this)->value(info);
+  }
 
   void reset(const SelectInfo& info);
   /// Makes the select that alternative with a default value; `npos` for NotSet.
@@ -53,7 +60,9 @@ class QOR_API SelectBase {
   friend struct ValueTraits;
 
  private:
-  const AlternativeOperations& at(const SelectInfo& info) const { return *info.alternatives[m_position].operations; }
+  const AlternativeOperations& at(const SelectInfo& info) const {
+    return *info.alternatives[m_position].operations;
+  }
   void* heap() const;
   bool setNamed(const SelectInfo& info, const LocalValue& value);
   bool setEntity(const SelectInfo& info, const std::shared_ptr<FcBase>& entity);
@@ -66,9 +75,10 @@ class QOR_API SelectBase {
 
 /// A select class `D` of the schema: one of several entities or values, or nothing (NotSet).
 ///
-/// `D` has the enumeration `Types` with its alternatives in ascending order and a last `NotSet`, `static const SelectInfo& info()`,
-/// a constructor from each alternative, and a getter of each alternative's name, which throws `qor::exception` ("Not of correct
-/// type") when another one is current. Copies clone the value; entities are shared.
+/// `D` has the enumeration `Types` with its alternatives in ascending order and a last `NotSet`,
+/// `static const SelectInfo& info()`, a constructor from each alternative, and a getter of each
+/// alternative's name, which throws `qor::exception` ("Not of correct type") when another one is
+/// current. Copies clone the value; entities are shared.
 template <class D>
 class Select : public SelectBase {
  public:
@@ -99,30 +109,38 @@ class Select : public SelectBase {
   /// The current entity; null for a value and for NotSet.
   FcBase* getEntity() const { return SelectBase::getEntity(D::info()); }
   LocalValue getLocalValue() const { return SelectBase::getLocalValue(D::info()); }
-  /// An entity picks its alternative by class, a value by its `typeName`, which may be left out where the select has a single
-  /// value alternative. False, and no change, when nothing fits.
-  bool setLocalValue(const LocalValue& value) { return SelectBase::setLocalValue(D::info(), value); }
-  /// "2.500000", or "LengthMeasure(2.500000)" with the type. Empty for NotSet and, with an assert, for an entity.
-  std::optional<std::string> getAsString(bool withType) const { return SelectBase::getAsString(D::info(), withType); }
+  /// An entity picks its alternative by class, a value by its `typeName`, which may be left out
+  /// where the select has a single value alternative. False, and no change, when nothing fits.
+  bool setLocalValue(const LocalValue& value) {
+    return SelectBase::setLocalValue(D::info(), value);
+  }
+  /// "2.500000", or "LengthMeasure(2.500000)" with the type. Empty for NotSet and, with an assert,
+  /// for an entity.
+  std::optional<std::string> getAsString(bool withType) const {
+    return SelectBase::getAsString(D::info(), withType);
+  }
   /// Takes "LengthMeasure(2.5)". When the value can't be read the type has changed all the same.
   bool setFromString(const std::string& text) { return SelectBase::setFromString(D::info(), text); }
-  bool setTypeFromString(const std::string& name) { return SelectBase::setTypeFromString(D::info(), name); }
-  bool setValueOnTypeFromString(const std::string& text)
-    requires(D::hasValues)
-  {
+  bool setTypeFromString(const std::string& name) {
+    return SelectBase::setTypeFromString(D::info(), name);
+  }
+  bool setValueOnTypeFromString(const std::string& text) requires(D::hasValues) {
     return SelectBase::setValueOnTypeFromString(D::info(), text);
   }
 
   template <class Types>
   static const char* nameFromEnum(Types type) {
-    return type == Types::NotSet ? "NotSet" : D::info().alternatives[static_cast<std::size_t>(type)].name.data();
+    return type == Types::NotSet
+               ? "NotSet"
+               : D::info().alternatives[static_cast<std::size_t>(type)].name.data();
   }
   /// Empty for an unknown name.
   static auto enumFromName(const std::string& name) {
     using Types = typename D::Types;
     const auto& lookup = getNamesLookup();
     const auto found = lookup.find(name);
-    return found == lookup.end() ? std::optional<Types>() : std::optional<Types>(static_cast<Types>(found->second));
+    return found == lookup.end() ? std::optional<Types>()
+                                 : std::optional<Types>(static_cast<Types>(found->second));
   }
 
  protected:
@@ -133,7 +151,8 @@ class Select : public SelectBase {
   }
   template <class T, class Types>
   void put(Types type, T&& value) {
-    *static_cast<std::remove_cvref_t<T>*>(make(D::info(), static_cast<std::uint32_t>(type))) = std::forward<T>(value);
+    *static_cast<std::remove_cvref_t<T>*>(make(D::info(), static_cast<std::uint32_t>(type))) =
+        std::forward<T>(value);
   }
 
  private:
@@ -141,7 +160,8 @@ class Select : public SelectBase {
     static const std::map<std::string, std::uint32_t> lookup = [] {
       std::map<std::string, std::uint32_t> names;
       const auto alternatives = D::info().alternatives;
-      for (std::size_t i = 0; i < alternatives.size(); ++i) names.emplace(alternatives[i].name, static_cast<std::uint32_t>(i));
+      for (std::size_t i = 0; i < alternatives.size(); ++i)
+        names.emplace(alternatives[i].name, static_cast<std::uint32_t>(i));
       return names;
     }();
     return lookup;

@@ -11,7 +11,8 @@ namespace qor::fc {
 
 class SelectBase;
 
-/// How one alternative of a select is made, copied and spelled. `value` is the address of the alternative's value.
+/// How one alternative of a select is made, copied and spelled. `value` is the address of the
+/// alternative's value.
 struct AlternativeOperations {
   std::size_t size;
   /// Small enough to stand in the select itself.

@@ -15,17 +15,27 @@ struct EnumInfo;
 struct SelectInfo;
 
 /// The family of an attribute's type.
-enum class TypeFamily : std::uint8_t { value, enumeration, reference, select, list, tuple, inverse };
+enum class TypeFamily : std::uint8_t {
+  value,
+  enumeration,
+  reference,
+  select,
+  list,
+  tuple,
+  inverse
+};
 
-/// What can be done with a member of one C++ type, without knowing the type: made once per distinct type from `ValueTraits`.
+/// What can be done with a member of one C++ type, without knowing the type: made once per distinct
+/// type from `ValueTraits`.
 ///
-/// The functions take the address of the member. None of them keeps inverse attributes in step: `FcBase::setLocalValue` and the
-/// typed setters do that around them.
+/// The functions take the address of the member. None of them keeps inverse attributes in step:
+/// `FcBase::setLocalValue` and the typed setters do that around them.
 struct TypeOperations {
   using EntityCallback = FunctionRef<void(FcBase&)>;
 
   TypeFamily family;
-  /// Reaches entities only (a reference, a list of them, a select all of whose alternatives are entities).
+  /// Reaches entities only (a reference, a list of them, a select all of whose alternatives are
+  /// entities).
   bool entitiesOnly;
   /// Of the element type, below lists and optionals; null where it is no enumeration.
   const EnumInfo* enumeration;
@@ -36,9 +46,11 @@ struct TypeOperations {
   bool (*setFromString)(void* member, const std::string& text);
   LocalValue (*getLocalValue)(const void* member);
   bool (*setLocalValue)(void* member, const LocalValue& value);
-  /// Calls back for each entity that the member names; nulls and dead inverse entries are passed over.
+  /// Calls back for each entity that the member names; nulls and dead inverse entries are passed
+  /// over.
   void (*forEachEntity)(const void* member, EntityCallback callback);
-  /// Takes one value off the source. What doesn't fit is reported to the source and left out; false when nothing was stored.
+  /// Takes one value off the source. What doesn't fit is reported to the source and left out; false
+  /// when nothing was stored.
   bool (*read)(void* member, ValueSource& source);
   void (*write)(const void* member, ValueSink& sink);
 };

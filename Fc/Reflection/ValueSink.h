@@ -10,7 +10,8 @@ namespace qor::fc {
 
 class FcBase;
 
-/// Takes the values of attributes in their order: the mirror of `ValueSource`, implemented by a host's writer.
+/// Takes the values of attributes in their order: the mirror of `ValueSource`, implemented by a
+/// host's writer.
 ///
 /// Separators between the elements of a list and between attributes are the sink's business.
 class QOR_API ValueSink {

@@ -23,18 +23,20 @@ enum class Rejection {
   outOfRange,         ///< a number that the member can't hold
 };
 
-/// Values in the order in which an attribute takes them: what a host implements over its own tokens, so that neither a name
-/// look-up nor a tree of variants stands between a file and a member.
+/// Values in the order in which an attribute takes them: what a host implements over its own
+/// tokens, so that neither a name look-up nor a tree of variants stands between a file and a
+/// member.
 ///
-/// The reading side asks `next()` what comes and calls the one function for it, or `skip()`. Every value is consumed exactly
-/// once. A list is `openList()`, then elements while `more()` says yes; a typed value (`IFCLABEL('x')`) is `openTyped()`, one
-/// value, `closeTyped()`. The functions that take a value are called for its own kind only, with the one exception that
-/// `takeReal` also takes an integer.
+/// The reading side asks `next()` what comes and calls the one function for it, or `skip()`. Every
+/// value is consumed exactly once. A list is `openList()`, then elements while `more()` says yes; a
+/// typed value (`IFCLABEL('x')`) is `openTyped()`, one value, `closeTyped()`. The functions that
+/// take a value are called for its own kind only, with the one exception that `takeReal` also takes
+/// an integer.
 class QOR_API ValueSource {
  public:
   enum class Kind : std::uint8_t {
-    null,        ///< no value
-    derived,     ///< a value that the schema derives: nothing to store
+    null,     ///< no value
+    derived,  ///< a value that the schema derives: nothing to store
     integer,
     real,
     text,
@@ -42,8 +44,8 @@ class QOR_API ValueSource {
     binary,
     entity,
     list,
-    typed,       ///< a type's name with a value
-    bad,         ///< something that is no value; `skip()` gets past it
+    typed,  ///< a type's name with a value
+    bad,    ///< something that is no value; `skip()` gets past it
   };
 
   virtual ~ValueSource() = default;
@@ -60,8 +62,8 @@ class QOR_API ValueSource {
   /// The name without its dots; valid until the next call.
   virtual std::string_view takeEnumerator() = 0;
   virtual void takeBinary(std::vector<std::uint8_t>& out) = 0;
-  /// The entity that the reference names, owned by the source's own table; null when it names none (the source has reported
-  /// that itself).
+  /// The entity that the reference names, owned by the source's own table; null when it names none
+  /// (the source has reported that itself).
   virtual const std::shared_ptr<FcBase>* takeEntity() = 0;
 
   virtual void openList() = 0;
@@ -71,9 +73,10 @@ class QOR_API ValueSource {
   virtual std::string_view openTyped() = 0;
   virtual void closeTyped() = 0;
 
-  /// Called for each value that was left out; `found` is what stood there as far as it is a name, `expected` the type of the
-  /// place. The source knows which attribute is being read.
-  virtual void rejected(Rejection reason, std::string_view found, const TypeOperations& expected) = 0;
+  /// Called for each value that was left out; `found` is what stood there as far as it is a name,
+  /// `expected` the type of the place. The source knows which attribute is being read.
+  virtual void rejected(Rejection reason, std::string_view found,
+                        const TypeOperations& expected) = 0;
 };
 
 }  // namespace qor::fc

@@ -16,7 +16,8 @@ bool skipNull(ValueSource& source) {
 }
 
 bool ValueTraits<Guid>::read(Guid& m, ValueSource& source, const TypeOperations& self) {
-  if (source.next() != ValueSource::Kind::text) return rejectNext(source, Rejection::wrongKind, self);
+  if (source.next() != ValueSource::Kind::text)
+    return rejectNext(source, Rejection::wrongKind, self);
   std::string text;
   source.takeText(text);
   if (text.size() == 22 && m.boSet(text)) return true;
@@ -30,29 +31,36 @@ void ValueTraits<Guid>::write(const Guid& m, ValueSink& sink) {
   sink.text({text, sizeof text});
 }
 
-bool ValueTraits<std::vector<std::uint8_t>>::read(Bytes& m, ValueSource& source, const TypeOperations& self) {
-  if (source.next() != ValueSource::Kind::binary) return rejectNext(source, Rejection::wrongKind, self);
+bool ValueTraits<std::vector<std::uint8_t>>::read(Bytes& m, ValueSource& source,
+                                                  const TypeOperations& self) {
+  if (source.next() != ValueSource::Kind::binary)
+    return rejectNext(source, Rejection::wrongKind, self);
   source.takeBinary(m);
   return true;
 }
 
 namespace {
 
-const InverseEntries& entriesOf(const void* member) { return *static_cast<const InverseEntries*>(member); }
+const InverseEntries& entriesOf(const void* member) {
+  return *static_cast<const InverseEntries*>(member);
+}
 
 void forEachHolder(const void* member, TypeOperations::EntityCallback callback) {
-  entriesOf(member).forEach([&callback](const std::shared_ptr<FcBase>& holder) { callback(*holder); });
+  entriesOf(member).forEach(
+      [&callback](const std::shared_ptr<FcBase>& holder) { callback(*holder); });
 }
 
 LocalValue holders(const void* member) {
   LocalValue::List values;
-  entriesOf(member).forEach([&values](std::shared_ptr<FcBase>&& holder) { values.emplace_back(std::move(holder)); });
+  entriesOf(member).forEach(
+      [&values](std::shared_ptr<FcBase>&& holder) { values.emplace_back(std::move(holder)); });
   return LocalValue(std::move(values));
 }
 
 LocalValue holder(const void* member) {
   LocalValue value{details::EmptyValue()};
-  entriesOf(member).forEach([&value](std::shared_ptr<FcBase>&& entity) { value = LocalValue(std::move(entity)); });
+  entriesOf(member).forEach(
+      [&value](std::shared_ptr<FcBase>&& entity) { value = LocalValue(std::move(entity)); });
   return value;
 }
 

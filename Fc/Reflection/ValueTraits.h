@@ -23,8 +23,8 @@
 
 namespace qor::fc {
 
-/// How members of type `T` are read, written, spelled and walked. One specialization a family of types; `operationsOf<T>` makes
-/// the table of functions from it.
+/// How members of type `T` are read, written, spelled and walked. One specialization a family of
+/// types; `operationsOf<T>` makes the table of functions from it.
 template <class T>
 struct ValueTraits;
 
@@ -32,15 +32,25 @@ template <class T>
 struct TypeOperationsMaker {
   using Traits = ValueTraits<T>;
 
-  static std::optional<std::string> getAsString(const void* m) { return Traits::getAsString(*static_cast<const T*>(m)); }
-  static bool setFromString(void* m, const std::string& text) { return Traits::setFromString(*static_cast<T*>(m), text); }
-  static LocalValue getLocalValue(const void* m) { return Traits::getLocalValue(*static_cast<const T*>(m)); }
-  static bool setLocalValue(void* m, const LocalValue& v) { return Traits::setLocalValue(*static_cast<T*>(m), v); }
+  static std::optional<std::string> getAsString(const void* m) {
+    return Traits::getAsString(*static_cast<const T*>(m));
+  }
+  static bool setFromString(void* m, const std::string& text) {
+    return Traits::setFromString(*static_cast<T*>(m), text);
+  }
+  static LocalValue getLocalValue(const void* m) {
+    return Traits::getLocalValue(*static_cast<const T*>(m));
+  }
+  static bool setLocalValue(void* m, const LocalValue& v) {
+    return Traits::setLocalValue(*static_cast<T*>(m), v);
+  }
   static void forEachEntity(const void* m, TypeOperations::EntityCallback callback) {
     Traits::forEachEntity(*static_cast<const T*>(m), callback);
   }
   static bool read(void* m, ValueSource& source);
-  static void write(const void* m, ValueSink& sink) { Traits::write(*static_cast<const T*>(m), sink); }
+  static void write(const void* m, ValueSink& sink) {
+    Traits::write(*static_cast<const T*>(m), sink);
+  }
 };
 
 /// The operations of members of type `T`: one constant per type in the whole program.
@@ -108,7 +118,8 @@ struct ValueTraits<double> : ScalarTraits<double> {
 template <>
 struct ValueTraits<std::int64_t> : ScalarTraits<std::int64_t> {
   static bool read(std::int64_t& m, ValueSource& source, const TypeOperations& self) {
-    if (source.next() != ValueSource::Kind::integer) return rejectNext(source, Rejection::wrongKind, self);
+    if (source.next() != ValueSource::Kind::integer)
+      return rejectNext(source, Rejection::wrongKind, self);
     if (source.takeInteger(m)) return true;
     source.rejected(Rejection::outOfRange, {}, self);
     return false;
@@ -119,7 +130,8 @@ struct ValueTraits<std::int64_t> : ScalarTraits<std::int64_t> {
 template <>
 struct ValueTraits<std::string> : ScalarTraits<std::string> {
   static bool read(std::string& m, ValueSource& source, const TypeOperations& self) {
-    if (source.next() != ValueSource::Kind::text) return rejectNext(source, Rejection::wrongKind, self);
+    if (source.next() != ValueSource::Kind::text)
+      return rejectNext(source, Rejection::wrongKind, self);
     source.takeText(m);
     return true;
   }
@@ -129,7 +141,8 @@ struct ValueTraits<std::string> : ScalarTraits<std::string> {
 template <>
 struct ValueTraits<bool> : ScalarTraits<bool> {
   static bool read(bool& m, ValueSource& source, const TypeOperations& self) {
-    if (source.next() != ValueSource::Kind::enumerator) return rejectNext(source, Rejection::wrongKind, self);
+    if (source.next() != ValueSource::Kind::enumerator)
+      return rejectNext(source, Rejection::wrongKind, self);
     const std::string_view name = source.takeEnumerator();
     if (name == "T" || name == "F") {
       m = name == "T";
@@ -144,10 +157,13 @@ struct ValueTraits<bool> : ScalarTraits<bool> {
 template <>
 struct ValueTraits<LogicalValue> : ScalarTraits<LogicalValue> {
   static bool read(LogicalValue& m, ValueSource& source, const TypeOperations& self) {
-    if (source.next() != ValueSource::Kind::enumerator) return rejectNext(source, Rejection::wrongKind, self);
+    if (source.next() != ValueSource::Kind::enumerator)
+      return rejectNext(source, Rejection::wrongKind, self);
     const std::string_view name = source.takeEnumerator();
     if (name == "T" || name == "F" || name == "U") {
-      m = name == "T" ? LogicalValue::True : name == "F" ? LogicalValue::False : LogicalValue::Unknown;
+      m = name == "T"   ? LogicalValue::True
+          : name == "F" ? LogicalValue::False
+                        : LogicalValue::Unknown;
       return true;
     }
     source.rejected(Rejection::unknownEnumerator, name, self);
@@ -174,14 +190,20 @@ struct QOR_API ValueTraits<std::vector<std::uint8_t>> : ScalarTraits<std::vector
 
 /// A defined type is its value under another name.
 template <class T>
-  requires std::is_base_of_v<BaseType<typename T::ValueType>, T>
+requires std::is_base_of_v<BaseType<typename T::ValueType>, T>
 struct ValueTraits<T> : ValueTraits<typename T::ValueType> {
   using Value = typename T::ValueType;
   using Traits = ValueTraits<Value>;
-  static std::optional<std::string> getAsString(const T& m) { return Traits::getAsString(m.value()); }
-  static bool setFromString(T& m, const std::string& text) { return Traits::setFromString(m.valueNonConst(), text); }
+  static std::optional<std::string> getAsString(const T& m) {
+    return Traits::getAsString(m.value());
+  }
+  static bool setFromString(T& m, const std::string& text) {
+    return Traits::setFromString(m.valueNonConst(), text);
+  }
   static LocalValue getLocalValue(const T& m) { return Traits::getLocalValue(m.value()); }
-  static bool setLocalValue(T& m, const LocalValue& v) { return Traits::setLocalValue(m.valueNonConst(), v); }
+  static bool setLocalValue(T& m, const LocalValue& v) {
+    return Traits::setLocalValue(m.valueNonConst(), v);
+  }
   static void forEachEntity(const T& m, TypeOperations::EntityCallback callback) {
     Traits::forEachEntity(m.value(), callback);
   }
@@ -192,7 +214,7 @@ struct ValueTraits<T> : ValueTraits<typename T::ValueType> {
 };
 
 template <class T>
-  requires std::is_base_of_v<EnumBase<T>, T>
+requires std::is_base_of_v<EnumBase<T>, T>
 struct ValueTraits<T> : PlainValueTraits {
   static constexpr TypeFamily family = TypeFamily::enumeration;
   static constexpr const EnumInfo* enumeration = &T::table;
@@ -212,7 +234,8 @@ struct ValueTraits<T> : PlainValueTraits {
     return true;
   }
   static bool read(T& m, ValueSource& source, const TypeOperations& self) {
-    if (source.next() != ValueSource::Kind::enumerator) return rejectNext(source, Rejection::wrongKind, self);
+    if (source.next() != ValueSource::Kind::enumerator)
+      return rejectNext(source, Rejection::wrongKind, self);
     const std::string_view name = source.takeEnumerator();
     if (const auto position = T::table.find(name)) {
       m = static_cast<typename T::Enum>(*position);
@@ -225,7 +248,7 @@ struct ValueTraits<T> : PlainValueTraits {
 };
 
 template <class T>
-  requires std::is_base_of_v<SelectBase, T>
+requires std::is_base_of_v<SelectBase, T>
 struct ValueTraits<T> : PlainValueTraits {
   static constexpr TypeFamily family = TypeFamily::select;
   static constexpr bool entitiesOnly = !T::hasValues;
@@ -255,7 +278,9 @@ struct ValueTraits<std::shared_ptr<T>> {
   static constexpr const EnumInfo* enumeration = nullptr;
   static constexpr const SelectInfo* select = nullptr;
 
-  static std::optional<std::string> getAsString(const Reference&) { return getMemberAsStringObject(); }
+  static std::optional<std::string> getAsString(const Reference&) {
+    return getMemberAsStringObject();
+  }
   static bool setFromString(Reference&, const std::string&) { return setMemberFromStringObject(); }
   static LocalValue getLocalValue(const Reference& m) {
     return m ? LocalValue(std::static_pointer_cast<FcBase>(m)) : LocalValue(details::EmptyValue());
@@ -305,7 +330,6 @@ struct ValueTraits<std::optional<T>> {
     return m ? Traits::getAsString(*m) : std::nullopt;
   }
   static bool setFromString(Optional& m, const std::string& text) {
-    if constexpr (Traits::entitiesOnly) return Traits::setFromString(*(m ? m : Optional(T())), text);
     if (!m) {
       if constexpr (Traits::family == TypeFamily::enumeration)
         m = T::last();
@@ -370,8 +394,10 @@ struct ValueTraits<std::vector<T>> {
   static constexpr const SelectInfo* select = Traits::select;
 
   static std::optional<std::string> getAsString(const List& m) {
-    if constexpr (entitiesOnly) return getMemberAsStringObject();
-    else return listAsString(m);
+    if constexpr (entitiesOnly)
+      return getMemberAsStringObject();
+    else
+      return listAsString(m);
   }
   static bool setFromString(List&, const std::string&) {
     return entitiesOnly ? setMemberFromStringObject() : setMemberFromStringPrimitive();
@@ -400,7 +426,8 @@ struct ValueTraits<std::vector<T>> {
   }
   /// An element that doesn't fit is left out, the others stay.
   static bool read(List& m, ValueSource& source, const TypeOperations& self) {
-    if (source.next() != ValueSource::Kind::list) return rejectNext(source, Rejection::wrongKind, self);
+    if (source.next() != ValueSource::Kind::list)
+      return rejectNext(source, Rejection::wrongKind, self);
     m.clear();
     source.openList();
     while (source.more()) {
@@ -416,11 +443,13 @@ struct ValueTraits<std::vector<T>> {
   }
 };
 
-/// Reads a list of exactly, or with `atLeast` given of at least that many, elements into `out`; false and a report otherwise.
+/// Reads a list of exactly, or with `atLeast` given of at least that many, elements into `out`;
+/// false and a report otherwise.
 template <class T, std::size_t N>
 bool readTuple(std::array<T, N>& out, std::size_t& count, std::size_t atLeast, ValueSource& source,
                const TypeOperations& self) {
-  if (source.next() != ValueSource::Kind::list) return rejectNext(source, Rejection::wrongKind, self);
+  if (source.next() != ValueSource::Kind::list)
+    return rejectNext(source, Rejection::wrongKind, self);
   bool sound = true;
   count = 0;
   source.openList();
@@ -442,7 +471,8 @@ bool readTuple(std::array<T, N>& out, std::size_t& count, std::size_t atLeast, V
 template <class T, std::size_t N>
 struct ValueTraits<std::array<T, N>> : PlainValueTraits {
   using Tuple = std::array<T, N>;
-  using Number = std::remove_cvref_t<decltype(std::get<0>(std::declval<std::array<typename T::ValueType, 1>>()))>;
+  using Number = std::remove_cvref_t<decltype(std::get<0>(
+      std::declval<std::array<typename T::ValueType, 1>>()))>;
   using Numbers = std::array<Number, N>;
   static constexpr TypeFamily family = TypeFamily::tuple;
 
@@ -480,10 +510,13 @@ struct ValueTraits<CountedTriple<T>> : PlainValueTraits {
     return listAsString(std::array<T, Triple::capacity>{m[0], m[1], m[2]});
   }
   static bool setFromString(Triple&, const std::string&) { return setMemberFromStringPrimitive(); }
-  static LocalValue getLocalValue(const Triple& m) { return ValueTraits<std::vector<T>>::getLocalValue({m.begin(), m.end()}); }
+  static LocalValue getLocalValue(const Triple& m) {
+    return ValueTraits<std::vector<T>>::getLocalValue({m.begin(), m.end()});
+  }
   static bool setLocalValue(Triple& m, const LocalValue& v) {
     std::vector<T> values;
-    if (!ValueTraits<std::vector<T>>::setLocalValue(values, v) || values.size() > Triple::capacity) return false;
+    if (!ValueTraits<std::vector<T>>::setLocalValue(values, v) || values.size() > Triple::capacity)
+      return false;
     m.clear();
     for (const T& value : values) m.pushBack(value);
     return true;
@@ -510,7 +543,8 @@ extern QOR_API const TypeOperations inverseRefOperations;
 /// The operations of an alternative of type `T` of a select class.
 template <class T>
 struct AlternativeOperationsMaker {
-  static constexpr bool inPlace = sizeof(T) <= 16 && alignof(T) <= alignof(std::max_align_t) && std::is_nothrow_move_constructible_v<T>;
+  static constexpr bool inPlace = sizeof(T) <= 16 && alignof(T) <= alignof(std::max_align_t) &&
+                                  std::is_nothrow_move_constructible_v<T>;
 
   static void construct(void* place) { new (place) T(); }
   static void copy(void* place, const void* value) { new (place) T(*static_cast<const T*>(value)); }
@@ -525,7 +559,7 @@ struct AlternativeOperationsMaker {
       return valueAsString(*static_cast<const T*>(value));
   }
   static bool setFromString(void* value, const std::string& text) {
-    if constexpr (requires(T& v) { v.setFromString(text); })
+    if constexpr (requires(T & v) { v.setFromString(text); })
       return static_cast<T*>(value)->setFromString(text);
     else
       return valueFromString(*static_cast<T*>(value), text);
@@ -535,7 +569,8 @@ struct AlternativeOperationsMaker {
     return nullptr;
   }
   static FcBase* entity(const void* value) {
-    if constexpr (ValueTraits<T>::family == TypeFamily::reference) return static_cast<const T*>(value)->get();
+    if constexpr (ValueTraits<T>::family == TypeFamily::reference)
+      return static_cast<const T*>(value)->get();
     return nullptr;
   }
   static void setEntity(void* value, const std::shared_ptr<FcBase>& entity) {
@@ -555,8 +590,10 @@ inline constexpr AlternativeOperations alternativeOperationsOf = {
     &AlternativeOperationsMaker<T>::getAsString,
     &AlternativeOperationsMaker<T>::setFromString,
     std::is_base_of_v<SelectBase, T> ? &AlternativeOperationsMaker<T>::select : nullptr,
-    ValueTraits<T>::family == TypeFamily::reference ? &AlternativeOperationsMaker<T>::entity : nullptr,
-    ValueTraits<T>::family == TypeFamily::reference ? &AlternativeOperationsMaker<T>::setEntity : nullptr,
+    ValueTraits<T>::family == TypeFamily::reference ? &AlternativeOperationsMaker<T>::entity
+                                                    : nullptr,
+    ValueTraits<T>::family == TypeFamily::reference ? &AlternativeOperationsMaker<T>::setEntity
+                                                    : nullptr,
     &operationsOf<T>,
 };
 

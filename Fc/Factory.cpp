@@ -1,0 +1,68 @@
+#include "Fc/Factory.h"
+
+#include <algorithm>
+#include <string>
+
+#include "Fc/FcBase.h"
+#include "Fc/Reflection/SchemaTables.h"
+#include "Qor/Assert/Assert.h"
+
+namespace qor::fc {
+
+namespace {
+
+void reportUnknown(const char* what, const StringHash& name, const char* function, int line) {
+  if (Assert::isEnabled())
+    Assert::addAssert({.kind = 0,
+                       .message = std::string(what) + " (" + std::string(name.view()) + ")",
+                       .function = function,
+                       .source = "FcFactory",
+                       .line = line});
+}
+
+}  // namespace
+
+std::shared_ptr<FcBase> Factory::objectFromIfcName(const StringHash& name) {
+  const ClassInfo* info = find(name);
+  if (info && !info->isAbstract()) return info->create();
+  reportUnknown("Illegal class name or abstract class", name, "qor::fc::Factory::objectFromIfcName",
+                __LINE__);
+  return nullptr;
+}
+
+std::optional<std::type_index> Factory::typeInfoFromIfcName(const StringHash& name) {
+  const ClassInfo* info = find(name);
+  if (info && !info->isAbstract()) return *info->type;
+  reportUnknown("Illegal class name or abstract class", name,
+                "qor::fc::Factory::typeInfoFromIfcName", __LINE__);
+  return std::nullopt;
+}
+
+std::optional<std::pair<unsigned int, unsigned int>> Factory::boundFromIfcName(
+    const StringHash& name) {
+  if (const ClassInfo* info = find(name)) return std::pair(info->classId, info->classIdLast);
+  reportUnknown("Illegal class name", name, "qor::fc::Factory::boundFromIfcName", __LINE__);
+  return std::nullopt;
+}
+
+const std::map<std::type_index, StringHash>& Factory::getFcClasses() {
+  static const std::map<std::type_index, StringHash> classesByType = [] {
+    std::map<std::type_index, StringHash> result;
+    for (const ClassInfo* info : classes())
+      if (!info->isAbstract()) result.emplace(*info->type, info->name);
+    return result;
+  }();
+  return classesByType;
+}
+
+std::span<const ClassInfo* const> Factory::classes() { return SchemaTables::classes(); }
+
+const ClassInfo* Factory::find(const StringHash& name) {
+  const auto table = SchemaTables::classesByHash();
+  const auto found = std::lower_bound(
+      table.begin(), table.end(), name.hash,
+      [](const SchemaTables::HashedClass& entry, std::uint32_t hash) { return entry.hash < hash; });
+  return found != table.end() && found->hash == name.hash ? found->info : nullptr;
+}
+
+}  // namespace qor::fc

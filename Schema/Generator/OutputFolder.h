@@ -1,0 +1,22 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace qor::schema {
+
+/// Where generated files go. A file that would come out as it is stays untouched, so that nothing
+/// is compiled again for it.
+class OutputFolder {
+ public:
+  explicit OutputFolder(std::filesystem::path root) : m_root(std::move(root)) {}
+
+  /// `name` is relative, with its folders: "Fc/Core/Kernel/FcProject.h". Throws std::runtime_error
+  /// when it can't be written.
+  void write(const std::string& name, const std::string& text) const;
+
+ private:
+  std::filesystem::path m_root;
+};
+
+}  // namespace qor::schema

@@ -1,0 +1,153 @@
+#include "Schema/Generator/SharedWriter.h"
+
+#include <fmt/format.h>
+#include <algorithm>
+
+#include "Qor/String/StringHash.h"
+#include "Schema/Generator/ClassWriter.h"
+#include "Schema/Generator/HeaderText.h"
+#include "Schema/Generator/TypeWriter.h"
+
+namespace qor::schema {
+
+namespace {
+
+std::string includes(const std::set<std::string>& files) {
+  std::string text;
+  for (const std::string& file : files) text += fmt::format("#include \"{}\"\n", file);
+  return text;
+}
+
+// The selects that a select holds, at any depth, with all that their alternatives need complete.
+void includeSelect(const SchemaModel& model, const Select& select, std::set<std::string>& files) {
+  files.insert(headerOf(model, select.name));
+  for (const std::string& member : select.members) {
+    files.insert(headerOf(model, member));
+    if (model.kind(member) == ElementKind::definedType)
+      for (const DefinedType& type : model.table().definedTypes)
+        if (type.name == member && model.kind(type.underlying.name) == ElementKind::entity)
+          files.insert(headerOf(model, type.underlying.name));
+  }
+}
+
+std::string visitorName(bool isConst) {
+  return isConst ? "FcVisitorBase" : "FcVisitorBaseNonConst";
+}
+
+std::string qualified(const SchemaModel& model, const std::string& ifcName) {
+  return fmt::format("{}::{}", model.group(ifcName).name, fcName(ifcName));
+}
+
+}  // namespace
+
+std::string groupSource(const SchemaModel& model, const Group& group) {
+  std::set<std::string> files;
+  std::string body;
+  for (const Select& select : model.table().selects) {
+    if (select.group != group.name) continue;
+    includeSelect(model, select, files);
+    body += selectTable(model, select);
+  }
+  for (const Entity& entity : model.table().entities) {
+    if (entity.group != group.name) continue;
+    files.insert(headerOf(model, entity.name));
+    for (const Attribute& attribute : entity.attributes) {
+      if (model.kind(attribute.type.name) != ElementKind::basic)
+        files.insert(headerOf(model, attribute.type.name));
+      for (const SchemaModel::Link& link : model.links(entity, attribute))
+        files.insert(headerOf(model, link.owner->name));
+    }
+    body += classSource(model, entity);
+  }
+  files.insert({"Fc/FcVisitorBase.h", "Fc/FcVisitorBaseNonConst.h", "Fc/Reflection/Links.h",
+                "Fc/Reflection/ValueTraits.h"});
+  return fmt::format("{0}\nnamespace qor::fc::{1} {{\n\n{2}}}  // namespace qor::fc::{1}\n",
+                     includes(files), group.name, body);
+}
+
+std::string visitorHeader(const SchemaModel& model, bool isConst) {
+  std::map<std::string, std::string> declarations;
+  std::string visits;
+  for (const Entity& entity : model.table().entities)
+    declarations[entity.group] += fmt::format("class {};\n", fcName(entity.name));
+  for (const Entity* entity : model.byId())
+    visits += fmt::format("  virtual bool visit({}{}& entity);\n", isConst ? "const " : "",
+                          qualified(model, entity->name));
+  std::string text = "#pragma once\n\n#include \"Qor/Platform/Export.h\"\n\n";
+  for (const auto& [group, classes] : declarations)
+    text += fmt::format("namespace qor::fc::{} {{\n{}}}\n", group, classes);
+  return text + fmt::format(R"(
+namespace qor::fc {{
+
+class FcBase;
+
+/// One operation for each schema class: `entity.accept(visitor)` calls that of the entity's class, then those of its supertypes while
+/// they answer true, and last that for `FcBase`. Each answers true unless it is overridden.
+///
+/// A visitor that overrides some of them writes `using {0}::visit;` beside them.
+class QOR_API {0} {{
+ public:
+  virtual ~{0}() = default;
+
+  virtual void visit({1}FcBase& entity);
+{2}}};
+
+}}  // namespace qor::fc
+)",
+                            visitorName(isConst), isConst ? "const " : "", visits);
+}
+
+std::string visitorSource(const SchemaModel& model, bool isConst) {
+  const std::string name = visitorName(isConst);
+  std::string text = fmt::format(
+      "#include \"Fc/{0}.h\"\n\nnamespace qor::fc {{\n\nvoid {0}::visit({1}FcBase&) {{}}\n", name,
+      isConst ? "const " : "");
+  for (const Entity* entity : model.byId())
+    text += fmt::format("bool {}::visit({}{}&) {{ return true; }}\n", name, isConst ? "const " : "",
+                        qualified(model, entity->name));
+  return text + "\n}  // namespace qor::fc\n";
+}
+
+std::string schemaTablesSource(const SchemaModel& model) {
+  std::set<std::string> files{"Fc/Reflection/SchemaTables.h"};
+  std::vector<std::pair<std::uint32_t, const Entity*>> byHash;
+  std::string classes, hashes, enumerations, selects;
+  for (const Entity* entity : model.byId()) {
+    files.insert(headerOf(model, entity->name));
+    classes += fmt::format("    &{}::record,\n", qualified(model, entity->name));
+    byHash.emplace_back(StringHash::of(entity->name).hash, entity);
+  }
+  std::sort(byHash.begin(), byHash.end());
+  for (const auto& [hash, entity] : byHash)
+    hashes += fmt::format("    {{0x{:08X}, &{}::record}},\n", hash, qualified(model, entity->name));
+  for (const Enumeration& enumeration : model.table().enumerations) {
+    files.insert(headerOf(model, enumeration.name));
+    enumerations += fmt::format("    &{}::table,\n", qualified(model, enumeration.name));
+  }
+  for (const Select& select : model.table().selects) {
+    files.insert(headerOf(model, select.name));
+    selects += fmt::format("    &{}::table,\n", qualified(model, select.name));
+  }
+  return includes(files) + fmt::format(R"(
+namespace qor::fc {{
+
+static constinit const ClassInfo* const classTable[] = {{
+{}}};
+static constinit const SchemaTables::HashedClass hashTable[] = {{
+{}}};
+static constinit const EnumInfo* const enumerationTable[] = {{
+{}}};
+static constinit const SelectInfo* const selectTable[] = {{
+{}}};
+
+std::span<const ClassInfo* const> SchemaTables::classes() {{ return classTable; }}
+std::span<const SchemaTables::HashedClass> SchemaTables::classesByHash() {{ return hashTable; }}
+std::span<const EnumInfo* const> SchemaTables::enumerations() {{ return enumerationTable; }}
+std::span<const SelectInfo* const> SchemaTables::selects() {{ return selectTable; }}
+
+}}  // namespace qor::fc
+)",
+                                       classes, hashes, enumerations, selects);
+}
+
+}  // namespace qor::schema

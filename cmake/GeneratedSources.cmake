@@ -1,0 +1,18 @@
+# fc_generated_sources(TABLE FOLDER OUT): the sources that schema_generate makes of the table: one per group that has entities,
+# the visitors and the tables of the whole schema. Their names follow from the table, so that they are known before it runs.
+function(fc_generated_sources table folder out)
+  file(STRINGS "${table}" entities REGEX "^entity ")
+  set(groups)
+  foreach(line IN LISTS entities)
+    string(REGEX REPLACE "^entity [A-Za-z0-9]+ ([a-z]+::[a-z]+).*" "\\1" group "${line}")
+    list(APPEND groups "${group}")
+  endforeach()
+  list(REMOVE_DUPLICATES groups)
+  set(sources FcVisitorBase.cpp FcVisitorBaseNonConst.cpp SchemaTables.cpp)
+  foreach(group IN LISTS groups)
+    string(REPLACE "::" "-" group "${group}")
+    list(APPEND sources "${group}.cpp")
+  endforeach()
+  list(TRANSFORM sources PREPEND "${folder}/Fc/Sources/")
+  set(${out} "${sources}" PARENT_SCOPE)
+endfunction()
