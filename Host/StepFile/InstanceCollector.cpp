@@ -14,6 +14,9 @@ namespace {
 /// More of a name than any class has is of no use to a message.
 constexpr std::size_t longestName = 64;
 
+/// Leaves room for numbers behind those of a file.
+constexpr std::uint64_t largestNumber = std::uint64_t{1} << 63;
+
 const char* skipName(const char* at, const char* end) {
   while (at != end && isNameChar(*at)) ++at;
   return at;
@@ -69,6 +72,7 @@ const char* InstanceCollector::collectInstance(const char* hash) {
   Place place{offsetOf(hash)};
   if (at == end || !isDigit(*at)) return passOver(place, hash);
   place.instance = readInstanceNumber(at, end);
+  if (place.instance > largestNumber) return passOver(place, hash);
   at = m_scanner.skipSpace(at);
   if (at == end || *at != '=') return passOver(place, at);
 

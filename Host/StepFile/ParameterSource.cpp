@@ -59,9 +59,11 @@ bool ParameterSource::finish() {
 
 ParameterSource::Kind ParameterSource::next() {
   const Kind kind = plainKind();
-  if (m_conversion == Conversion::none) return kind;
+  const bool isPlainValue = kind >= Kind::integer && kind <= Kind::binary;
+  if (m_conversion == Conversion::none || !isPlainValue) return kind;
+  if (m_conversion == Conversion::mendText && kind != Kind::binary) return Kind::text;
   if (m_conversion == Conversion::toText && kind == Kind::enumerator) return Kind::text;
-  m_addsType = m_conversion == Conversion::toType && kind >= Kind::integer && kind <= Kind::binary;
+  m_addsType = m_conversion == Conversion::toType;
   return m_addsType ? Kind::typed : kind;
 }
 
@@ -202,8 +204,8 @@ bool ParameterSource::takeInteger(std::int64_t& out) {
 }
 
 void ParameterSource::takeText(std::string& out) {
-  if (*m_at == '.') {
-    out.assign(takeEnumerator());
+  if (*m_at != '\'') {
+    takeUnquoted(out);
     return;
   }
   const std::string_view content(m_at + 1, static_cast<std::size_t>(m_string.close - m_at - 1));
@@ -221,6 +223,22 @@ void ParameterSource::takeText(std::string& out) {
   if (defects.noCharacter)
     reportText(ProblemKind::badEscape,
                "has an escape that means no character, {}; U+FFFD stands for it.");
+}
+
+// A number or an enumerator where a text belongs.
+void ParameterSource::takeUnquoted(std::string& out) {
+  if (m_conversion == Conversion::mendText) {
+    report(ProblemKind::wrongKind, [this] {
+      return fmt::format("is {}, which is no {}; taken as a text.", quote(m_at), expectedType());
+    });
+  }
+  if (*m_at == '.' && isNameChar(m_at[1]) && !isDigit(m_at[1])) {
+    out.assign(takeEnumerator());
+    return;
+  }
+  const char* value = m_at;
+  while (!isDelimiter(*m_at)) ++m_at;
+  out.assign(value, m_at);
 }
 
 // One line a file: who writes one text so writes them all so.

@@ -77,6 +77,7 @@ class ParameterSource final : public fc::ValueSource {
   Kind binaryKind() const;
   Kind typedKind();
   bool endsNumber();
+  void takeUnquoted(std::string& out);
   bool unwrap();
   void resume();
   void giveUp();

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "Fc/Factory.h"
-#include "Fc/Reflection/TypeOperations.h"
+#include "Fc/Reflection/ValueTraits.h"
 #include "Host/StepFile/NumberMap.h"
 #include "Host/StepFile/OlderSchemas.h"
 #include "Qor/String/IgnoreCase.h"
@@ -47,10 +47,19 @@ bool isMandatoryEnumeration(const fc::AttributeInfo& attribute) {
   return !attribute.optional && attribute.type->family == fc::TypeFamily::enumeration;
 }
 
+bool isText(const fc::AttributeInfo& attribute) {
+  using Text = std::string;
+  const fc::TypeOperations* type = attribute.type;
+  return type == &fc::operationsOf<Text> || type == &fc::operationsOf<std::optional<Text>> ||
+         type == &fc::operationsOf<std::vector<Text>> ||
+         type == &fc::operationsOf<std::optional<std::vector<Text>>>;
+}
+
 FileAttribute currentAttribute(const fc::ClassInfo& info, const fc::AttributeInfo& attribute,
                                bool isCurrent) {
   return {attribute.name, &attribute,
-          isCurrent && !attribute.optional && !info.isDerived(attribute.name)};
+          isCurrent && !attribute.optional && !info.isDerived(attribute.name),
+          isText(attribute) ? Conversion::mendText : Conversion::none};
 }
 
 /// One attribute of a row of the table of older classes; see there.
@@ -60,7 +69,7 @@ FileAttribute olderAttribute(const fc::ClassInfo& info, std::string_view item) {
   const std::size_t nameEnd = item.find_first_of(":'%");
   result.name = item.substr(0, nameEnd);
   result.attribute = info.findAttribute(result.name);
-  if (nameEnd == std::string_view::npos) return result;
+  if (nameEnd == std::string_view::npos) return currentAttribute(info, *result.attribute, false);
   switch (item[nameEnd]) {
     case ':':
       result.conversion = Conversion::toType;
@@ -162,35 +171,35 @@ std::optional<SchemaVersion> schemaVersionFromName(std::string_view name) {
   return std::nullopt;
 }
 
-SchemaMap::SchemaMap(SchemaVersion version) : m_version(version), m_names(Names::of(version)) {
-  m_classes.reserve(m_names.entries().size());
-  for (const Names::Entry& entry : m_names.entries())
-    m_classes.push_back({entry.upperName, entry.info});
-  m_prepared.resize(m_classes.size());
-}
+SchemaMap::SchemaMap(SchemaVersion version)
+    : m_version(version), m_names(Names::of(version)), m_classes(m_names.entries().size()) {}
 
 std::optional<std::size_t> SchemaMap::find(std::string_view upperName) const {
   return m_names.find(upperName);
 }
 
-const FileClass& SchemaMap::operator[](std::size_t position) {
-  if (!m_prepared[position]) prepare(position);
-  return m_classes[position];
+const fc::ClassInfo* SchemaMap::info(std::size_t position) const {
+  return m_names.entries()[position].info;
 }
 
-void SchemaMap::prepare(std::size_t position) {
-  m_prepared[position] = true;
-  FileClass& fileClass = m_classes[position];
-  if (!fileClass.info) return;
-  const fc::ClassInfo& info = *fileClass.info;
-  const OlderClass* older = m_names.entries()[position].older;
-  if (older && !older->attributes.empty())
-    fileClass.attributes = olderAttributes(info, older->attributes);
+const FileClass& SchemaMap::operator[](std::size_t position) {
+  std::unique_ptr<const FileClass>& known = m_classes[position];
+  if (!known) known = std::make_unique<const FileClass>(make(position));
+  return *known;
+}
+
+FileClass SchemaMap::make(std::size_t position) const {
+  const Names::Entry& entry = m_names.entries()[position];
+  FileClass result{entry.upperName, entry.info};
+  if (!entry.info) return result;
+  const fc::ClassInfo& info = *entry.info;
+  const bool isMapped = entry.older && !entry.older->attributes.empty();
+  if (isMapped) result.attributes = olderAttributes(info, entry.older->attributes);
   info.forEachAttribute([&](const fc::AttributeInfo& attribute) {
-    if (!older || older->attributes.empty())
-      fileClass.attributes.push_back(currentAttribute(info, attribute, isCurrent()));
-    if (isMandatoryEnumeration(attribute)) fileClass.enumerations.push_back(&attribute);
+    if (!isMapped) result.attributes.push_back(currentAttribute(info, attribute, isCurrent()));
+    if (isMandatoryEnumeration(attribute)) result.enumerations.push_back(&attribute);
   });
+  return result;
 }
 
 }  // namespace qor::host::step

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -22,11 +23,12 @@ enum class SchemaVersion : std::uint8_t {
 /// By the name in a file's header, "IFC2X3" or "IFC4X3_ADD2", in any case; empty for others.
 std::optional<SchemaVersion> schemaVersionFromName(std::string_view name);
 
-/// How a value must be taken that an older schema writes otherwise.
+/// How a value is taken that stands in another form than the attribute has.
 enum class Conversion : std::uint8_t {
   none,
-  toType,     ///< a plain value, where the model has a select
+  mendText,   ///< a number or an enumerator, where a text belongs: its characters, with a report
   toText,     ///< an enumerator, where the model has a text
+  toType,     ///< a plain value, where the model has a select
   toInteger,  ///< a real without a fraction, where the model has an integer
 };
 
@@ -67,17 +69,19 @@ class SchemaMap {
   std::optional<std::size_t> find(std::string_view upperName) const;
   /// Its attributes are gathered on the first call.
   const FileClass& operator[](std::size_t position);
-  const fc::ClassInfo* info(std::size_t position) const { return m_classes[position].info; }
+  /// What instances of the class become; null when each stands for the elements of its first
+  /// attribute.
+  const fc::ClassInfo* info(std::size_t position) const;
 
  private:
   class Names;
 
-  void prepare(std::size_t position);
+  FileClass make(std::size_t position) const;
 
   SchemaVersion m_version;
   const Names& m_names;
-  std::vector<FileClass> m_classes;
-  std::vector<bool> m_prepared;
+  /// Null for those that no instance asked for yet.
+  std::vector<std::unique_ptr<const FileClass>> m_classes;
 };
 
 }  // namespace qor::host::step
