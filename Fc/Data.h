@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "Fc/FcBase.h"
+#include "Fc/Reflection/MakeEntity.h"
 #include "Qor/Id/Guid.h"
 #include "Qor/Platform/Export.h"
 
@@ -73,7 +74,7 @@ class QOR_API Data : public std::enable_shared_from_this<Data> {
   /// A new entity of class `T`, listed.
   template <class T>
   std::shared_ptr<T> create() {
-    auto entity = std::make_shared<T>();
+    auto entity = makeEntity<T>();
     entityAdd(entity, false);
     return entity;
   }

@@ -1,12 +1,16 @@
 #include "Fc/FcBase.h"
 
+#include "Fc/Data.h"
+#include "Fc/FcCopySettings.h"
 #include "Fc/FcVisitorBase.h"
 #include "Fc/FcVisitorBaseNonConst.h"
 #include "Fc/Localize.h"
 #include "Fc/Property.h"
+#include "Fc/Reflection/EntityComparison.h"
 #include "Fc/Reflection/EnumInfo.h"
 #include "Fc/Reflection/InverseEntries.h"
 #include "Fc/Reflection/Links.h"
+#include "Fc/ValueAttributes.h"
 
 namespace qor::fc {
 
@@ -118,6 +122,67 @@ std::vector<std::string> FcBase::getEnumeratedValues(const object::PropertyId& i
   if (!hasEnumeratedValues(id)) return {};
   const auto names = classInfo().findAttribute(id.name())->type->enumeration->names;
   return {names.begin(), names.end()};
+}
+
+bool FcBase::isLessThan(const FcBase& other) const {
+  return EntityComparison().order(*this, other) < 0;
+}
+
+bool FcBase::isEqualTo(const FcBase& other) const {
+  return EntityComparison().order(*this, other) == 0;
+}
+
+bool FcBase::isLessThanSkipAttributes(const FcBase& other, SkipAttribute skip) const {
+  return EntityComparison(std::move(skip)).order(*this, other) < 0;
+}
+
+bool FcBase::isEqualToSkipAttributes(const FcBase& other, SkipAttribute skip) const {
+  return EntityComparison(std::move(skip)).order(*this, other) == 0;
+}
+
+std::shared_ptr<FcBase> FcBase::deepCopy() const {
+  FcCopySettings settings;
+  return deepCopy(settings);
+}
+
+std::shared_ptr<FcBase> FcBase::deepCopy(FcCopySettings& settings) const {
+  std::shared_ptr<FcBase> result = allocateAndQueueCopy(settings);
+  while (!settings.copyQueue.empty()) {
+    const auto [source, copy] = settings.copyQueue.back();
+    settings.copyQueue.pop_back();
+    copy->doAssign(*source, settings);
+    copy->updateInverseAttributes();
+  }
+  return result;
+}
+
+std::shared_ptr<FcBase> FcBase::allocateAndQueueCopy(FcCopySettings& settings) const {
+  const auto known = settings.copiedEntities.find(this);
+  if (known != settings.copiedEntities.end() &&
+      (!settings.reuseCheck || settings.reuseCheck(*this, *known->second)))
+    return known->second;
+  if (settings.externalCopy)
+    if (std::shared_ptr<FcBase> external = settings.externalCopy(*this)) return external;
+
+  std::shared_ptr<FcBase> copy = doAllocateCopy();
+  settings.copiedEntities.emplace(this, copy);
+  settings.copyQueue.emplace_back(this, copy.get());
+  if (settings.target) settings.target->entityAdd(copy, false);
+  return copy;
+}
+
+std::shared_ptr<FcBase> FcBase::shallowCopy() const {
+  std::shared_ptr<FcBase> copy = doAllocateCopy();
+  copyValueAttributes(*copy, *this);
+  return copy;
+}
+
+std::shared_ptr<FcBase> FcBase::doAllocateCopy() const { return classInfo().create(); }
+
+void FcBase::doAssign(const FcBase& source, FcCopySettings& settings) {
+  classInfo().forEachAttribute([&](const AttributeInfo& attribute) {
+    attribute.type->assign(attribute.of(*this), attribute.of(source), settings);
+  });
 }
 
 }  // namespace qor::fc

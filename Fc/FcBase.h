@@ -17,9 +17,11 @@
 
 namespace qor::fc {
 
+class FcCopySettings;
 class FcVisitorBase;
 class FcVisitorBaseNonConst;
 class Property;
+struct SkipAttributeParams;
 
 /// The root of all schema classes: every instance of an IFC entity is an object of a class below
 /// it, held by a `std::shared_ptr` that `std::make_shared` made.
@@ -98,6 +100,37 @@ class QOR_API FcBase : public generate::ObjectInterface,
   virtual bool hasEnumeratedValues(const object::PropertyId& id) const;
   /// All enumerators of an attribute of enumeration type; empty for any other.
   virtual std::vector<std::string> getEnumeratedValues(const object::PropertyId& id) const;
+
+  using SkipAttribute = std::function<bool(const SkipAttributeParams&)>;
+
+  /// The order by class (`std::type_info::before`, which may differ from run to run) and then by
+  /// the values of the forward attributes, supertypes' first, through references down the whole
+  /// graph: a strict weak order, under which a copy equals its source. No tolerance; not a number
+  /// stands behind all numbers. Each pair of entities is compared once, and a pair that meets
+  /// itself again on a cycle counts as equal. Linear in what the two reach; no recursion.
+  virtual bool isLessThan(const FcBase& other) const;
+  virtual bool isEqualTo(const FcBase& other) const;
+  /// The same without the attributes for which `skip` answers true; an empty function skips
+  /// nothing.
+  virtual bool isLessThanSkipAttributes(const FcBase& other, SkipAttribute skip) const;
+  virtual bool isEqualToSkipAttributes(const FcBase& other, SkipAttribute skip) const;
+  friend bool operator<(const FcBase& a, const FcBase& b) { return a.isLessThan(b); }
+
+  /// A copy of this entity and all that it reaches by forward attributes, each entity once. Queue,
+  /// no recursion.
+  std::shared_ptr<FcBase> deepCopy() const;
+  /// The same as part of a run: what `settings` knows already isn't copied again.
+  std::shared_ptr<FcBase> deepCopy(FcCopySettings& settings) const;
+  /// The copy of this entity, which may still be empty: known, supplied or queued by `settings`.
+  std::shared_ptr<FcBase> allocateAndQueueCopy(FcCopySettings& settings) const;
+  /// A new entity with the values of this one, the guid included, and no references.
+  std::shared_ptr<FcBase> shallowCopy() const;
+
+ protected:
+  /// A new, empty entity of the same class.
+  virtual std::shared_ptr<FcBase> doAllocateCopy() const;
+  /// Takes over the forward attributes of `source`, an entity of the same class.
+  virtual void doAssign(const FcBase& source, FcCopySettings& settings);
 };
 
 /// The entity as a `T`, or null when it is of another class or null itself. Two comparisons of

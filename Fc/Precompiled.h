@@ -6,4 +6,5 @@
 #include "Fc/FcVisitorBaseNonConst.h"
 #include "Fc/Reflection/InverseSet.h"
 #include "Fc/Reflection/Links.h"
+#include "Fc/Reflection/MakeEntity.h"
 #include "Fc/Reflection/ValueTraits.h"

@@ -10,7 +10,8 @@ endif()
 
 find_program(FC_CCACHE ccache)
 if(FC_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  set(CMAKE_CXX_COMPILER_LAUNCHER "${FC_CCACHE}")
+  # Without these ccache passes on every source that uses a precompiled header.
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env "CCACHE_SLOPPINESS=pch_defines,time_macros" "${FC_CCACHE}")
 endif()
 
 if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")

@@ -4,6 +4,7 @@
 
 #include "Fc/FcBase.h"
 #include "Fc/Reflection/ClassInfo.h"
+#include "Fc/Reflection/EntityComparison.h"
 #include "Fc/Reflection/ValueSink.h"
 #include "Fc/Reflection/ValueSource.h"
 
@@ -271,6 +272,25 @@ void SelectBase::write(const SelectInfo& info, ValueSink& sink) const {
     at(info).type->write(value(info), sink);
     sink.closeTyped();
   }
+}
+
+void SelectBase::assign(const SelectInfo& info, const SelectBase& source,
+                        FcCopySettings& settings) {
+  if (this == &source) return;
+  void* place = make(info, source.m_position);
+  if (place) at(info).type->assign(place, source.value(info), settings);
+}
+
+std::weak_ordering SelectBase::compare(const SelectInfo& info, const SelectBase& other,
+                                       TypeOperations::PairCallback defer) const {
+  if (m_position != other.m_position || m_position == npos) return m_position <=> other.m_position;
+  return at(info).type->compare(value(info), other.value(info), defer);
+}
+
+bool SelectBase::isLessThan(const SelectInfo& info, const SelectBase& other) const {
+  EntityComparison comparison;
+  return comparison.order(
+             [&](TypeOperations::PairCallback defer) { return compare(info, other, defer); }) < 0;
 }
 
 }  // namespace qor::fc

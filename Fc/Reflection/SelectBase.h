@@ -53,6 +53,10 @@ class QOR_API SelectBase {
   void forEachEntity(const SelectInfo& info, TypeOperations::EntityCallback callback) const;
   bool read(const SelectInfo& info, ValueSource& source, const TypeOperations& expected);
   void write(const SelectInfo& info, ValueSink& sink) const;
+  void assign(const SelectInfo& info, const SelectBase& source, FcCopySettings& settings);
+  std::weak_ordering compare(const SelectInfo& info, const SelectBase& other,
+                             TypeOperations::PairCallback defer) const;
+  bool isLessThan(const SelectInfo& info, const SelectBase& other) const;
 
   template <class D>
   friend class Select;
@@ -85,6 +89,8 @@ class Select : public SelectBase {
   Select() = default;
   Select(const Select& other) : SelectBase() { copyFrom(D::info(), other); }
   Select(Select&& other) noexcept : SelectBase() { moveFrom(D::info(), other); }
+  /// A copy whose entity is copied too, as `settings` says.
+  Select(const D& other, FcCopySettings& settings) { assign(other, settings); }
   Select& operator=(const Select& other) {
     if (this != &other) copyFrom(D::info(), other);
     return *this;
@@ -105,6 +111,16 @@ class Select : public SelectBase {
   void set(Types type) {
     make(D::info(), type == Types::NotSet ? npos : static_cast<std::uint32_t>(type));
   }
+
+  /// Becomes a copy of `source`: a value is copied, an entity through `settings` (see
+  /// `FcBase::allocateAndQueueCopy`).
+  void assign(const D& source, FcCopySettings& settings) {
+    SelectBase::assign(D::info(), source, settings);
+  }
+  void duplicate(const D& source, FcCopySettings& settings) { assign(source, settings); }
+
+  /// First by alternative, then by value; entities by their content. NotSet is the last.
+  friend bool operator<(const D& a, const D& b) { return a.SelectBase::isLessThan(D::info(), b); }
 
   /// The current entity; null for a value and for NotSet.
   FcBase* getEntity() const { return SelectBase::getEntity(D::info()); }

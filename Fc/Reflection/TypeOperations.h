@@ -1,5 +1,6 @@
 #pragma once
 
+#include <compare>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -9,6 +10,7 @@
 
 namespace qor::fc {
 
+class FcCopySettings;
 class ValueSource;
 class ValueSink;
 struct EnumInfo;
@@ -32,6 +34,7 @@ enum class TypeFamily : std::uint8_t {
 /// `FcBase::setLocalValue` and the typed setters do that around them.
 struct TypeOperations {
   using EntityCallback = FunctionRef<void(FcBase&)>;
+  using PairCallback = FunctionRef<void(const FcBase&, const FcBase&)>;
 
   TypeFamily family;
   /// Reaches entities only (a reference, a list of them, a select all of whose alternatives are
@@ -53,6 +56,13 @@ struct TypeOperations {
   /// when nothing was stored.
   bool (*read)(void* member, ValueSource& source);
   void (*write)(const void* member, ValueSink& sink);
+  /// Copies a member of another entity of the class; references become references to copies, which
+  /// `settings` makes or knows.
+  void (*assign)(void* member, const void* source, FcCopySettings& settings);
+  /// The order of two members by their values. Two references are handed to `defer` and count as
+  /// equal here: a result other than equal holds only where all pairs that were handed over before
+  /// it are equal.
+  std::weak_ordering (*compare)(const void* a, const void* b, PairCallback defer);
 };
 
 }  // namespace qor::fc

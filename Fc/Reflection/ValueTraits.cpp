@@ -75,7 +75,11 @@ constexpr TypeOperations inverseOperations(LocalValue (*getLocalValue)(const voi
           [](void*, const LocalValue&) { return false; },
           forEachHolder,
           [](void*, ValueSource&) { return false; },
-          [](const void*, ValueSink& sink) { sink.null(); }};
+          [](const void*, ValueSink& sink) { sink.null(); },
+          [](void*, const void*, FcCopySettings&) {},
+          [](const void*, const void*, TypeOperations::PairCallback) -> std::weak_ordering {
+            return std::weak_ordering::equivalent;
+          }};
 }
 
 }  // namespace

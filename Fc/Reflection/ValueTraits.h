@@ -51,6 +51,13 @@ struct TypeOperationsMaker {
   static void write(const void* m, ValueSink& sink) {
     Traits::write(*static_cast<const T*>(m), sink);
   }
+  static void assign(void* m, const void* source, FcCopySettings& settings) {
+    Traits::assign(*static_cast<T*>(m), *static_cast<const T*>(source), settings);
+  }
+  static std::weak_ordering compare(const void* a, const void* b,
+                                    TypeOperations::PairCallback defer) {
+    return Traits::compare(*static_cast<const T*>(a), *static_cast<const T*>(b), defer);
+  }
 };
 
 /// The operations of members of type `T`: one constant per type in the whole program.
@@ -67,6 +74,8 @@ inline constexpr TypeOperations operationsOf = {
     &TypeOperationsMaker<T>::forEachEntity,
     &TypeOperationsMaker<T>::read,
     &TypeOperationsMaker<T>::write,
+    &TypeOperationsMaker<T>::assign,
+    &TypeOperationsMaker<T>::compare,
 };
 
 template <class T>
@@ -87,7 +96,32 @@ struct PlainValueTraits {
   static constexpr const SelectInfo* select = nullptr;
   template <class T>
   static void forEachEntity(const T&, TypeOperations::EntityCallback) {}
+  template <class T>
+  static void assign(T& m, const T& source, FcCopySettings&) {
+    m = source;
+  }
 };
+
+/// A number that is none stands behind all others and equals itself, so that the order stays one.
+template <class T>
+std::weak_ordering orderOf(const T& a, const T& b) {
+  if (a < b) return std::weak_ordering::less;
+  if (b < a) return std::weak_ordering::greater;
+  if constexpr (std::is_same_v<T, double>) return (a != a) <=> (b != b);
+  return std::weak_ordering::equivalent;
+}
+
+/// A shorter list is less than a longer one, lists of one length go by their first difference.
+template <class List>
+std::weak_ordering listOrder(const List& a, const List& b, TypeOperations::PairCallback defer) {
+  if (a.size() != b.size()) return a.size() <=> b.size();
+  for (std::size_t i = 0; i < a.size(); ++i) {
+    using Element = std::remove_cvref_t<decltype(a[i])>;
+    if (const auto order = ValueTraits<Element>::compare(a[i], b[i], defer); order != 0)
+      return order;
+  }
+  return std::weak_ordering::equivalent;
+}
 
 /// A value that is one alternative of `LocalValue` and has a text form.
 template <class T>
@@ -99,6 +133,9 @@ struct ScalarTraits : PlainValueTraits {
     const T* stored = std::get_if<T>(&v.value);
     if (stored) m = *stored;
     return stored != nullptr;
+  }
+  static std::weak_ordering compare(const T& a, const T& b, TypeOperations::PairCallback) {
+    return orderOf(a, b);
   }
 };
 
@@ -186,6 +223,9 @@ struct QOR_API ValueTraits<std::vector<std::uint8_t>> : ScalarTraits<std::vector
   static bool setFromString(Bytes&, const std::string&) { return setMemberFromStringPrimitive(); }
   static bool read(Bytes& m, ValueSource& source, const TypeOperations& self);
   static void write(const Bytes& m, ValueSink& sink) { sink.binary(m); }
+  static std::weak_ordering compare(const Bytes& a, const Bytes& b, TypeOperations::PairCallback) {
+    return a.size() != b.size() ? std::weak_ordering(a.size() <=> b.size()) : orderOf(a, b);
+  }
 };
 
 /// A defined type is its value under another name.
@@ -211,6 +251,12 @@ struct ValueTraits<T> : ValueTraits<typename T::ValueType> {
     return Traits::read(m.valueNonConst(), source, self);
   }
   static void write(const T& m, ValueSink& sink) { Traits::write(m.value(), sink); }
+  static void assign(T& m, const T& source, FcCopySettings& settings) {
+    Traits::assign(m.valueNonConst(), source.value(), settings);
+  }
+  static std::weak_ordering compare(const T& a, const T& b, TypeOperations::PairCallback defer) {
+    return Traits::compare(a.value(), b.value(), defer);
+  }
 };
 
 template <class T>
@@ -245,6 +291,9 @@ struct ValueTraits<T> : PlainValueTraits {
     return false;
   }
   static void write(const T& m, ValueSink& sink) { sink.enumerator(T::nameFromEnum(m.value())); }
+  static std::weak_ordering compare(const T& a, const T& b, TypeOperations::PairCallback) {
+    return orderOf(a.value(), b.value());
+  }
 };
 
 template <class T>
@@ -268,6 +317,12 @@ struct ValueTraits<T> : PlainValueTraits {
     return m.SelectBase::read(T::table, source, self);
   }
   static void write(const T& m, ValueSink& sink) { m.SelectBase::write(T::table, sink); }
+  static void assign(T& m, const T& source, FcCopySettings& settings) {
+    m.assign(source, settings);
+  }
+  static std::weak_ordering compare(const T& a, const T& b, TypeOperations::PairCallback defer) {
+    return a.SelectBase::compare(T::table, b, defer);
+  }
 };
 
 template <class T>
@@ -314,6 +369,14 @@ struct ValueTraits<std::shared_ptr<T>> {
       sink.entity(*m);
     else
       sink.null();
+  }
+  static void assign(Reference& m, const Reference& source, FcCopySettings& settings) {
+    m = source ? fcCast<T>(source->allocateAndQueueCopy(settings)) : nullptr;
+  }
+  static std::weak_ordering compare(const Reference& a, const Reference& b,
+                                    TypeOperations::PairCallback defer) {
+    if (a && b) defer(*a, *b);
+    return (a != nullptr) <=> (b != nullptr);
   }
 };
 
@@ -366,6 +429,15 @@ struct ValueTraits<std::optional<T>> {
       Traits::write(*m, sink);
     else
       sink.null();
+  }
+  static void assign(Optional& m, const Optional& source, FcCopySettings& settings) {
+    m.reset();
+    if (source) Traits::assign(m.emplace(), *source, settings);
+  }
+  static std::weak_ordering compare(const Optional& a, const Optional& b,
+                                    TypeOperations::PairCallback defer) {
+    if (a && b) return Traits::compare(*a, *b, defer);
+    return a.has_value() <=> b.has_value();
   }
 };
 
@@ -441,6 +513,19 @@ struct ValueTraits<std::vector<T>> {
     for (const T& element : m) Traits::write(element, sink);
     sink.closeList();
   }
+  static void assign(List& m, const List& source, FcCopySettings& settings) {
+    if constexpr (std::is_base_of_v<PlainValueTraits, Traits> && Traits::select == nullptr) {
+      m = source;
+    } else {
+      m.clear();
+      m.reserve(source.size());
+      for (const T& element : source) Traits::assign(m.emplace_back(), element, settings);
+    }
+  }
+  static std::weak_ordering compare(const List& a, const List& b,
+                                    TypeOperations::PairCallback defer) {
+    return listOrder(a, b, defer);
+  }
 };
 
 /// Reads a list of exactly, or with `atLeast` given of at least that many, elements into `out`;
@@ -498,6 +583,10 @@ struct ValueTraits<std::array<T, N>> : PlainValueTraits {
     for (const T& number : m) ValueTraits<T>::write(number, sink);
     sink.closeList();
   }
+  static std::weak_ordering compare(const Tuple& a, const Tuple& b,
+                                    TypeOperations::PairCallback defer) {
+    return listOrder(a, b, defer);
+  }
 };
 
 /// Coordinates and ratios: a list to reflection, three numbers as text.
@@ -533,6 +622,10 @@ struct ValueTraits<CountedTriple<T>> : PlainValueTraits {
     sink.openList();
     for (const T& number : m) ValueTraits<T>::write(number, sink);
     sink.closeList();
+  }
+  static std::weak_ordering compare(const Triple& a, const Triple& b,
+                                    TypeOperations::PairCallback defer) {
+    return listOrder(a, b, defer);
   }
 };
 

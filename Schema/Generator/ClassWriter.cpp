@@ -163,8 +163,7 @@ std::string classRecord(const SchemaModel& model, const Entity& entity) {
   const std::string create =
       entity.abstract
           ? "nullptr"
-          : fmt::format("[]() -> std::shared_ptr<FcBase> {{ return std::make_shared<{}>(); }}",
-                        final);
+          : fmt::format("[]() -> std::shared_ptr<FcBase> {{ return makeEntity<{}>(); }}", final);
   return text +
          fmt::format(
              R"(constinit const ClassInfo {0}::record{{StringHash::of("{1}"), StringHash::of("{2}"), "{3}", "{4}", {5}, {6},

@@ -60,7 +60,7 @@ std::string groupSource(const SchemaModel& model, const Group& group) {
     body += classSource(model, entity);
   }
   files.insert({"Fc/FcVisitorBase.h", "Fc/FcVisitorBaseNonConst.h", "Fc/Reflection/Links.h",
-                "Fc/Reflection/ValueTraits.h"});
+                "Fc/Reflection/MakeEntity.h", "Fc/Reflection/ValueTraits.h"});
   return fmt::format("{0}\nnamespace qor::fc::{1} {{\n\n{2}}}  // namespace qor::fc::{1}\n",
                      includes(files), group.name, body);
 }

@@ -107,6 +107,7 @@ class QOR_API {2} : public Select<{2}> {{
 
   {2}() = default;
   {2}(Types type) {{ set(type); }}
+  {2}(const {2}& other, FcCopySettings& settings) : Select(other, settings) {{}}
 {6}
 {7}}};
 )",

@@ -28,6 +28,8 @@ class QOR_API FcRoot : public FcRootAttributes, public GuidInterface {
 
  protected:
   FcRoot() = default;
+  /// A copy gets its source's guid, or a fresh one where the settings say so.
+  void doAssign(const FcBase& source, FcCopySettings& settings) override;
 
  private:
   friend class qor::fc::Data;
