@@ -140,7 +140,9 @@ class Select : public SelectBase {
   bool setTypeFromString(const std::string& name) {
     return SelectBase::setTypeFromString(D::info(), name);
   }
-  bool setValueOnTypeFromString(const std::string& text) requires(D::hasValues) {
+  /// Only in selects that hold values.
+  template <class Self = D>
+  bool setValueOnTypeFromString(const std::string& text) requires(Self::hasValues) {
     return SelectBase::setValueOnTypeFromString(D::info(), text);
   }
 

@@ -1,0 +1,51 @@
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+
+#include "Host/StepFile/StepReader.h"
+#include "Host/StepFile/StepWriter.h"
+#include "Host/StepFile/TakeApart.h"
+
+// Whatever bytes come in: what is read of them is written, and that reads back without a problem
+// and is written the same again.
+
+namespace {
+
+using namespace qor::host::step;
+
+std::string write(const ReadResult& model) {
+  std::string text;
+  writeStep(*model.data, text, {.header = model.header, .numbers = model.instances});
+  return text;
+}
+
+void fail(const char* what, std::string_view first, std::string_view second) {
+  std::fprintf(stderr, "%s\n--- first\n%.*s\n--- second\n%.*s\n", what,
+               static_cast<int>(first.size()), first.data(), static_cast<int>(second.size()),
+               second.data());
+  std::abort();
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const ReadResult model = readStep({reinterpret_cast<const char*>(data), size});
+  if (!model.data) return 0;
+  const std::string once = write(model);
+  takeApart(*model.data);
+
+  const ReadResult again = readStep(once);
+  if (!again.data) fail("what was written can't be read", once, again.failure);
+  for (const Problem& problem : again.problems) {
+    // A reference or a value that was left out of the first one is missing in the second one too.
+    if (problem.kind != ProblemKind::missingValue && problem.kind != ProblemKind::wrongCount)
+      fail("what was written has a problem", once, problem.toString());
+  }
+  const std::string twice = write(again);
+  takeApart(*again.data);
+  if (once != twice) fail("what was written comes back otherwise", once, twice);
+  return 0;
+}

@@ -1,0 +1,453 @@
+#include "Host/StepFile/ParameterSource.h"
+
+#include <fmt/core.h>
+
+#include <utility>
+
+#include "Fc/FcBase.h"
+#include "Fc/Reflection/EnumInfo.h"
+#include "Fc/Reflection/SelectInfo.h"
+#include "Host/StepFile/Numbers.h"
+#include "Host/StepFile/TextCodec.h"
+
+namespace qor::host::step {
+
+using fc::Rejection;
+
+namespace {
+
+// What is read once nothing of a statement can be understood any more.
+constexpr char endOfStatement[] = ";";
+
+const FileAttribute noAttribute;
+
+bool isHexDigit(char c) { return isDigit(c) || (c >= 'A' && c <= 'F') || (c >= 'a' && c <= 'f'); }
+
+std::uint8_t hexDigit(char c) {
+  return static_cast<std::uint8_t>(c <= '9' ? c - '0' : (c | 0x20) - 'a' + 10);
+}
+
+bool isDelimiter(char c) {
+  return static_cast<unsigned char>(c) <= ' ' || c == ',' || c == ')' || c == ';' || c == '/';
+}
+
+}  // namespace
+
+void ParameterSource::start(std::string_view text, const Place& place, bool damaged) {
+  m_scanner = Scanner(text);
+  m_at = text.data();
+  m_first = false;
+  m_depth = 0;
+  m_stringOpen = nullptr;
+  m_resumeAt = nullptr;
+  m_place = place;
+  setAttribute(noAttribute, 0);
+  m_damaged = damaged;
+}
+
+bool ParameterSource::finish() {
+  setAttribute(noAttribute, 0);
+  m_at = m_scanner.skipSpace(m_at);
+  if (*m_at != ';' && !m_damaged) {
+    report(ProblemKind::syntax, [this] {
+      return fmt::format("\"{}\" stands behind the attributes; passed over.", quote(m_at));
+    });
+    m_damaged = true;
+  }
+  return !m_damaged;
+}
+
+ParameterSource::Kind ParameterSource::next() {
+  const Kind kind = plainKind();
+  const bool isPlainValue = kind >= Kind::integer && kind <= Kind::binary;
+  if (m_conversion == Conversion::none || !isPlainValue) return kind;
+  if (m_conversion == Conversion::mendText && kind != Kind::binary) return Kind::text;
+  if (m_conversion == Conversion::toText && kind == Kind::enumerator) return Kind::text;
+  m_addsType = m_conversion == Conversion::toType;
+  return m_addsType ? Kind::typed : kind;
+}
+
+ParameterSource::Kind ParameterSource::plainKind() {
+  m_at = m_scanner.skipSpace(m_at);
+  m_value = m_at;
+  switch (*m_at) {
+    case '$':
+      return Kind::null;
+    case '*':
+      return Kind::derived;
+    case '#':
+      return isDigit(m_at[1]) ? Kind::entity : Kind::bad;
+    case '(':
+      return Kind::list;
+    case '\'':
+      return textKind();
+    case '.':
+      return isDigit(m_at[1]) ? Kind::real : enumeratorKind();
+    case '"':
+      return binaryKind();
+    case '+':
+    case '-':
+      return numberKind();
+    default:
+      if (isDigit(*m_at)) return numberKind();
+      return isNameChar(*m_at) ? typedKind() : Kind::bad;
+  }
+}
+
+ParameterSource::Kind ParameterSource::numberKind() const {
+  const char* at = m_at;
+  if (*at == '-' || *at == '+') ++at;
+  if (!isDigit(*at) && !(*at == '.' && isDigit(at[1]))) return Kind::bad;
+  while (isDigit(*at)) ++at;
+  if (*at != '.' && *at != 'E' && *at != 'e') return Kind::integer;
+  if (m_conversion != Conversion::toInteger || *at != '.') return Kind::real;
+  do ++at;
+  while (*at == '0');
+  return isDelimiter(*at) ? Kind::integer : Kind::real;
+}
+
+ParameterSource::Kind ParameterSource::textKind() {
+  if (m_stringOpen != m_at) {
+    m_stringOpen = m_at;
+    m_string = m_scanner.string(m_at);
+  }
+  return m_string.close ? Kind::text : Kind::bad;
+}
+
+ParameterSource::Kind ParameterSource::enumeratorKind() const {
+  const char* at = m_at + 1;
+  while (isNameChar(*at)) ++at;
+  return *at == '.' ? Kind::enumerator : Kind::bad;
+}
+
+ParameterSource::Kind ParameterSource::binaryKind() const {
+  const char* at = m_at + 1;
+  while (isHexDigit(*at)) ++at;
+  return *at == '"' ? Kind::binary : Kind::bad;
+}
+
+ParameterSource::Kind ParameterSource::typedKind() {
+  const char* at = m_at;
+  while (isNameChar(*at)) ++at;
+  return *m_scanner.skipSpace(at) == '(' ? Kind::typed : Kind::bad;
+}
+
+void ParameterSource::skip() {
+  std::size_t depth = 0;
+  while (true) {
+    m_at = m_scanner.skipSpace(m_at);
+    switch (*m_at) {
+      case ';':
+        return;
+      case ',':
+        if (depth == 0) return;
+        ++m_at;
+        break;
+      case '(':
+        ++depth;
+        ++m_at;
+        break;
+      case ')':
+        if (depth == 0) return;
+        --depth;
+        ++m_at;
+        break;
+      case '\'':
+        if (textKind() == Kind::bad) return giveUp();
+        m_at = m_string.next;
+        break;
+      default:
+        ++m_at;
+    }
+  }
+}
+
+// A string that isn't closed: where it was meant to end, nobody can know.
+void ParameterSource::giveUp() {
+  if (!m_damaged) {
+    report(ProblemKind::openString, [this] {
+      return fmt::format(
+          "is a text without its closing apostrophe, {}; left out, with all that follows.",
+          quote(m_at));
+    });
+  }
+  m_damaged = true;
+  m_at = endOfStatement;
+}
+
+// Whether the number that was read is all that stands there; passes over the rest.
+bool ParameterSource::endsNumber() {
+  if (isDelimiter(*m_at)) return true;
+  skip();
+  return false;
+}
+
+bool ParameterSource::takeReal(double& out) {
+  double value = 0;
+  const bool held = readReal(m_at, value) == NumberResult::ok;
+  if (!endsNumber() || !held) return false;
+  out = value;
+  return true;
+}
+
+bool ParameterSource::takeInteger(std::int64_t& out) {
+  std::int64_t value = 0;
+  const bool held = readInteger(m_at, value) == NumberResult::ok;
+  // What `next()` called an integer though it has a point has zeros alone behind it.
+  if (*m_at == '.') {
+    do ++m_at;
+    while (*m_at == '0');
+  }
+  if (!endsNumber() || !held) return false;
+  out = value;
+  return true;
+}
+
+void ParameterSource::takeText(std::string& out) {
+  if (*m_at != '\'') {
+    takeUnquoted(out);
+    return;
+  }
+  const std::string_view content(m_at + 1, static_cast<std::size_t>(m_string.close - m_at - 1));
+  m_at = m_string.next;
+  if (m_string.plain) {
+    out.assign(content);
+    return;
+  }
+  const TextDefects defects = decodeText(content, out);
+  if (defects.notUtf8)
+    reportText(ProblemKind::badText, "has bytes that are no UTF-8, {}; taken as Latin-1.");
+  if (defects.badEscape)
+    reportText(ProblemKind::badEscape,
+               "has a backslash that begins no escape, {}; taken as it stands.");
+  if (defects.noCharacter)
+    reportText(ProblemKind::badEscape,
+               "has an escape that means no character, {}; U+FFFD stands for it.");
+}
+
+// A number or an enumerator where a text belongs.
+void ParameterSource::takeUnquoted(std::string& out) {
+  if (m_conversion == Conversion::mendText) {
+    report(ProblemKind::wrongKind, [this] {
+      return fmt::format("is {}, which is no {}; taken as a text.", quote(m_at), expectedType());
+    });
+  }
+  if (*m_at == '.' && isNameChar(m_at[1]) && !isDigit(m_at[1])) {
+    out.assign(takeEnumerator());
+    return;
+  }
+  const char* value = m_at;
+  while (!isDelimiter(*m_at)) ++m_at;
+  out.assign(value, m_at);
+}
+
+// One line a file: who writes one text so writes them all so.
+void ParameterSource::reportText(ProblemKind kind, const char* message) {
+  m_log.addForFile(kind, m_place, [&] {
+    return attributePrefix() + fmt::format(fmt::runtime(message), quote(m_value));
+  });
+}
+
+std::string_view ParameterSource::takeEnumerator() {
+  const char* name = ++m_at;
+  while (*m_at != '.') ++m_at;
+  return {name, static_cast<std::size_t>(m_at++ - name)};
+}
+
+// The first digit tells how many bits in front were added to fill up the second one.
+void ParameterSource::takeBinary(std::vector<std::uint8_t>& out) {
+  const char* digit = ++m_at;
+  while (*m_at != '"') ++m_at;
+  const char* end = m_at++;
+  out.clear();
+  if (digit == end) return;
+  const bool wholeBytes = *digit++ == '0' && (end - digit) % 2 == 0;
+  if (!wholeBytes) {
+    report(ProblemKind::badText, [this] {
+      return fmt::format("is no whole number of bytes, {}; filled up in front with zeros.",
+                         quote(m_value));
+    });
+  }
+  out.reserve(static_cast<std::size_t>(end - digit + 1) / 2);
+  if ((end - digit) % 2 != 0) out.push_back(hexDigit(*digit++));
+  for (; digit != end; digit += 2)
+    out.push_back(static_cast<std::uint8_t>(hexDigit(digit[0]) << 4 | hexDigit(digit[1])));
+}
+
+const std::shared_ptr<fc::FcBase>* ParameterSource::takeEntity() {
+  ++m_at;
+  m_reference = readInstanceNumber(m_at, m_scanner.end());
+  const std::shared_ptr<fc::FcBase>* entity = m_instances.find(m_reference);
+  if (entity && *entity) return entity;
+  if (entity)
+    report(ProblemKind::leftOutReference, [this] {
+      return fmt::format("refers to #{}, which was left out itself; left out.", m_reference);
+    });
+  else
+    report(ProblemKind::danglingReference, [this] {
+      return fmt::format("refers to #{}, which the file doesn't have; left out.", m_reference);
+    });
+  return nullptr;
+}
+
+void ParameterSource::openList() {
+  m_list = m_at++;
+  m_first = true;
+  ++m_depth;
+}
+
+bool ParameterSource::more() {
+  while (true) {
+    m_at = m_scanner.skipSpace(m_at);
+    if (*m_at == ')' || *m_at == ';') {
+      if (m_resumeAt && m_depth == m_resumeDepth) {
+        resume();
+        continue;
+      }
+      if (*m_at == ')') {
+        ++m_at;
+      } else if (!std::exchange(m_damaged, true)) {
+        report(ProblemKind::syntax, [] {
+          return "is a list without its closing parenthesis; read up to the semicolon.";
+        });
+      }
+      m_first = false;
+      --m_depth;
+      return false;
+    }
+    if (!m_first && *m_at != ',') {
+      report(ProblemKind::syntax, [this] {
+        return fmt::format(
+            "is followed by \"{}\", where a comma or a closing parenthesis belongs; passed over.",
+            quote(m_at));
+      });
+      skip();
+      continue;
+    }
+    if (!m_first) ++m_at;
+    m_first = false;
+    if (m_wrappers.empty() || m_resumeAt || !unwrap()) return true;
+  }
+}
+
+bool ParameterSource::unwrap() {
+  m_at = m_scanner.skipSpace(m_at);
+  if (*m_at != '#') return false;
+  const char* behind = m_at + 1;
+  const auto wrapper = m_wrappers.find(readInstanceNumber(behind, m_scanner.end()));
+  if (wrapper == m_wrappers.end()) return false;
+  m_resumeAt = behind;
+  m_resumeScanner = m_scanner;
+  m_resumeDepth = m_depth;
+  m_scanner = Scanner(wrapper->second);
+  m_at = wrapper->second.data();
+  m_first = true;
+  return true;
+}
+
+void ParameterSource::resume() {
+  m_scanner = m_resumeScanner;
+  m_at = std::exchange(m_resumeAt, nullptr);
+  m_first = false;
+}
+
+std::string_view ParameterSource::openTyped() {
+  m_conversion = Conversion::none;
+  if (m_addsType) return m_attribute->type;
+  const char* name = m_at;
+  while (isNameChar(*m_at)) ++m_at;
+  const std::string_view upperName(name, static_cast<std::size_t>(m_at - name));
+  m_at = m_scanner.skipSpace(m_at) + 1;
+  if (upperName == m_integralType) m_conversion = Conversion::toInteger;
+  return upperName;
+}
+
+void ParameterSource::closeTyped() {
+  m_conversion = m_attribute->conversion;
+  if (std::exchange(m_addsType, false)) return;
+  m_at = m_scanner.skipSpace(m_at);
+  if (*m_at != ')') {
+    report(ProblemKind::syntax, [this] {
+      return fmt::format(
+          "has \"{}\" behind the value of a type, where a closing parenthesis belongs; passed "
+          "over.",
+          quote(m_at));
+    });
+  }
+  while (*m_at != ')' && *m_at != ';') {
+    if (*m_at == ',') ++m_at;
+    skip();
+  }
+  if (*m_at == ')') ++m_at;
+}
+
+void ParameterSource::rejected(Rejection reason, std::string_view found,
+                               const fc::TypeOperations& expected) {
+  // An open string is reported when it is skipped.
+  if (reason == Rejection::wrongKind && *m_at == '\'' && m_stringOpen == m_at && !m_string.close)
+    return;
+  constexpr ProblemKind kinds[] = {ProblemKind::wrongKind,         ProblemKind::wrongClass,
+                                   ProblemKind::unknownEnumerator, ProblemKind::unknownType,
+                                   ProblemKind::wrongCount,        ProblemKind::outOfRange};
+  report(kinds[static_cast<std::size_t>(reason)],
+         [&] { return describe(reason, found, expected) + "; left out."; });
+}
+
+std::string ParameterSource::describe(Rejection reason, std::string_view found,
+                                      const fc::TypeOperations& expected) const {
+  const char* verb = m_depth > 1 ? "holds" : "is";
+  switch (reason) {
+    case Rejection::wrongKind:
+      return fmt::format(
+          "{} {}, which is no {}{}", verb, quote(m_at),
+          expected.family == fc::TypeFamily::list || expected.family == fc::TypeFamily::tuple
+              ? "list of "
+              : "",
+          expectedType());
+    case Rejection::wrongClass:
+      return fmt::format("refers to #{}, an {}, where an {} belongs", m_reference, found,
+                         expectedType());
+    case Rejection::unknownEnumerator:
+      return expected.enumeration
+                 ? fmt::format("{} .{}., which is none of its {} values", verb,
+                               ProblemLog::quote(found), expected.enumeration->names.size())
+                 : fmt::format("{} .{}., which is no truth value", verb, ProblemLog::quote(found));
+    case Rejection::unknownType:
+      return fmt::format("{} of type {}, which {} doesn't take", verb, ProblemLog::quote(found),
+                         expectedType());
+    case Rejection::wrongCount:
+      return fmt::format("{} {}, which has more or fewer numbers than belong there", verb,
+                         quote(m_list));
+    case Rejection::outOfRange:
+      return fmt::format("{} {}, which no {} can be", verb, quote(m_value), expectedType());
+  }
+  return {};
+}
+
+std::string_view ParameterSource::expectedType() const {
+  return m_attribute->attribute ? m_attribute->attribute->typeName : "value";
+}
+
+std::string ParameterSource::attributePrefix() const {
+  return m_attribute->name.empty()
+             ? std::string()
+             : fmt::format("attribute {} ({}) ", m_position, m_attribute->name);
+}
+
+std::string ParameterSource::quote(const char* value) const {
+  const char* end = value;
+  std::size_t depth = 0;
+  bool inText = false;
+  for (;
+       static_cast<std::size_t>(end - value) <= ProblemLog::maxQuote && *end != ';' && *end != '\n';
+       ++end) {
+    if (*end == '\'') inText = !inText;
+    if (inText) continue;
+    if (depth == 0 && (*end == ',' || *end == ')')) break;
+    if (*end == '(') ++depth;
+    if (*end == ')') --depth;
+  }
+  return ProblemLog::quote({value, static_cast<std::size_t>(end - value)});
+}
+
+}  // namespace qor::host::step

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "Fc/Reflection/ClassInfo.h"
+
+namespace qor::host::step {
+
+struct OlderClass;
+
+/// The schemas whose files are read. The values are bits of a set.
+enum class SchemaVersion : std::uint8_t {
+  ifc2x3 = 1,
+  ifc4 = 2,             ///< with its addenda, and IFC4X1 and IFC4X2, which add to it
+  ifc4x3Candidate = 4,  ///< the release candidates of IFC4X3
+  ifc4x3 = 8,           ///< IFC4X3 with its addenda: the schema of the model
+};
+
+/// By the name in a file's header, "IFC2X3" or "IFC4X3_ADD2", in any case; empty for others.
+std::optional<SchemaVersion> schemaVersionFromName(std::string_view name);
+
+/// How a value is taken that stands in another form than the attribute has.
+enum class Conversion : std::uint8_t {
+  none,
+  mendText,   ///< a number or an enumerator, where a text belongs: its characters, with a report
+  toText,     ///< an enumerator, where the model has a text
+  toType,     ///< a plain value, where the model has a select
+  toInteger,  ///< a real without a fraction, where the model has an integer
+};
+
+/// One attribute as a file of some schema writes it.
+struct FileAttribute {
+  std::string_view name;
+  /// Where it goes; null when it has no place in the model.
+  const fc::AttributeInfo* attribute = nullptr;
+  /// The file must give a value.
+  bool mandatory = false;
+  Conversion conversion = Conversion::none;
+  /// The type for `Conversion::toType`, "IFCPARAMETERVALUE".
+  std::string_view type{};
+};
+
+/// One class as a file of some schema writes it.
+struct FileClass {
+  std::string_view upperName;  ///< in the file, "IFCDOORSTYLE"
+  /// What its instances become; null when each stands for the elements of its first attribute.
+  const fc::ClassInfo* info = nullptr;
+
+  /// In the order of the file.
+  std::vector<FileAttribute> attributes{};
+  /// The attributes of an enumeration that must have a value: an instance holds some value there
+  /// also when its file gives none.
+  std::vector<const fc::AttributeInfo*> enumerations{};
+};
+
+/// How the classes of one schema's files become those of the model.
+class SchemaMap {
+ public:
+  explicit SchemaMap(SchemaVersion version);
+
+  bool isCurrent() const { return m_version == SchemaVersion::ifc4x3; }
+
+  /// The position of the class for `operator[]`; empty for a name that the schema doesn't have. A
+  /// few nanoseconds.
+  std::optional<std::size_t> find(std::string_view upperName) const;
+  /// Its attributes are gathered on the first call.
+  const FileClass& operator[](std::size_t position);
+  /// What instances of the class become; null when each stands for the elements of its first
+  /// attribute.
+  const fc::ClassInfo* info(std::size_t position) const;
+
+ private:
+  class Names;
+
+  FileClass make(std::size_t position) const;
+
+  SchemaVersion m_version;
+  const Names& m_names;
+  /// Null for those that no instance asked for yet.
+  std::vector<std::unique_ptr<const FileClass>> m_classes;
+};
+
+}  // namespace qor::host::step

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Fc/Data.h"
+#include "Host/StepFile/Header.h"
+#include "Host/StepFile/InstanceTable.h"
+#include "Host/StepFile/ProblemLog.h"
+
+namespace qor::host::step {
+
+struct ReadOptions {
+  /// Gives the numbers of the file's instances; takes 24 bytes each.
+  bool keepNumbers = true;
+  /// Called from time to time with the part that is done, 0 to 1.
+  std::function<void(double)> progress{};
+};
+
+struct ReadResult {
+  /// The model; null when there was nothing to read, and `failure` says why.
+  std::shared_ptr<fc::Data> data{};
+  std::string failure{};
+  Header header{};
+  /// What was left out of the model, or mended, in the order of its kinds' first cases.
+  std::vector<Problem> problems{};
+  /// The entities in the order of the file.
+  std::vector<NumberedEntity> instances{};
+};
+
+/// Reads a STEP file (ISO 10303-21) of IFC4X3_ADD2, or of an older IFC schema as far as the classes
+/// of the model go, into a new model, with all relationships in step.
+///
+/// Whatever the file holds, all that is sound in it is loaded, and the rest is told in `problems`.
+/// Two passes over the text: the first makes an entity for each instance, the second reads their
+/// attributes, so that references may point forward. Linear time; beside the model about 36 bytes
+/// an instance while it reads.
+ReadResult readStepFile(const std::filesystem::path& path, const ReadOptions& options = {});
+
+/// The same from memory.
+ReadResult readStep(std::string_view text, const ReadOptions& options = {});
+
+}  // namespace qor::host::step
