@@ -26,7 +26,7 @@ class QOR_API SelectBase {
   static constexpr std::uint32_t npos = 0xFFFFFFFF;
 
  protected:
-  SelectBase() = default;
+  SelectBase() noexcept {}  // not defaulted, so that a constant select needs no initializer
   ~SelectBase() = default;
 
   std::uint32_t position() const { return m_position; }
