@@ -19,6 +19,8 @@
 #include "Fc/Resource/Actor/FcTelecomAddress.h"
 #include "Fc/Resource/ExternalReference/FcClassification.h"
 #include "Fc/Resource/ExternalReference/FcClassificationReference.h"
+#include "Fc/Resource/Geometry/FcTrimmedCurve.h"
+#include "Fc/Resource/Utility/FcTableRow.h"
 #include "Fc/Shared/BuildingElements/FcWall.h"
 #include "Fc/Shared/BuildingElements/FcWallType.h"
 #include "Tests/Fc/Relationships/Sides.h"
@@ -30,6 +32,8 @@ using namespace core::kernel;
 using namespace core::productextension;
 using namespace resource::actor;
 using namespace resource::externalreference;
+using resource::measure::FcValue;
+using resource::utility::FcTableRow;
 using shared::buildingelements::FcWall;
 using shared::buildingelements::FcWallType;
 using test::holdersOf;
@@ -216,6 +220,21 @@ TEST(OptionalList, IsPresentAfterAnInsertionAndUnlinksAllWhenCleared) {
   person->clearAddresses();
   EXPECT_FALSE(person->Addresses());
   EXPECT_TRUE(address->OfPerson().empty());
+}
+
+TEST(ListOfValues, LosesOnlyTheErasedValue) {
+  FcTableRow row;
+  const FcValue two(resource::measure::FcMeasureValue(resource::measure::FcLengthMeasure(2)));
+  const FcValue three(resource::measure::FcMeasureValue(resource::measure::FcLengthMeasure(3)));
+  row.setRowCells({two, three, two});
+  row.eraseRowCells(row.RowCells()->front());
+  ASSERT_EQ(row.RowCells()->size(), 1U);
+  EXPECT_EQ(row.RowCells()->front().getLocalValue(), three.getLocalValue());
+
+  resource::geometry::FcTrimmedCurve curve;
+  for (const double parameter : {1.0, 2.0, 1.0})
+    curve.insertTrim1(resource::measure::FcParameterValue(parameter));
+  EXPECT_EQ(curve.Trim1().size(), 2U);
 }
 
 TEST(Erasing, WhatIsNoMemberResetsItsReferenceAllTheSame) {
