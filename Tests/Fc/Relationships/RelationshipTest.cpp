@@ -259,6 +259,27 @@ TEST(Typing, IsMirroredByTheRelationshipLinkedLast) {
   EXPECT_THAT(first->RelatedObjects(), ElementsAre(wall)) << "no setter repairs the other holder";
 }
 
+TEST(PropertyDefinition, IsNotMirroredInASetOfThemThoughItIsWalked) {
+  const auto rel = make<FcRelDefinesByProperties>();
+  const auto wall = make<FcWall>();
+  const auto properties = make<FcPropertySet>();
+  rel->insertRelatedObjects(wall);
+  const FcPropertySetDefinitionSelect both(FcPropertySetDefinitionSet({properties, properties}));
+  rel->setRelatingPropertyDefinition(both);
+  EXPECT_TRUE(properties->DefinesOccurrence().empty());
+  EXPECT_THAT(wall->IsDefinedBy().lock(), ElementsAre(rel));
+  EXPECT_THAT(
+      test::reached(*rel, false),
+      ElementsAre("RelatedObjects", "RelatingPropertyDefinition", "RelatingPropertyDefinition"));
+
+  EXPECT_TRUE(
+      rel->setLocalValue(both.getLocalValue(), object::PropertyId("RelatingPropertyDefinition")));
+  rel->updateInverseAttributes();
+  EXPECT_TRUE(properties->DefinesOccurrence().empty());
+  rel->setRelatingPropertyDefinition(std::shared_ptr<FcPropertySetDefinition>(properties));
+  EXPECT_THAT(properties->DefinesOccurrence().lock(), ElementsAre(rel));
+}
+
 TEST(Containment, OfAProductThatKnowsNoneIsStoredAndNotMirrored) {
   const auto rel = make<FcRelContainedInSpatialStructure>();
   const auto space = make<FcSpace>();
