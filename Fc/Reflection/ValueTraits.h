@@ -47,6 +47,13 @@ struct TypeOperationsMaker {
   static void forEachEntity(const void* m, TypeOperations::EntityCallback callback) {
     Traits::forEachEntity(*static_cast<const T*>(m), callback);
   }
+  static void forEachTarget(const void* m, TypeOperations::EntityCallback callback) {
+    const T& member = *static_cast<const T*>(m);
+    if constexpr (requires { Traits::forEachTarget(member, callback); })
+      Traits::forEachTarget(member, callback);
+    else
+      Traits::forEachEntity(member, callback);
+  }
   static bool read(void* m, ValueSource& source);
   static void write(const void* m, ValueSink& sink) {
     Traits::write(*static_cast<const T*>(m), sink);
@@ -72,6 +79,7 @@ inline constexpr TypeOperations operationsOf = {
     &TypeOperationsMaker<T>::getLocalValue,
     &TypeOperationsMaker<T>::setLocalValue,
     &TypeOperationsMaker<T>::forEachEntity,
+    &TypeOperationsMaker<T>::forEachTarget,
     &TypeOperationsMaker<T>::read,
     &TypeOperationsMaker<T>::write,
     &TypeOperationsMaker<T>::assign,
@@ -313,6 +321,9 @@ struct ValueTraits<T> : PlainValueTraits {
   static void forEachEntity(const T& m, TypeOperations::EntityCallback callback) {
     m.SelectBase::forEachEntity(T::table, callback);
   }
+  static void forEachTarget(const T& m, TypeOperations::EntityCallback callback) {
+    if (FcBase* entity = m.getEntity()) callback(*entity);
+  }
   static bool read(T& m, ValueSource& source, const TypeOperations& self) {
     return m.SelectBase::read(T::table, source, self);
   }
@@ -417,6 +428,9 @@ struct ValueTraits<std::optional<T>> {
   static void forEachEntity(const Optional& m, TypeOperations::EntityCallback callback) {
     if (m) Traits::forEachEntity(*m, callback);
   }
+  static void forEachTarget(const Optional& m, TypeOperations::EntityCallback callback) {
+    if (m) TypeOperationsMaker<T>::forEachTarget(&*m, callback);
+  }
   static bool read(Optional& m, ValueSource& source, const TypeOperations&) {
     m.reset();
     if (skipNull(source)) return true;
@@ -495,6 +509,9 @@ struct ValueTraits<std::vector<T>> {
   }
   static void forEachEntity(const List& m, TypeOperations::EntityCallback callback) {
     for (const T& element : m) Traits::forEachEntity(element, callback);
+  }
+  static void forEachTarget(const List& m, TypeOperations::EntityCallback callback) {
+    for (const T& element : m) TypeOperationsMaker<T>::forEachTarget(&element, callback);
   }
   /// An element that doesn't fit is left out, the others stay.
   static bool read(List& m, ValueSource& source, const TypeOperations& self) {
