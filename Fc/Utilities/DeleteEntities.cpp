@@ -1,7 +1,6 @@
 #include "Fc/Utilities/DeleteEntities.h"
 
 #include <memory>
-#include <ranges>
 #include <unordered_set>
 #include <vector>
 
@@ -117,9 +116,9 @@ void deleteEntities(Data& data, const std::set<FcBase*>& entities) {
   data.clear();
   data.reserve(traversal.reached.size());
   // The project goes in last: among several the last one counts.
-  for (const auto& entity : std::views::reverse(traversal.reached)) {
-    data.entityAdd(entity, false);
-    entity->clearInverseAttributes();
+  for (auto entity = traversal.reached.rbegin(); entity != traversal.reached.rend(); ++entity) {
+    data.entityAdd(*entity, false);
+    (*entity)->clearInverseAttributes();
   }
   for (const auto& entity : traversal.reached) entity->updateInverseAttributes();
 }
