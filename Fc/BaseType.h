@@ -126,6 +126,8 @@ class BaseType {
   bool setFromString(const std::string& text) { return valueFromString(m_value, text); }
 
   friend bool operator==(const BaseType&, const BaseType&) = default;
+  /// Without this, `length == 2.5` could convert either side and would be ambiguous.
+  friend bool operator==(const BaseType& a, const T& b) { return a.m_value == b; }
 
  private:
   T m_value{};
