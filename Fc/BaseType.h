@@ -47,9 +47,9 @@ struct TypeSpelling<T> {
 template <class T>
 struct TypeSpelling<std::vector<T>> {
   static std::string get() {
-    std::string element = TypeSpelling<T>::get();
-    if (element.back() == '>') element += ' ';
-    return "class std::vector<" + element + ",class std::allocator<" + element + "> >";
+    const std::string element = TypeSpelling<T>::get();
+    const char* close = element.back() == '>' ? " > >" : "> >";
+    return "class std::vector<" + element + ",class std::allocator<" + element + close;
   }
 };
 template <class T, std::size_t N>
