@@ -236,18 +236,19 @@ void SelectBase::forEachEntity(const SelectInfo& info,
 }
 
 bool SelectBase::read(const SelectInfo& info, ValueSource& source, const TypeOperations& expected) {
+  reset(info);
   switch (source.next()) {
     case ValueSource::Kind::null:
     case ValueSource::Kind::derived:
       source.skip();
-      reset(info);
       return true;
     case ValueSource::Kind::entity:
       return readEntity(info, source, expected);
     case ValueSource::Kind::typed: {
       const std::string_view upperName = source.openTyped();
       const bool known = holdsTyped(info, upperName);
-      bool stored = known && readTyped(info, upperName, source);
+      const bool stored = known && readTyped(info, upperName, source);
+      if (!stored) reset(info);
       if (!known) {
         source.rejected(Rejection::unknownType, upperName, expected);
         source.skip();

@@ -365,6 +365,7 @@ struct ValueTraits<std::shared_ptr<T>> {
     if (m) callback(*m);
   }
   static bool read(Reference& m, ValueSource& source, const TypeOperations& self) {
+    m.reset();
     if (source.next() != ValueSource::Kind::entity) {
       if (skipNull(source)) return true;
       return rejectNext(source, Rejection::wrongKind, self);
@@ -592,8 +593,11 @@ struct ValueTraits<std::array<T, N>> : PlainValueTraits {
     return true;
   }
   static bool read(Tuple& m, ValueSource& source, const TypeOperations& self) {
+    Tuple numbers;
     std::size_t count = 0;
-    return readTuple(m, count, N, source, self);
+    if (!readTuple(numbers, count, N, source, self)) return false;
+    m = numbers;
+    return true;
   }
   static void write(const Tuple& m, ValueSink& sink) {
     sink.openList();
