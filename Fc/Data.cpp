@@ -159,9 +159,9 @@ std::shared_ptr<FcRoot> Data::entityByGuid(const Guid& guid) const {
   return found == m_guidEntityMap.end() ? nullptr : found->second;
 }
 
-std::ranges::subrange<Data::Entities::const_iterator> Data::allEntities() const {
+std::span<const std::shared_ptr<FcBase>> Data::allEntities() const {
   sortEntities();
-  return {m_entities.cbegin(), m_entities.cend()};
+  return m_entities;
 }
 
 std::pair<std::uint32_t, std::uint32_t> Data::idFromName(std::string_view ifcName) {

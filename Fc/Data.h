@@ -2,14 +2,15 @@
 
 #include <cstdint>
 #include <memory>
-#include <ranges>
 #include <set>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <utility>
 #include <vector>
 
+#include "Fc/EntityRange.h"
 #include "Fc/FcBase.h"
 #include "Fc/Reflection/MakeEntity.h"
 #include "Qor/Id/Guid.h"
@@ -81,12 +82,12 @@ class QOR_API Data : public std::enable_shared_from_this<Data> {
   /// All entities of class `T` and its subclasses, as a range of `std::shared_ptr<T>`; valid until
   /// an entity is added or deleted.
   template <class T>
-  auto entities() const {
+  EntityRange<T> entities() const {
     return typed<T>(rangeFromId(T::firstClassId, T::lastClassId));
   }
   /// The same without subclasses.
   template <class T>
-  auto entitiesExactly() const {
+  EntityRange<T> entitiesExactly() const {
     return typed<T>(rangeFromId(T::firstClassId));
   }
   /// The first entity of class `T` or a subclass that the predicate, which takes a `const T&`,
@@ -103,7 +104,7 @@ class QOR_API Data : public std::enable_shared_from_this<Data> {
   std::shared_ptr<core::kernel::FcRoot> entityByGuid(const Guid& guid) const;
 
   /// All entities, sorted by class.
-  std::ranges::subrange<Entities::const_iterator> allEntities() const;
+  std::span<const std::shared_ptr<FcBase>> allEntities() const;
 
  protected:
   using Range = std::pair<Entities::iterator, Entities::iterator>;
@@ -120,11 +121,8 @@ class QOR_API Data : public std::enable_shared_from_this<Data> {
 
  private:
   template <class T>
-  static auto typed(ConstRange range) {
-    return std::ranges::subrange(range.first, range.second) |
-           std::views::transform([](const std::shared_ptr<FcBase>& entity) {
-             return std::static_pointer_cast<T>(entity);
-           });
+  static EntityRange<T> typed(ConstRange range) {
+    return {range.first, range.second};
   }
 
   mutable Entities m_entities;

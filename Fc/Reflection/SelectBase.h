@@ -26,7 +26,7 @@ class QOR_API SelectBase {
   static constexpr std::uint32_t npos = 0xFFFFFFFF;
 
  protected:
-  SelectBase() = default;
+  SelectBase() noexcept {}  // not defaulted, so that a constant select needs no initializer
   ~SelectBase() = default;
 
   std::uint32_t position() const { return m_position; }
@@ -140,7 +140,9 @@ class Select : public SelectBase {
   bool setTypeFromString(const std::string& name) {
     return SelectBase::setTypeFromString(D::info(), name);
   }
-  bool setValueOnTypeFromString(const std::string& text) requires(D::hasValues) {
+  /// Only in selects that hold values.
+  template <class Self = D>
+  bool setValueOnTypeFromString(const std::string& text) requires(Self::hasValues) {
     return SelectBase::setValueOnTypeFromString(D::info(), text);
   }
 

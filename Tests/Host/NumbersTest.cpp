@@ -41,10 +41,23 @@ std::uint64_t bits(double value) { return std::bit_cast<std::uint64_t>(value); }
 
 TEST(Numbers, ReadsWhatStandsInFiles) {
   const std::vector<std::pair<std::string, double>> table = {
-      {"0.", 0.0},           {"-0.", -0.0},     {"1", 1.0},           {"+2.5", 2.5},          {"1.E-05", 1e-5},
-      {"1.5e3", 1500.0},     {".5", 0.5},       {"1.E+0022", 1e22},   {"1.E23", 1e23},        {"9007199254740993.", 9007199254740992.0},
-      {"0.1", 0.1},          {"1.E-400", 0.0},  {"-1.E-400", -0.0},   {"4.9E-324", 5e-324},   {"1.7976931348623157E308", std::numeric_limits<double>::max()},
-      {"0.E999999", 0.0},    {"123456789012345678901234567890.", 123456789012345678901234567890.0},
+      {"0.", 0.0},
+      {"-0.", -0.0},
+      {"1", 1.0},
+      {"+2.5", 2.5},
+      {"1.E-05", 1e-5},
+      {"1.5e3", 1500.0},
+      {".5", 0.5},
+      {"1.E+0022", 1e22},
+      {"1.E23", 1e23},
+      {"9007199254740993.", 9007199254740992.0},
+      {"0.1", 0.1},
+      {"1.E-400", 0.0},
+      {"-1.E-400", -0.0},
+      {"4.9E-324", 5e-324},
+      {"1.7976931348623157E308", std::numeric_limits<double>::max()},
+      {"0.E999999", 0.0},
+      {"123456789012345678901234567890.", 123456789012345678901234567890.0},
       {"0.000000000000000000000000000000000000001", 1e-39},
       {"0.01745329251994329576923690768489", 0.01745329251994329576923690768489}};
   for (const auto& [text, value] : table) {
@@ -73,7 +86,8 @@ TEST(Numbers, ReadsTheSameDoubleAsTheStandardLibrary) {
   for (int i = 0; i < 200000; ++i) {
     char text[64];
     std::snprintf(text, sizeof text, "%.*fE%d", static_cast<int>(random() % 18),
-                  static_cast<double>(random() % 2000000000000ULL) / 1e6, static_cast<int>(random() % 60) - 30);
+                  static_cast<double>(random() % 2000000000000ULL) / 1e6,
+                  static_cast<int>(random() % 60) - 30);
     ASSERT_EQ(bits(read(text).value), bits(std::stod(text))) << text;
   }
 }
@@ -82,7 +96,8 @@ TEST(Numbers, WritesEveryDoubleSoThatItReadsBackBitForBit) {
   std::mt19937_64 random(2);
   for (int i = 0; i < 500000; ++i) {
     // All bit patterns, and decimal numbers as people type them.
-    const double value = i % 2 == 0 ? std::bit_cast<double>(random()) : static_cast<double>(random() % 10000000) / 1000;
+    const double value = i % 2 == 0 ? std::bit_cast<double>(random())
+                                    : static_cast<double>(random() % 10000000) / 1000;
     if (!std::isfinite(value)) continue;
     const std::string text = written(value);
     ASSERT_EQ(bits(read(text).value), bits(value)) << text;
@@ -92,7 +107,8 @@ TEST(Numbers, WritesEveryDoubleSoThatItReadsBackBitForBit) {
 
 TEST(Numbers, WritesTheShortestFormWithAPoint) {
   const std::vector<std::pair<double, std::string>> table = {
-      {0, "0."}, {-0.0, "-0."}, {1, "1."}, {2.5, "2.5"}, {1e-5, "1.E-05"}, {1.5e-7, "1.5E-07"}, {1e22, "1.E+22"}, {0.1, "0.1"}};
+      {0, "0."},        {-0.0, "-0."},       {1, "1."},        {2.5, "2.5"},
+      {1e-5, "1.E-05"}, {1.5e-7, "1.5E-07"}, {1e22, "1.E+22"}, {0.1, "0.1"}};
   for (const auto& [value, text] : table) EXPECT_EQ(written(value), text);
 }
 
@@ -102,7 +118,9 @@ TEST(Numbers, KeepsIntegersIn64Bits) {
     const char* at = text.data();
     return readInteger(at, value);
   };
-  for (const std::int64_t value : {std::int64_t{0}, std::int64_t{-1}, std::numeric_limits<std::int64_t>::min(), std::numeric_limits<std::int64_t>::max()}) {
+  for (const std::int64_t value :
+       {std::int64_t{0}, std::int64_t{-1}, std::numeric_limits<std::int64_t>::min(),
+        std::numeric_limits<std::int64_t>::max()}) {
     std::string text;
     appendInteger(text, value);
     std::int64_t again = 1;

@@ -17,8 +17,9 @@ namespace fs = std::filesystem;
 class ReplacingFileTest : public testing::Test {
  protected:
   void SetUp() override {
-    m_folder = fs::path(testing::TempDir()) / ("replacing" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
-                                               testing::UnitTest::GetInstance()->current_test_info()->name());
+    m_folder = fs::path(testing::TempDir()) /
+               ("replacing" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
+                testing::UnitTest::GetInstance()->current_test_info()->name());
     fs::remove_all(m_folder);
     fs::create_directory(m_folder);
     std::ofstream(target()) << "old";
@@ -74,7 +75,6 @@ TEST_F(ReplacingFileTest, SaysWhyItCannotWrite) {
   EXPECT_NE(ReplacingFile().open(m_folder), "");
   EXPECT_NE(ReplacingFile().open(m_folder / "no" / "such" / "folder.ifc"), "");
 }
-
 
 TEST_F(ReplacingFileTest, MappedFileGivesTheBytesOrSaysWhyNot) {
   MappedFile file;

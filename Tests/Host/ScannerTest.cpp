@@ -17,7 +17,8 @@ std::string statementIn(const std::string& text) {
 
 TEST(Scanner, EndsAStatementAtItsSemicolon) {
   for (const std::string statement :
-       {"(1,2)", "('a;b')", "('it''s;')", "(/* ; */1)", "(1,\n2,\n#3)", "(1/2)", "('#1=\n')", "('\n #12,')", "('a\\')"}) {
+       {"(1,2)", "('a;b')", "('it''s;')", "(/* ; */1)", "(1,\n2,\n#3)", "(1/2)", "('#1=\n')",
+        "('\n #12,')", "('a\\')"}) {
     EXPECT_EQ(statementIn(statement + ";\n#2=X();"), statement);
   }
 }
@@ -43,13 +44,11 @@ TEST(Scanner, TellsAPagedApostropheFromTheEndOfAString) {
     return extent.close ? std::string(text.data() + 1, extent.close) : "open";
   };
   const std::vector<std::pair<std::string, std::string>> table = {
-      {R"('\S\' 5',$)", R"(\S\' 5)"},     // as the standard has it
-      {R"('\S\'' 5',$)", R"(\S\'' 5)"},   // by a writer who doubles it
-      {R"('a \S\'',$)", R"(a \S\')"},     // at the end of the text
-      {R"('C:\S\',$)", R"(C:\S\)"},       // a path
-      {R"('C:\S\' ))", R"(C:\S\)"},
-      {R"('a',$)", "a"},
-      {R"('a)", "open"},
+      {R"('\S\' 5',$)", R"(\S\' 5)"},    // as the standard has it
+      {R"('\S\'' 5',$)", R"(\S\'' 5)"},  // by a writer who doubles it
+      {R"('a \S\'',$)", R"(a \S\')"},    // at the end of the text
+      {R"('C:\S\',$)", R"(C:\S\)"},      // a path
+      {R"('C:\S\' ))", R"(C:\S\)"},     {R"('a',$)", "a"}, {R"('a)", "open"},
   };
   for (const auto& [text, content] : table) EXPECT_EQ(contentOf(text), content) << text;
 }
@@ -65,7 +64,8 @@ TEST(Scanner, NotesTheFirstCommentThatIsNotClosed) {
   EXPECT_EQ(scanner.openComment(), text.find("/* open"));
 }
 
-// A second of time is a thousand times what these take, and a thousandth of what a quadratic walk takes.
+// A second of time is a thousand times what these take, and a thousandth of what a quadratic walk
+// takes.
 TEST(Scanner, TakesLinearTimeOverWhateverStandsInAFile) {
   const std::size_t count = 1000000;
   for (const std::string part : {"/* x\n", "'x\n", "\n#111", "'\n#", "\n", "'x;", "\\S\\'"}) {

@@ -38,14 +38,14 @@ TEST(TextCodec, DecodesEveryEscape) {
       {R"(\S\')", "\u00A7"},
       {R"(\S\'')", "\u00A7"},
       {R"(\S\\)", "\u00DC"},
-      {R"(\PE\\S\P\S\x)", "\u0430\u0448"},            // ISO 8859-5, Cyrillic
-      {R"(\PB\\S\!\PA\\S\!)", "\u0104\u00A1"},        // 8859-2, then 8859-1 again
+      {R"(\PE\\S\P\S\x)", "\u0430\u0448"},      // ISO 8859-5, Cyrillic
+      {R"(\PB\\S\!\PA\\S\!)", "\u0104\u00A1"},  // 8859-2, then 8859-1 again
       {R"(\X\E4\X\0A)", "\u00E4\n"},
       {R"(Stra\X2\00DF\X0\e)", "Stra\u00DFe"},
       {R"(\X2\041F0440\X0\)", "\u041F\u0440"},
       {R"(\X4\0001F600\X0\)", "\U0001F600"},
-      {R"(\X2\D83DDE00\X0\)", "\U0001F600"},          // UTF-16, as some writers have it
-      {R"(\x2\00df\X0\)", R"(\x2\00df\X0\)"},         // escapes are upper case
+      {R"(\X2\D83DDE00\X0\)", "\U0001F600"},   // UTF-16, as some writers have it
+      {R"(\x2\00df\X0\)", R"(\x2\00df\X0\)"},  // escapes are upper case
       {R"(a\N\b\F\c)", "a\nb\fc"},
       {"Stra\u00DFe", "Stra\u00DFe"},
   };
@@ -56,22 +56,26 @@ TEST(TextCodec, DecodesEveryEscape) {
 }
 
 TEST(TextCodec, TakesBrokenEscapesAsTheyStand) {
-  for (const std::string content : {R"(C:\temp)", R"(\)", R"(\X\G0)", R"(\X2\00D)", R"(\X2\00DF)", R"(\X2\00D\X0\)", R"(\X2\00GG\X0\)",
-                                    R"(\PZ\)", R"(\P)", R"(\S\)", R"(\Q\)", R"(\X4\00DF\X0\)"}) {
+  for (const std::string content :
+       {R"(C:\temp)", R"(\)", R"(\X\G0)", R"(\X2\00D)", R"(\X2\00DF)", R"(\X2\00D\X0\)",
+        R"(\X2\00GG\X0\)", R"(\PZ\)", R"(\P)", R"(\S\)", R"(\Q\)", R"(\X4\00DF\X0\)"}) {
     EXPECT_EQ(decoded(content).text, content);
     EXPECT_TRUE(decoded(content).defects.badEscape) << content;
   }
 }
 
 TEST(TextCodec, PutsAReplacementForWhatIsNoCharacter) {
-  for (const std::string content : {R"(\X2\D83D\X0\)", R"(\X2\DE00D83D\X0\)", R"(\X4\00110000\X0\)", R"(\PC\\S\%)"}) {
+  for (const std::string content :
+       {R"(\X2\D83D\X0\)", R"(\X2\DE00D83D\X0\)", R"(\X4\00110000\X0\)", R"(\PC\\S\%)"}) {
     EXPECT_TRUE(decoded(content).text.starts_with("\uFFFD")) << content;
     EXPECT_TRUE(decoded(content).defects.noCharacter) << content;
   }
 }
 
 TEST(TextCodec, TakesBytesThatAreNoUtf8AsLatin1) {
-  const Decoded result = decoded("Stra\xDF" "e \xC3\xA4");
+  const Decoded result = decoded(
+      "Stra\xDF"
+      "e \xC3\xA4");
   EXPECT_EQ(result.text, "Stra\u00DFe \u00C3\u00A4");
   EXPECT_TRUE(result.defects.notUtf8);
 }

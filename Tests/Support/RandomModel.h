@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <random>
+#include <vector>
+
+#include "Fc/FcBase.h"
+
+namespace qor::test {
+
+/// Entities of many classes with random values and random references among themselves, cycles
+/// included; the same for the same seed. Texts, numbers and lists are short and repeat often, so
+/// that equal parts occur.
+std::vector<std::shared_ptr<fc::FcBase>> randomEntities(std::size_t count, std::uint32_t seed);
+
+}  // namespace qor::test
