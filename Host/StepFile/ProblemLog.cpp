@@ -72,7 +72,7 @@ std::uint64_t ProblemLog::total() const {
 
 Problem* ProblemLog::count(ProblemKind kind, const Place& place, std::string_view className,
                            std::string_view attribute) {
-  const auto found = m_groups.find(std::make_tuple(kind, className, attribute));
+  const auto found = m_groups.find(KeyView(kind, className, attribute));
   if (found != m_groups.end()) {
     ++m_problems[found->second].count;
     return nullptr;

@@ -96,6 +96,12 @@ class ProblemLog {
 
  private:
   using Key = std::tuple<ProblemKind, std::string, std::string>;
+  using KeyView = std::tuple<ProblemKind, std::string_view, std::string_view>;
+
+  struct KeyLess {
+    using is_transparent = void;
+    bool operator()(const KeyView& a, const KeyView& b) const { return a < b; }
+  };
 
   Problem* count(ProblemKind kind, const Place& place, std::string_view className,
                  std::string_view attribute);
@@ -105,7 +111,7 @@ class ProblemLog {
   std::string_view m_text;
   std::size_t m_countedTo = 0;
   std::uint64_t m_line = 1;
-  std::map<Key, std::size_t, std::less<>> m_groups;
+  std::map<Key, std::size_t, KeyLess> m_groups;
   std::vector<Problem> m_problems;
 };
 
