@@ -1,0 +1,57 @@
+#include <gmock/gmock.h>
+
+#include "Tests/Host/Cli/RunTool.h"
+
+namespace qor::test {
+namespace {
+
+using host::cli::ExitCode;
+using testing::HasSubstr;
+
+TEST(ConvertCommand, GivesTheSampleBackAsItIsAlsoOntoItself) {
+  const ScratchFolder folder;
+  const std::string copy = folder.path("copy.ifc");
+  const ToolRun run = runTool({"convert", sampleFile(), copy});
+  EXPECT_EQ(run.code, ExitCode::success);
+  EXPECT_EQ(run.err, "");
+  EXPECT_EQ(run.out, copy + ": 103 instances written as IFC4X3_ADD2\n");
+  EXPECT_EQ(readFile(copy), readFile(sampleFile()));
+
+  EXPECT_EQ(runTool({"convert", copy, copy}).code, ExitCode::success);
+  EXPECT_EQ(readFile(copy), readFile(sampleFile()));
+}
+
+TEST(ConvertCommand, JsonHasThePromisedKeys) {
+  const ScratchFolder folder;
+  const std::string file = folder.model("#1=IFCNOSUCH();\n#2=IFCDIRECTION((1.,0.));\n");
+  const ToolRun run = runTool({"convert", file, folder.path("out.ifc"), "--json"});
+  EXPECT_EQ(run.code, ExitCode::problems);
+  EXPECT_EQ(run.json(), nlohmann::json({{"input", file},
+                                        {"output", folder.path("out.ifc")},
+                                        {"schema", "IFC4X3_ADD2"},
+                                        {"instances", 1},
+                                        {"problems", 1}}));
+}
+
+TEST(ConvertCommand, KeepsAnInputThatItCantHoldWhole) {
+  const ScratchFolder folder;
+  const std::string file = folder.model("#1=IFCNOSUCH();\n#2=IFCDIRECTION((1.,0.));\n");
+  const std::string before = readFile(file);
+  const ToolRun run = runTool({"convert", file, folder.path("./model.ifc")});
+  EXPECT_EQ(run.code, ExitCode::impossible);
+  EXPECT_THAT(run.err, HasSubstr("\nfctool: '" + file + "' isn't overwritten with itself: "));
+  EXPECT_EQ(readFile(file), before);
+}
+
+TEST(ConvertCommand, RefusesWhereItCantWriteAndLeavesNothingBehind) {
+  const ScratchFolder folder;
+  for (const char* target : {"no/such/folder.ifc", ""}) {
+    const ToolRun run = runTool({"convert", sampleFile(), folder.path(target)});
+    EXPECT_EQ(run.code, ExitCode::impossible);
+    EXPECT_THAT(run.err, testing::StartsWith("fctool: can't write '" + folder.path(target)));
+  }
+  EXPECT_TRUE(std::filesystem::is_empty(folder.path("")));
+}
+
+}  // namespace
+}  // namespace qor::test

@@ -1,0 +1,124 @@
+#include <gmock/gmock.h>
+
+#include "Tests/Host/Cli/RunTool.h"
+
+namespace qor::test {
+namespace {
+
+using host::cli::ExitCode;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+TEST(GetCommand, ShowsAttributesAndInverseOnes) {
+  const ToolRun run = runTool({"get", sampleFile(), "--id", "41"});
+  EXPECT_EQ(run.code, ExitCode::success);
+  EXPECT_EQ(run.err, "");
+  EXPECT_THAT(run.out, StartsWith(R"(#41 IFCWALL 'South wall'
+  GlobalId: 0TFreCQonEaOenN0vtqaQR
+  OwnerHistory: $
+  Name: 'South wall'
+  Description: $
+  ObjectType: $
+  ObjectPlacement: #42 IFCLOCALPLACEMENT
+  Representation: $
+  Tag: $
+  PredefinedType: SOLIDWALL
+Inverse attributes:
+  HasAssignments: ()
+)"));
+  EXPECT_THAT(run.out, HasSubstr("\n  HasOpenings:\n    #65 IFCRELVOIDSELEMENT\n"
+                                 "    #75 IFCRELVOIDSELEMENT\n"));
+  EXPECT_THAT(run.out,
+              HasSubstr("\n  ContainedInStructure: #81 IFCRELCONTAINEDINSPATIALSTRUCTURE\n"));
+}
+
+TEST(GetCommand, FindsOneEntityByNumberAndByBothFormsOfItsGuid) {
+  const std::string byNumber = runTool({"get", sampleFile(), "--id", "41"}).out;
+  for (const auto& [option, key] :
+       {std::pair("--id", "#41"), std::pair("--guid", "0TFreCQonEaOenN0vtqaQR"),
+        std::pair("--guid", "1d3f5a0c-6b2c-4e91-8a31-5c0e77d2469b")})
+    EXPECT_EQ(runTool({"get", sampleFile(), option, key}).out, byNumber) << key;
+}
+
+TEST(GetCommand, SpellsEachKindOfValue) {
+  const ScratchFolder folder;
+  const std::string file = folder.model(R"(
+#1=IFCPROPERTYSINGLEVALUE('p',$,IFCREAL(0.1),$);
+#2=IFCCARTESIANPOINT((1.5,-2.,1.E-10));
+#3=IFCPROPERTYLISTVALUE('l',$,(IFCLABEL('a'),IFCINTEGER(7),IFCLOGICAL(.U.),IFCBOOLEAN(.T.)),$);
+#4=IFCSIUNIT(*,.LENGTHUNIT.,.MILLI.,.METRE.);
+#5=IFCBLOBTEXTURE(.T.,.F.,$,$,('x','y'),'PNG',"0F3A");
+#6=IFCCARTESIANPOINTLIST2D(((0.,1.),(2.,3.)),$);
+)");
+  const auto shows = [&](const char* id, const char* line) {
+    EXPECT_THAT(runTool({"get", file, "--id", id}).out,
+                HasSubstr("\n  " + std::string(line) + "\n"));
+  };
+  shows("1", "NominalValue: IFCREAL(0.1)");
+  shows("2", "Coordinates: (1.5, -2, 1e-10)");
+  shows("3", "ListValues: (IFCLABEL('a'), IFCINTEGER(7), IFCLOGICAL(unknown), IFCBOOLEAN(true))");
+  shows("4", "Dimensions: *");
+  shows("4", "Prefix: MILLI");
+  shows("5", "Parameter: ('x', 'y')");
+  shows("5", "RasterCode: \"0F3A\"");
+  shows("6", "CoordList: ((0, 1), (2, 3))");
+
+  const auto attributes = [&](const char* id) {
+    return runTool({"get", file, "--id", id, "--json"}).json().at("attributes");
+  };
+  EXPECT_EQ(attributes("1").at("NominalValue"),
+            nlohmann::json({{"type", "IFCREAL"}, {"value", 0.1}}));
+  EXPECT_EQ(attributes("3").at("ListValues").at(2).at("value"), "unknown");
+  EXPECT_EQ(attributes("3").at("ListValues").at(3).at("value"), true);
+  EXPECT_EQ(attributes("4").at("Dimensions"), nullptr);
+  EXPECT_EQ(attributes("5").at("RasterCode"), "0F3A");
+  EXPECT_EQ(attributes("6").at("CoordList"), nlohmann::json({{0.0, 1.0}, {2.0, 3.0}}));
+}
+
+TEST(GetCommand, JsonHasThePromisedKeys) {
+  const nlohmann::json json = runTool({"get", sampleFile(), "--id", "41", "--json"}).json();
+  EXPECT_EQ(json.at("file"), sampleFile());
+  EXPECT_EQ(json.at("id"), 41);
+  EXPECT_EQ(json.at("class"), "IFCWALL");
+  EXPECT_EQ(json.at("guid"), "0TFreCQonEaOenN0vtqaQR");
+  EXPECT_EQ(json.at("name"), "South wall");
+  EXPECT_EQ(json.at("attributes").at("ObjectPlacement"),
+            nlohmann::json({{"id", 42}, {"class", "IFCLOCALPLACEMENT"}}));
+  EXPECT_EQ(json.at("attributes").at("Tag"), nullptr);
+  EXPECT_EQ(json.at("attributes").size(), 9u);
+  EXPECT_EQ(json.at("inverseAttributes").at("HasOpenings").at(1).at("id"), 75);
+}
+
+TEST(GetCommand, RefusesWhatIsntThereInOneLine) {
+  const ScratchFolder folder;
+  const std::string file =
+      folder.model("#1=IFCNOSUCH();\n#2=IFCPUMP('0TFre1QonEaOenN0vtqa10',$,$,$,$,$,$,$,$);\n");
+  const auto refusal = [&](const char* option, const char* key) {
+    const ToolRun run = runTool({"get", file, option, key});
+    EXPECT_EQ(run.code, ExitCode::impossible);
+    EXPECT_EQ(run.out, "");
+    return run.err;
+  };
+  EXPECT_THAT(refusal("--id", "9"), HasSubstr("fctool: '" + file + "' has no instance #9\n"));
+  EXPECT_THAT(refusal("--id", "1"), HasSubstr("fctool: #1 of '" + file + "' was left out"));
+  EXPECT_THAT(refusal("--guid", "0TFre1QonEaOenN0vtqa11"),
+              HasSubstr("has no entity with the guid 0TFre1QonEaOenN0vtqa11\n"));
+  for (const char* bad : {"", "x", "-1", "1x", "##1", "99999999999999999999999"})
+    EXPECT_EQ(runTool({"get", file, "--id", bad}).code, ExitCode::impossible) << bad;
+  EXPECT_EQ(refusal("--id", "1.5"), "fctool: '1.5' is no number of an instance\n");
+  EXPECT_THAT(refusal("--guid", "short"), StartsWith("fctool: 'short' is no guid, "));
+}
+
+TEST(GetCommand, NamesTheOthersThatShareAGuid) {
+  const ScratchFolder folder;
+  const std::string file = folder.model(R"(
+#1=IFCPUMP('0TFre1QonEaOenN0vtqa10',$,'a',$,$,$,$,$,$);
+#2=IFCPUMP('0TFre1QonEaOenN0vtqa10',$,'b',$,$,$,$,$,$);
+)");
+  const ToolRun run = runTool({"get", file, "--guid", "0TFre1QonEaOenN0vtqa10"});
+  EXPECT_THAT(run.out, StartsWith("#1 IFCPUMP 'a'\n"));
+  EXPECT_EQ(run.err, "fctool: #2 has the same guid as #1, which is shown\n");
+}
+
+}  // namespace
+}  // namespace qor::test

@@ -1,0 +1,54 @@
+#include "Tests/Host/Cli/RunTool.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <sstream>
+#include <vector>
+
+#include "Host/Cli/CommandLine.h"
+
+namespace qor::test {
+
+ToolRun runTool(std::initializer_list<std::string> arguments, bool showProgress) {
+  std::vector<const char*> argv{"fctool"};
+  for (const std::string& argument : arguments) argv.push_back(argument.c_str());
+  std::ostringstream out;
+  std::ostringstream err;
+  host::cli::Console console{out, err, showProgress};
+  const auto code = host::cli::runFctool(static_cast<int>(argv.size()), argv.data(), console);
+  return {code, out.str(), err.str()};
+}
+
+std::string sampleFile() { return SAMPLE_FILE; }
+
+ScratchFolder::ScratchFolder() {
+  const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
+  m_folder = std::filesystem::temp_directory_path() /
+             (std::string("fctool-") + test->test_suite_name() + "-" + test->name());
+  std::filesystem::remove_all(m_folder);
+  std::filesystem::create_directories(m_folder);
+}
+
+ScratchFolder::~ScratchFolder() {
+  std::error_code ignored;
+  std::filesystem::remove_all(m_folder, ignored);
+}
+
+std::string ScratchFolder::model(const std::string& instances, const std::string& name) const {
+  writeFile(path(name), "ISO-10303-21;\nHEADER;\nFILE_SCHEMA(('IFC4X3_ADD2'));\nENDSEC;\nDATA;\n" +
+                            instances + "ENDSEC;\nEND-ISO-10303-21;\n");
+  return path(name);
+}
+
+std::string readFile(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void writeFile(const std::string& path, const std::string& text) {
+  std::ofstream(path, std::ios::binary) << text;
+}
+
+}  // namespace qor::test
