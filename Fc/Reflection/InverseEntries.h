@@ -40,12 +40,18 @@ class QOR_API InverseEntries {
   /// owners.
   template <class Callback>
   void forEach(Callback&& callback) const {
+    forEachEntry([&callback](std::shared_ptr<FcBase>&& entry) {
+      if (entry) callback(std::move(entry));
+    });
+  }
+  /// The same with a null pointer for each entry that has died.
+  template <class Callback>
+  void forEachEntry(Callback&& callback) const {
     struct Context {
       Callback& callback;
     } context{callback};
     visit(&context, [](void* object, const std::weak_ptr<FcBase>& entry) {
-      if (std::shared_ptr<FcBase> alive = entry.lock())
-        static_cast<Context*>(object)->callback(std::move(alive));
+      static_cast<Context*>(object)->callback(entry.lock());
     });
   }
 

@@ -30,6 +30,23 @@ class InverseSet : public InverseEntries {
     forEach([&result](std::shared_ptr<T>&& entry) { result.push_back(std::move(entry)); });
     return result;
   }
+  /// All entries, a null pointer for each that has died.
+  std::vector<std::shared_ptr<T>> lockAll() const {
+    std::vector<std::shared_ptr<T>> result;
+    result.reserve(size());
+    forEachEntry([&result](std::shared_ptr<FcBase>&& entry) {
+      result.push_back(std::static_pointer_cast<T>(std::move(entry)));
+    });
+    return result;
+  }
+  /// The first entry that is alive; null for none.
+  std::shared_ptr<T> lockFirst() const {
+    std::shared_ptr<T> result;
+    forEach([&result](std::shared_ptr<T>&& entry) {
+      if (!result) result = std::move(entry);
+    });
+    return result;
+  }
 };
 
 /// An inverse attribute with one entry at most: a further one replaces it.

@@ -114,6 +114,31 @@ FcBase* SelectBase::getEntity(const SelectInfo& info) const {
   return nullptr;
 }
 
+std::optional<double> SelectBase::number(const SelectInfo& info) const {
+  if (m_position == npos) return std::nullopt;
+  const AlternativeInfo& alternative = info.alternatives[m_position];
+  if (alternative.nested)
+    return at(info).select(const_cast<void*>(value(info)))->number(*alternative.nested);
+  if (alternative.isEntity()) return std::nullopt;
+  const LocalValue current = at(info).type->getLocalValue(value(info));
+  if (const auto* real = std::get_if<double>(&current.value)) return *real;
+  if (const auto* integer = std::get_if<std::int64_t>(&current.value))
+    return static_cast<double>(*integer);
+  return std::nullopt;
+}
+
+bool SelectBase::setNumber(const SelectInfo& info, double number) {
+  if (m_position == npos) return false;
+  const AlternativeInfo& alternative = info.alternatives[m_position];
+  if (alternative.nested)
+    return at(info).select(value(info))->setNumber(*alternative.nested, number);
+  if (alternative.isEntity()) return false;
+  if (at(info).type->setLocalValue(value(info), LocalValue(number))) return true;
+  constexpr double limit = 9223372036854775808.0;  // 2^63, the first that doesn't fit
+  return number >= -limit && number < limit &&
+         at(info).type->setLocalValue(value(info), LocalValue(static_cast<std::int64_t>(number)));
+}
+
 LocalValue SelectBase::getLocalValue(const SelectInfo& info) const {
   if (m_position == npos) return LocalValue(details::EmptyValue());
   const AlternativeInfo& alternative = info.alternatives[m_position];

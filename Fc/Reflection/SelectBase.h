@@ -46,6 +46,8 @@ class QOR_API SelectBase {
   void moveFrom(const SelectInfo& info, SelectBase& other);
 
   FcBase* getEntity(const SelectInfo& info) const;
+  std::optional<double> number(const SelectInfo& info) const;
+  bool setNumber(const SelectInfo& info, double number);
   LocalValue getLocalValue(const SelectInfo& info) const;
   bool setLocalValue(const SelectInfo& info, const LocalValue& value);
   std::optional<std::string> getAsString(const SelectInfo& info, bool withType) const;
@@ -173,6 +175,12 @@ class Select : public SelectBase {
   }
 
  protected:
+  /// The number of a real or an integer alternative, a nested select's too; empty for any other.
+  std::optional<double> number() const { return SelectBase::number(D::info()); }
+  /// Stores into such an alternative, an integer cut off behind the point. False, and no change,
+  /// for any other alternative and for what no integer can hold.
+  bool setNumber(double value) { return SelectBase::setNumber(D::info(), value); }
+
   template <class T, class Types>
   const T& get(Types type) const {
     if (this->type() != type) throw qor::exception("Not of correct type");

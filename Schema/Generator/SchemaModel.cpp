@@ -49,7 +49,7 @@ SchemaModel::SchemaModel(SchemaTable table, std::set<std::string> handWritten)
     m_enumerations.emplace(enumeration.name, &enumeration);
   for (const Select& select : m_table.selects) m_selects.emplace(select.name, &select);
   for (const std::string& name : m_handWritten)
-    if (!m_entities.contains(name))
+    if (!m_entities.contains(name) && !m_selects.contains(name))
       throw std::runtime_error("hand-written class " + name + " is none of the schema");
 
   std::uint32_t next = 1;

@@ -33,6 +33,7 @@ class SchemaModel {
 
   const SchemaTable& table() const { return m_table; }
   bool isHandWritten(const Entity& entity) const { return m_handWritten.contains(entity.name); }
+  bool isHandWritten(const Select& select) const { return m_handWritten.contains(select.name); }
 
   /// Ids from 1 in a depth-first walk of the inheritance forest, roots and subclasses in the order
   /// of their names.

@@ -19,10 +19,11 @@ std::vector<std::string> alternatives(const Select& select) {
 std::string nestedConstructors(const SchemaModel& model, const Select& select,
                                const std::string& member) {
   const Group& group = groupNamed(select.group);
+  const std::string name = generatedSelectName(model, select);
   std::string text;
   for (const std::string& leaf : alternatives(model.select(member))) {
     if (model.kind(leaf) != ElementKind::definedType) continue;
-    text += fmt::format("  {0}({1} value) : {0}({2}(std::move(value))) {{}}\n", fcName(select.name),
+    text += fmt::format("  {0}({1} value) : {0}({2}(std::move(value))) {{}}\n", name,
                         model.alternativeType(leaf, group), model.className(member, group));
   }
   return text;
@@ -79,9 +80,13 @@ class {2} : public BaseType<{3}> {{
                                    group.name));
 }
 
+std::string generatedSelectName(const SchemaModel& model, const Select& select) {
+  return fcName(select.name) + (model.isHandWritten(select) ? "Alternatives" : "");
+}
+
 std::string selectHeader(const SchemaModel& model, const Select& select) {
   const Group& group = groupNamed(select.group);
-  const std::string name = fcName(select.name);
+  const std::string name = generatedSelectName(model, select);
   HeaderText header(model, group);
   header.include("Fc/Reflection/SelectBase.h");
   std::string types, constructors, getters;
@@ -101,7 +106,7 @@ class QOR_API {2} : public Select<{2}> {{
  public:
   enum class Types : std::uint8_t {{ {3}NotSet }};
   static constexpr bool hasValues = {4};
-  static constexpr const char* spelling = "qor::fc::{5}::{2}";
+  static constexpr const char* spelling = "qor::fc::{5}::{8}";
   static const SelectInfo table;
   static const SelectInfo& info() {{ return table; }}
 
@@ -112,7 +117,8 @@ class QOR_API {2} : public Select<{2}> {{
 {7}}};
 )",
                                    select.name, group.path, name, types,
-                                   !model.entitiesOnly(select), group.name, constructors, getters));
+                                   !model.entitiesOnly(select), group.name, constructors, getters,
+                                   fcName(select.name)));
 }
 
 std::string selectTable(const SchemaModel& model, const Select& select) {
@@ -139,7 +145,7 @@ std::string selectTable(const SchemaModel& model, const Select& select) {
 constinit const SelectInfo {0}::table{{"{2}", alternativesOf{0}, {3}, {4}, {5}}};
 
 )",
-                     fcName(select.name), rows, select.name, nestedOnly, values,
+                     generatedSelectName(model, select), rows, select.name, nestedOnly, values,
                      model.entitiesOnly(select));
 }
 

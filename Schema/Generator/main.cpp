@@ -36,7 +36,9 @@ void generate(const SchemaModel& model, const OutputFolder& out) {
   for (const DefinedType& element : model.table().definedTypes)
     out.write(headerOf(model, element.name), definedTypeHeader(model, element));
   for (const Select& element : model.table().selects)
-    out.write(headerOf(model, element.name), selectHeader(model, element));
+    out.write(fmt::format("Fc/{}/{}.h", groupNamed(element.group).folder(),
+                          generatedSelectName(model, element)),
+              selectHeader(model, element));
   for (const Entity& element : model.table().entities) {
     const Group& group = groupNamed(element.group);
     groups.insert(group.name);

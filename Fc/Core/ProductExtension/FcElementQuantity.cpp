@@ -1,0 +1,19 @@
+#include "Fc/Core/ProductExtension/FcElementQuantity.h"
+
+#include "Fc/Data.h"
+#include "Fc/Resource/Quantity/FcPhysicalQuantity.h"
+
+namespace qor::fc::core::productextension {
+
+void FcElementQuantity::deleteAllProperties(Data& data) {
+  for (const auto& quantity : Quantities()) data.entityDelete(quantity);
+  setQuantities({});
+}
+
+std::shared_ptr<FcBase> FcElementQuantity::getPropertyAsFcBase(std::string_view name) const {
+  for (const auto& quantity : Quantities())
+    if (quantity && quantity->Name() == name) return quantity;
+  return nullptr;
+}
+
+}  // namespace qor::fc::core::productextension

@@ -1,0 +1,63 @@
+#include "Fc/Resource/Measure/FcValue.h"
+
+#include "Qor/Assert/Assert.h"
+
+namespace qor::fc::resource::measure {
+
+using object::PropertyValue;
+
+namespace {
+
+void report(const char* message, int line) {
+  if (Assert::isEnabled())
+    Assert::addAssert(
+        {.message = message,
+         .function = "qor::fc::resource::measure::FcValue::updateValueFromPropertyValue",
+         .source = "FcValue",
+         .line = line});
+}
+
+}  // namespace
+
+std::optional<double> FcValue::valueAsDoubleGet() const {
+  return type() == Types::SimpleValue ? SimpleValue().valueAsDoubleGet() : number();
+}
+
+bool FcValue::setDoubleValue(double value) {
+  const bool isSimple = type() == Types::SimpleValue;
+  if (isSimple && SimpleValue().type() != FcSimpleValue::Types::Real) return false;
+  return setNumber(value);
+}
+
+PropertyValue FcValue::getAsPropertyValue() const {
+  if (const auto number = valueAsDoubleGet()) return *number;
+  if (isBoolean()) return SimpleValue().Boolean().value();
+  if (!isSet()) return {};
+  const std::optional<std::string> text = getAsString(false);
+  return text ? PropertyValue(*text) : PropertyValue();
+}
+
+void FcValue::updateValueFromPropertyValue(const PropertyValue& value) {
+  if (!isSet()) {
+    report(
+        "FcValue::updateValueFromPropertyValue can only be used if the Value alredy has a value.",
+        __LINE__);
+  } else if (value.getType() == PropertyValue::Type::Double) {
+    setDoubleValue(value.getDouble());
+  } else if (isBoolean()) {
+    if (value.getType() == PropertyValue::Type::Bool)
+      *this = FcSimpleValue(FcBoolean(value.getBool()));
+    else
+      report("Unexpected type, expected a boolean.", __LINE__);
+  } else if (value.getType() == PropertyValue::Type::Text) {
+    setValueOnTypeFromString(value.getText());
+  } else {
+    report("Unexpected type", __LINE__);
+  }
+}
+
+bool FcValue::isBoolean() const {
+  return type() == Types::SimpleValue && SimpleValue().type() == FcSimpleValue::Types::Boolean;
+}
+
+}  // namespace qor::fc::resource::measure

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "Qor/Math/Vector.h"
+
+namespace qor::math {
+
+namespace _2d {
+
+/// A place in the plane, in metres.
+struct Point {
+  double x = 0;
+  double y = 0;
+
+  constexpr Point() = default;
+  constexpr Point(double x_, double y_) : x(x_), y(y_) {}
+
+  friend constexpr bool operator==(const Point&, const Point&) = default;
+  friend constexpr Vector operator-(const Point& a, const Point& b) {
+    return {a.x - b.x, a.y - b.y};
+  }
+  friend constexpr Point operator+(const Point& a, const Vector& b) {
+    return {a.x + b.x, a.y + b.y};
+  }
+};
+
+}  // namespace _2d
+
+namespace _3d {
+
+/// A place in space, in metres.
+struct Point {
+  double x = 0;
+  double y = 0;
+  double z = 0;
+
+  constexpr Point() = default;
+  constexpr Point(double x_, double y_, double z_) : x(x_), y(y_), z(z_) {}
+
+  friend constexpr bool operator==(const Point&, const Point&) = default;
+  friend constexpr Vector operator-(const Point& a, const Point& b) {
+    return {a.x - b.x, a.y - b.y, a.z - b.z};
+  }
+  friend constexpr Point operator+(const Point& a, const Vector& b) {
+    return {a.x + b.x, a.y + b.y, a.z + b.z};
+  }
+};
+
+}  // namespace _3d
+
+using Point2d = _2d::Point;
+using Point3d = _3d::Point;
+
+}  // namespace qor::math
