@@ -6,6 +6,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <string>
 #include <vector>
@@ -87,12 +88,12 @@ void write(benchmark::State& state, const std::string& text) {
 
 void registerModel(const std::string& name, std::string text) {
   const auto* kept = new std::string(std::move(text));  // lives as long as the benchmarks
-  for (const auto& [what, function] :
-       {std::pair("load/", load), {"findTokens/", findTokens}, {"write/", write}})
-    benchmark::RegisterBenchmark((what + name).c_str(), [function = function,
-                                                         kept](benchmark::State& state) {
-      function(state, *kept);
-    })->Unit(benchmark::kMillisecond);
+  using Function = void (*)(benchmark::State&, const std::string&);
+  const std::pair<const char*, Function> kinds[] = {
+      {"load/", load}, {"findTokens/", findTokens}, {"write/", write}};
+  for (const auto& [what, function] : kinds)
+    benchmark::RegisterBenchmark((what + name).c_str(), function, std::cref(*kept))
+        ->Unit(benchmark::kMillisecond);
 }
 
 void registerModels() {

@@ -47,9 +47,9 @@ struct TypeSpelling<T> {
 template <class T>
 struct TypeSpelling<std::vector<T>> {
   static std::string get() {
-    std::string element = TypeSpelling<T>::get();
-    if (element.back() == '>') element += ' ';
-    return "class std::vector<" + element + ",class std::allocator<" + element + "> >";
+    const std::string element = TypeSpelling<T>::get();
+    const char* close = element.back() == '>' ? " > >" : "> >";
+    return "class std::vector<" + element + ",class std::allocator<" + element + close;
   }
 };
 template <class T, std::size_t N>
@@ -126,6 +126,8 @@ class BaseType {
   bool setFromString(const std::string& text) { return valueFromString(m_value, text); }
 
   friend bool operator==(const BaseType&, const BaseType&) = default;
+  /// Without this, `length == 2.5` could convert either side and would be ambiguous.
+  friend bool operator==(const BaseType& a, const T& b) { return a.m_value == b; }
 
  private:
   T m_value{};

@@ -39,6 +39,8 @@ class EntityRange {
    private:
     Listed m_at{};
   };
+  using value_type = std::shared_ptr<T>;
+  using const_iterator = iterator;
 
   EntityRange(Listed begin, Listed end) : m_begin(begin), m_end(end) {}
 

@@ -82,7 +82,7 @@ bool FcBase::setLocalValue(LocalValue value, const object::PropertyId& id) {
   if (attribute->links.empty()) return attribute->type->setLocalValue(member, value);
 
   std::vector<std::shared_ptr<FcBase>> before;
-  attribute->type->forEachEntity(
+  attribute->type->forEachTarget(
       member, [&before](FcBase& target) { before.push_back(target.shared_from_this()); });
   if (!attribute->type->setLocalValue(member, value)) return false;
   for (const auto& target : before) unlinkTarget(*this, *attribute, *target);

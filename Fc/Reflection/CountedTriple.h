@@ -1,7 +1,7 @@
 #pragma once
 
 #include <array>
-#include <cassert>
+#include <cstddef>
 #include <cstdint>
 #include <initializer_list>
 

@@ -43,13 +43,13 @@ void unlinkTarget(FcBase& holder, const AttributeInfo& attribute, FcBase& target
 
 void linkTargets(FcBase& holder, const AttributeInfo& attribute) {
   if (attribute.links.empty()) return;
-  attribute.type->forEachEntity(attribute.of(std::as_const(holder)),
+  attribute.type->forEachTarget(attribute.of(std::as_const(holder)),
                                 [&](FcBase& target) { linkTarget(holder, attribute, target); });
 }
 
 void unlinkTargets(FcBase& holder, const AttributeInfo& attribute) {
   if (attribute.links.empty()) return;
-  attribute.type->forEachEntity(attribute.of(std::as_const(holder)),
+  attribute.type->forEachTarget(attribute.of(std::as_const(holder)),
                                 [&](FcBase& target) { unlinkTarget(holder, attribute, target); });
 }
 

@@ -35,6 +35,15 @@ template <class S>
 requires requires(const S& s) { s.getEntity(); }
 FcBase* targetOf(const S& select) { return select.getEntity(); }
 
+/// Whether two elements of a list are the same: they name one entity, or hold equal values.
+template <class T>
+bool isSameElement(const T& a, const T& b) {
+  const FcBase* target = targetOf(a);
+  if (target || targetOf(b)) return target == targetOf(b);
+  if constexpr (requires { a.getLocalValue(); }) return a.getLocalValue() == b.getLocalValue();
+  return true;
+}
+
 template <class Member, class Value>
 void setLinked(FcBase& holder, const AttributeInfo& attribute, Member& member, Value&& value) {
   unlinkTargets(holder, attribute);
@@ -51,14 +60,13 @@ std::vector<T>& engaged(std::optional<std::vector<T>>& list) {
   return list ? *list : list.emplace();
 }
 
-/// Links the value and appends it unless the list names the same entity already.
+/// Links the value and appends it unless the list has it already.
 template <class List, class T>
 void insertLinked(FcBase& holder, const AttributeInfo& attribute, List& list, T&& value) {
-  FcBase* target = targetOf(value);
-  if (target) linkTarget(holder, attribute, *target);
+  if (FcBase* target = targetOf(value)) linkTarget(holder, attribute, *target);
   auto& elements = engaged(list);
-  const bool present = std::any_of(elements.begin(), elements.end(), [target](const auto& element) {
-    return targetOf(element) == target;
+  const bool present = std::any_of(elements.begin(), elements.end(), [&value](const auto& element) {
+    return isSameElement(element, value);
   });
   if (!present) elements.push_back(std::forward<T>(value));
 }
@@ -70,13 +78,13 @@ void pushBackLinked(FcBase& holder, const AttributeInfo& attribute, List& list, 
   engaged(list).push_back(std::forward<T>(value));
 }
 
-/// Unlinks the value, an element or not, and removes every element that names the same entity.
+/// Unlinks the value, an element or not, and removes every element that is the same.
 template <class T>
 void eraseLinked(FcBase& holder, const AttributeInfo& attribute, std::vector<T>& list,
                  const T& value) {
-  FcBase* target = targetOf(value);
-  if (target) unlinkTarget(holder, attribute, *target);
-  std::erase_if(list, [target](const T& element) { return targetOf(element) == target; });
+  const T sought = value;  // The caller may have given an element of the list itself.
+  if (FcBase* target = targetOf(sought)) unlinkTarget(holder, attribute, *target);
+  std::erase_if(list, [&sought](const T& element) { return isSameElement(element, sought); });
 }
 template <class T>
 void eraseLinked(FcBase& holder, const AttributeInfo& attribute,

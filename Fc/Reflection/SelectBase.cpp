@@ -1,6 +1,7 @@
 #include "Fc/Reflection/SelectBase.h"
 
 #include <cstring>
+#include <memory>
 
 #include "Fc/FcBase.h"
 #include "Fc/Reflection/ClassInfo.h"
@@ -30,7 +31,21 @@ bool holdsClass(const SelectInfo& info, std::uint32_t classId) {
   return false;
 }
 
+struct FreeMemory {
+  void operator()(void* memory) const { ::operator delete(memory); }
+};
+
 }  // namespace
+
+/// A select that isn't the result yet: its value goes with it unless it is moved out.
+class SelectBase::Candidate : public SelectBase {
+ public:
+  Candidate(const SelectInfo& info, std::uint32_t position) : m_info(info) { make(info, position); }
+  ~Candidate() { reset(m_info); }
+
+ private:
+  const SelectInfo& m_info;
+};
 
 void* SelectBase::heap() const {
   void* pointer;
@@ -45,25 +60,35 @@ void SelectBase::reset(const SelectInfo& info) {
   m_position = npos;
 }
 
-void* SelectBase::make(const SelectInfo& info, std::uint32_t position) {
-  reset(info);
-  if (position == npos) return nullptr;
+// Gives an empty select the value that `fill` makes in the place it is handed. The select stays
+// empty when that throws.
+template <class Fill>
+void SelectBase::build(const SelectInfo& info, std::uint32_t position, Fill&& fill) {
   const AlternativeOperations& operations = *info.alternatives[position].operations;
-  if (!operations.inPlace) {
-    void* pointer = ::operator new(operations.size);
+  if (operations.inPlace) {
+    fill(operations, m_place);
+  } else {
+    std::unique_ptr<void, FreeMemory> memory(::operator new(operations.size));
+    fill(operations, memory.get());
+    void* pointer = memory.release();
     std::memcpy(m_place, &pointer, sizeof pointer);
   }
   m_position = position;
-  void* place = value(info);
-  operations.construct(place);
-  return place;
+}
+
+void* SelectBase::make(const SelectInfo& info, std::uint32_t position) {
+  reset(info);
+  if (position == npos) return nullptr;
+  build(info, position,
+        [](const AlternativeOperations& operations, void* place) { operations.construct(place); });
+  return value(info);
 }
 
 void SelectBase::copyFrom(const SelectInfo& info, const SelectBase& other) {
-  void* place = make(info, other.m_position);
-  if (!place) return;
-  at(info).destroy(place);
-  at(info).copy(place, other.value(info));
+  if (other.m_position == npos) return;
+  build(info, other.m_position, [&](const AlternativeOperations& operations, void* place) {
+    operations.copy(place, other.value(info));
+  });
 }
 
 void SelectBase::moveFrom(const SelectInfo& info, SelectBase& other) {
@@ -121,14 +146,14 @@ bool SelectBase::setNamed(const SelectInfo& info, const LocalValue& value) {
     const AlternativeOperations& operations = *alternative.operations;
     if (alternative.isEntity() || (!alternative.nested && alternative.ifcName != *value.typeName))
       continue;
-    SelectBase candidate;
-    void* place = candidate.make(info, i);
+    Candidate candidate(info, i);
+    void* place = candidate.value(info);
     const bool stored = alternative.nested
                             ? operations.select(place)->setNamed(*alternative.nested, value)
                             : operations.type->setLocalValue(place, value);
-    if (stored) moveFrom(info, candidate);
-    candidate.reset(info);
-    if (stored) return true;
+    if (!stored) continue;
+    moveFrom(info, candidate);
+    return true;
   }
   return false;
 }
@@ -164,21 +189,22 @@ std::optional<std::string> SelectBase::getAsString(const SelectInfo& info, bool 
 bool SelectBase::setFromString(const SelectInfo& info, const std::string& text) {
   const std::size_t open = text.find('(');
   if (open == std::string::npos || text.back() != ')') return false;
-  return setTypeFromString(info, text.substr(0, open)) &&
-         setValueOnTypeFromString(info, text.substr(open + 1, text.size() - open - 2));
+  // Both parts are copied first: the text may be the select's own value.
+  const std::string name = text.substr(0, open);
+  const std::string value = text.substr(open + 1, text.size() - open - 2);
+  return setTypeFromString(info, name) && setValueOnTypeFromString(info, value);
 }
 
 bool SelectBase::setTypeFromString(const SelectInfo& info, const std::string& name) {
   for (std::uint32_t i = 0; i < info.alternatives.size(); ++i) {
     const AlternativeInfo& alternative = info.alternatives[i];
     if (info.nestedOnly) {
-      SelectBase candidate;
-      void* place = candidate.make(info, i);
-      const bool known =
-          alternative.operations->select(place)->setTypeFromString(*alternative.nested, name);
-      if (known) moveFrom(info, candidate);
-      candidate.reset(info);
-      if (known) return true;
+      Candidate candidate(info, i);
+      void* place = candidate.value(info);
+      if (!alternative.operations->select(place)->setTypeFromString(*alternative.nested, name))
+        continue;
+      moveFrom(info, candidate);
+      return true;
     } else if (alternative.name == name) {
       make(info, i);
       return true;
@@ -190,8 +216,11 @@ bool SelectBase::setTypeFromString(const SelectInfo& info, const std::string& na
 bool SelectBase::setValueOnTypeFromString(const SelectInfo& info, const std::string& text) {
   if (m_position == npos) return false;
   const AlternativeInfo& alternative = info.alternatives[m_position];
-  if (alternative.nested)
-    return at(info).select(value(info))->setValueOnTypeFromString(*alternative.nested, text);
+  if (alternative.nested) {
+    SelectBase& nested = *at(info).select(value(info));
+    return info.nestedOnly ? nested.setValueOnTypeFromString(*alternative.nested, text)
+                           : nested.setFromString(*alternative.nested, text);
+  }
   if (info.entitiesOnly) return false;
   return at(info).setFromString(value(info), text);
 }
@@ -207,18 +236,19 @@ void SelectBase::forEachEntity(const SelectInfo& info,
 }
 
 bool SelectBase::read(const SelectInfo& info, ValueSource& source, const TypeOperations& expected) {
+  reset(info);
   switch (source.next()) {
     case ValueSource::Kind::null:
     case ValueSource::Kind::derived:
       source.skip();
-      reset(info);
       return true;
     case ValueSource::Kind::entity:
       return readEntity(info, source, expected);
     case ValueSource::Kind::typed: {
       const std::string_view upperName = source.openTyped();
       const bool known = holdsTyped(info, upperName);
-      bool stored = known && readTyped(info, upperName, source);
+      const bool stored = known && readTyped(info, upperName, source);
+      if (!stored) reset(info);
       if (!known) {
         source.rejected(Rejection::unknownType, upperName, expected);
         source.skip();

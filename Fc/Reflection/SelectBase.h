@@ -4,6 +4,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "Fc/Reflection/SelectInfo.h"
 #include "Qor/Assert/Exception.h"
@@ -40,6 +41,7 @@ class QOR_API SelectBase {
   void reset(const SelectInfo& info);
   /// Makes the select that alternative with a default value; `npos` for NotSet.
   void* make(const SelectInfo& info, std::uint32_t position);
+  /// For a select that is NotSet; it stays so when the copy throws.
   void copyFrom(const SelectInfo& info, const SelectBase& other);
   void moveFrom(const SelectInfo& info, SelectBase& other);
 
@@ -64,6 +66,10 @@ class QOR_API SelectBase {
   friend struct ValueTraits;
 
  private:
+  class Candidate;
+
+  template <class Fill>
+  void build(const SelectInfo& info, std::uint32_t position, Fill&& fill);
   const AlternativeOperations& at(const SelectInfo& info) const {
     return *info.alternatives[m_position].operations;
   }
@@ -91,10 +97,7 @@ class Select : public SelectBase {
   Select(Select&& other) noexcept : SelectBase() { moveFrom(D::info(), other); }
   /// A copy whose entity is copied too, as `settings` says.
   Select(const D& other, FcCopySettings& settings) { assign(other, settings); }
-  Select& operator=(const Select& other) {
-    if (this != &other) copyFrom(D::info(), other);
-    return *this;
-  }
+  Select& operator=(const Select& other) { return *this = Select(other); }
   Select& operator=(Select&& other) noexcept {
     if (this != &other) moveFrom(D::info(), other);
     return *this;
@@ -152,13 +155,21 @@ class Select : public SelectBase {
                ? "NotSet"
                : D::info().alternatives[static_cast<std::size_t>(type)].name.data();
   }
-  /// Empty for an unknown name.
-  static auto enumFromName(const std::string& name) {
-    using Types = typename D::Types;
+  /// Empty for a null pointer or an unknown name.
+  static auto enumFromName(const char* name) {
+    std::optional<typename D::Types> result;
+    if (!name) return result;
     const auto& lookup = getNamesLookup();
     const auto found = lookup.find(name);
-    return found == lookup.end() ? std::optional<Types>()
-                                 : std::optional<Types>(static_cast<Types>(found->second));
+    if (found != lookup.end()) result = static_cast<typename D::Types>(found->second);
+    return result;
+  }
+  /// The names of all alternatives, without NotSet.
+  static std::vector<std::string> enumNames() {
+    std::vector<std::string> names;
+    for (const AlternativeInfo& alternative : D::info().alternatives)
+      names.emplace_back(alternative.name);
+    return names;
   }
 
  protected:

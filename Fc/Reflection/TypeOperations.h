@@ -52,6 +52,9 @@ struct TypeOperations {
   /// Calls back for each entity that the member names; nulls and dead inverse entries are passed
   /// over.
   void (*forEachEntity)(const void* member, EntityCallback callback);
+  /// The same for those alone that inverse attributes mirror: not the entities inside a value, such
+  /// as a select's set of property set definitions.
+  void (*forEachTarget)(const void* member, EntityCallback callback);
   /// Takes one value off the source. What doesn't fit is reported to the source and left out; false
   /// when nothing was stored.
   bool (*read)(void* member, ValueSource& source);

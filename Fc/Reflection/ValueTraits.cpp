@@ -74,6 +74,7 @@ constexpr TypeOperations inverseOperations(LocalValue (*getLocalValue)(const voi
           getLocalValue,
           [](void*, const LocalValue&) { return false; },
           forEachHolder,
+          forEachHolder,
           [](void*, ValueSource&) { return false; },
           [](const void*, ValueSink& sink) { sink.null(); },
           [](void*, const void*, FcCopySettings&) {},

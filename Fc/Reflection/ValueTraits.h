@@ -47,6 +47,13 @@ struct TypeOperationsMaker {
   static void forEachEntity(const void* m, TypeOperations::EntityCallback callback) {
     Traits::forEachEntity(*static_cast<const T*>(m), callback);
   }
+  static void forEachTarget(const void* m, TypeOperations::EntityCallback callback) {
+    const T& member = *static_cast<const T*>(m);
+    if constexpr (requires { Traits::forEachTarget(member, callback); })
+      Traits::forEachTarget(member, callback);
+    else
+      Traits::forEachEntity(member, callback);
+  }
   static bool read(void* m, ValueSource& source);
   static void write(const void* m, ValueSink& sink) {
     Traits::write(*static_cast<const T*>(m), sink);
@@ -72,6 +79,7 @@ inline constexpr TypeOperations operationsOf = {
     &TypeOperationsMaker<T>::getLocalValue,
     &TypeOperationsMaker<T>::setLocalValue,
     &TypeOperationsMaker<T>::forEachEntity,
+    &TypeOperationsMaker<T>::forEachTarget,
     &TypeOperationsMaker<T>::read,
     &TypeOperationsMaker<T>::write,
     &TypeOperationsMaker<T>::assign,
@@ -313,6 +321,9 @@ struct ValueTraits<T> : PlainValueTraits {
   static void forEachEntity(const T& m, TypeOperations::EntityCallback callback) {
     m.SelectBase::forEachEntity(T::table, callback);
   }
+  static void forEachTarget(const T& m, TypeOperations::EntityCallback callback) {
+    if (FcBase* entity = m.getEntity()) callback(*entity);
+  }
   static bool read(T& m, ValueSource& source, const TypeOperations& self) {
     return m.SelectBase::read(T::table, source, self);
   }
@@ -354,6 +365,7 @@ struct ValueTraits<std::shared_ptr<T>> {
     if (m) callback(*m);
   }
   static bool read(Reference& m, ValueSource& source, const TypeOperations& self) {
+    m.reset();
     if (source.next() != ValueSource::Kind::entity) {
       if (skipNull(source)) return true;
       return rejectNext(source, Rejection::wrongKind, self);
@@ -416,6 +428,9 @@ struct ValueTraits<std::optional<T>> {
   }
   static void forEachEntity(const Optional& m, TypeOperations::EntityCallback callback) {
     if (m) Traits::forEachEntity(*m, callback);
+  }
+  static void forEachTarget(const Optional& m, TypeOperations::EntityCallback callback) {
+    if (m) TypeOperationsMaker<T>::forEachTarget(&*m, callback);
   }
   static bool read(Optional& m, ValueSource& source, const TypeOperations&) {
     m.reset();
@@ -496,6 +511,9 @@ struct ValueTraits<std::vector<T>> {
   static void forEachEntity(const List& m, TypeOperations::EntityCallback callback) {
     for (const T& element : m) Traits::forEachEntity(element, callback);
   }
+  static void forEachTarget(const List& m, TypeOperations::EntityCallback callback) {
+    for (const T& element : m) TypeOperationsMaker<T>::forEachTarget(&element, callback);
+  }
   /// An element that doesn't fit is left out, the others stay.
   static bool read(List& m, ValueSource& source, const TypeOperations& self) {
     if (source.next() != ValueSource::Kind::list)
@@ -575,8 +593,11 @@ struct ValueTraits<std::array<T, N>> : PlainValueTraits {
     return true;
   }
   static bool read(Tuple& m, ValueSource& source, const TypeOperations& self) {
+    Tuple numbers;
     std::size_t count = 0;
-    return readTuple(m, count, N, source, self);
+    if (!readTuple(numbers, count, N, source, self)) return false;
+    m = numbers;
+    return true;
   }
   static void write(const Tuple& m, ValueSink& sink) {
     sink.openList();

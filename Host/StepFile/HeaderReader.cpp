@@ -53,7 +53,7 @@ class Parameters {
 class HeaderReader {
  public:
   HeaderReader(std::string_view text, ProblemLog& log)
-      : m_text(text), m_scanner(text), m_log(log), m_source(m_noInstances, m_noWrappers, log) {}
+      : m_text(text), m_scanner(text), m_source(m_noInstances, m_noWrappers, log) {}
 
   HeaderResult run() {
     const char* at =
@@ -129,7 +129,6 @@ class HeaderReader {
 
   std::string_view m_text;
   Scanner m_scanner;
-  ProblemLog& m_log;
   InstanceTable m_noInstances;
   Wrappers m_noWrappers;
   ParameterSource m_source;

@@ -334,7 +334,9 @@ bool ParameterSource::unwrap() {
   m_at = m_scanner.skipSpace(m_at);
   if (*m_at != '#') return false;
   const char* behind = m_at + 1;
-  const auto wrapper = m_wrappers.find(readInstanceNumber(behind, m_scanner.end()));
+  const std::uint64_t number = readInstanceNumber(behind, m_scanner.end());
+  if (const auto* entity = m_instances.find(number); !entity || *entity) return false;
+  const auto wrapper = m_wrappers.find(number);
   if (wrapper == m_wrappers.end()) return false;
   m_resumeAt = behind;
   m_resumeScanner = m_scanner;

@@ -21,7 +21,10 @@ bool ExpectedAssert::describes(const AssertInfo& info) const {
 ExpectAsserts::ExpectAsserts() : ExpectAsserts(std::initializer_list<ExpectedAssert>{}) {}
 
 ExpectAsserts::ExpectAsserts(std::initializer_list<ExpectedAssert> expected)
-    : m_missing(expected),
+    : ExpectAsserts(std::vector<ExpectedAssert>(expected)) {}
+
+ExpectAsserts::ExpectAsserts(std::vector<ExpectedAssert> expected)
+    : m_missing(std::move(expected)),
       m_previous(Assert::setHandler([this](const AssertInfo& info) { take(info); })) {}
 
 ExpectAsserts::~ExpectAsserts() {

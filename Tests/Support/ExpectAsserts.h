@@ -34,6 +34,7 @@ class ExpectAsserts {
   /// Expects none.
   ExpectAsserts();
   explicit ExpectAsserts(std::initializer_list<ExpectedAssert> expected);
+  explicit ExpectAsserts(std::vector<ExpectedAssert> expected);
   ExpectAsserts(const ExpectAsserts&) = delete;
   ExpectAsserts& operator=(const ExpectAsserts&) = delete;
   ~ExpectAsserts();

@@ -1,0 +1,116 @@
+#include "Host/Cli/CommandLine.h"
+
+#include <CLI/CLI.hpp>
+#include <exception>
+#include <functional>
+#include <new>
+#include <ostream>
+#include <sstream>
+#include <string>
+
+#include "Host/Cli/AssertLines.h"
+#include "Host/Cli/ConvertCommand.h"
+#include "Host/Cli/GetCommand.h"
+#include "Host/Cli/InfoCommand.h"
+#include "Host/Cli/LoadModel.h"
+#include "Host/Cli/PrintableText.h"
+#include "Host/Cli/TreeCommand.h"
+
+namespace qor::host::cli {
+
+namespace {
+
+/// The command line with its options, and the command that it names once it is parsed.
+class CommandLine {
+ public:
+  CommandLine() {
+    m_app.require_subcommand(1);
+    m_app.set_version_flag("--version", FCTOOL_VERSION);
+    m_app.footer("Exits with 0, 1 (the file has problems, all reported) or 2 (it can't be done).");
+    addInfo();
+    addTree();
+    addGet();
+    addConvert();
+  }
+  CommandLine(const CommandLine&) = delete;  // the parser points at the options
+  CommandLine& operator=(const CommandLine&) = delete;
+
+  ExitCode run(int argc, const char* const* argv, Console& console) {
+    try {
+      m_app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+      return finish(error, console);
+    }
+    return m_command(console);
+  }
+
+ private:
+  template <class Options, class Command>
+  CLI::App& add(const char* name, const char* description, Options& options, Command runCommand) {
+    CLI::App& command = *m_app.add_subcommand(name, description);
+    command.add_flag("--json", options.json, "Print JSON, for programs");
+    command.callback([this, &options, runCommand] {
+      m_command = [&options, runCommand](Console& console) { return runCommand(options, console); };
+    });
+    return command;
+  }
+
+  void addInfo() {
+    add("info", "Schema, counts by class, units and problems of a file", m_info, runInfo)
+        .add_option("FILE", m_info.file, "The STEP file")
+        ->required();
+  }
+  void addTree() {
+    add("tree", "Project, sites, buildings, storeys, spaces and elements", m_tree, runTree)
+        .add_option("FILE", m_tree.file, "The STEP file")
+        ->required();
+  }
+  void addGet() {
+    CLI::App& command = add("get", "All attributes of one entity", m_get, runGet);
+    command.add_option("FILE", m_get.file, "The STEP file")->required();
+    CLI::Option_group& key = *command.add_option_group("entity", "One of these is needed");
+    key.add_option("--guid", m_get.guid, "Its guid");
+    key.add_option("--id", m_get.id, "Its number in the file, 12 for #12");
+    key.require_option(1);
+  }
+  void addConvert() {
+    CLI::App& command =
+        add("convert", "Read a file and write it as IFC4X3_ADD2", m_convert, runConvert);
+    command.add_option("IN", m_convert.input, "The STEP file to read")->required();
+    command.add_option("OUT", m_convert.output, "The file to write; replaced at once")->required();
+  }
+
+  /// Help and version are errors of the parser that end well.
+  ExitCode finish(const CLI::ParseError& error, Console& console) {
+    if (error.get_exit_code() != 0)
+      return refuse(console, printable(error.what()) + "; see fctool --help");
+    std::ostringstream ignored;
+    m_app.exit(error, console.out, ignored);
+    return ExitCode::success;
+  }
+
+  CLI::App m_app{"Looks into IFC models in STEP files and converts them.", "fctool"};
+  InfoOptions m_info;
+  TreeOptions m_tree;
+  GetOptions m_get;
+  ConvertOptions m_convert;
+  std::function<ExitCode(Console&)> m_command;
+};
+
+}  // namespace
+
+ExitCode runFctool(int argc, const char* const* argv, Console& console) noexcept try {
+  const AssertLines asserts(console.err);
+  return CommandLine().run(argc, argv, console);
+} catch (const std::bad_alloc&) {
+  console.err << "fctool: out of memory\n";
+  return ExitCode::impossible;
+} catch (const std::exception& error) {
+  console.err << "fctool: " << error.what() << "\n";
+  return ExitCode::impossible;
+} catch (...) {
+  console.err << "fctool: an unknown error\n";
+  return ExitCode::impossible;
+}
+
+}  // namespace qor::host::cli

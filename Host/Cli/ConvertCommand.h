@@ -1,0 +1,24 @@
+#pragma once
+
+#include <filesystem>
+
+#include "Host/Cli/Console.h"
+
+namespace qor::host::cli {
+
+struct ConvertOptions {
+  std::filesystem::path input{};
+  std::filesystem::path output{};
+  bool json = false;
+};
+
+/// `fctool convert`: reads a file of any schema that the reader knows and writes it as IFC4X3_ADD2,
+/// with its header, its numbers and its order. The output is replaced at once or not at all, and
+/// may thus be the input; but not when the input has problems, since what was left out would be
+/// lost.
+///
+/// As JSON: "input", "output", "schema" (of the input), "instances" (written) and "problems" (how
+/// many).
+ExitCode runConvert(const ConvertOptions& options, Console& console);
+
+}  // namespace qor::host::cli

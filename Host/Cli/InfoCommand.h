@@ -1,0 +1,22 @@
+#pragma once
+
+#include <filesystem>
+
+#include "Host/Cli/Console.h"
+
+namespace qor::host::cli {
+
+struct InfoOptions {
+  std::filesystem::path file{};
+  bool json = false;
+};
+
+/// `fctool info`: the header of a file, how many entities of which class it has, its units and its
+/// problems.
+///
+/// As JSON: "file", "schema", "header", "entities" (their number), "classes" (name to number),
+/// "units" (each with "assignment", "type" and "unit"), "problems" (each with "kind", "class",
+/// "attribute", "count", "instance", "line" and "message").
+ExitCode runInfo(const InfoOptions& options, Console& console);
+
+}  // namespace qor::host::cli

@@ -1,0 +1,42 @@
+#include "Host/Cli/LoadModel.h"
+
+#include <fmt/format.h>
+
+#include <ostream>
+#include <utility>
+
+#include "Host/Cli/PrintableText.h"
+#include "Host/Cli/ProgressBar.h"
+
+namespace qor::host::cli {
+
+std::optional<step::ReadResult> loadModel(const std::filesystem::path& file, Console& console) {
+  step::ReadResult model;
+  {
+    ProgressBar bar("Reading", console);
+    model = step::readStepFile(file, {.progress = bar.callback()});
+  }
+  const std::string name = printable(file.string());
+  for (const step::Problem& problem : model.problems)
+    console.err << fmt::format("{}: {}\n", name, printable(problem.toString()));
+  if (model.data) return model;
+  refuse(console, fmt::format("can't read '{}': {}", name, printable(model.failure)));
+  return std::nullopt;
+}
+
+ExitCode exitCodeOf(const step::ReadResult& model) {
+  return model.problems.empty() ? ExitCode::success : ExitCode::problems;
+}
+
+std::uint64_t countProblems(const step::ReadResult& model) {
+  std::uint64_t count = 0;
+  for (const step::Problem& problem : model.problems) count += problem.count;
+  return count;
+}
+
+ExitCode refuse(Console& console, const std::string& why) {
+  console.err << "fctool: " << why << "\n";
+  return ExitCode::impossible;
+}
+
+}  // namespace qor::host::cli

@@ -1,0 +1,278 @@
+#include "Fc/Data.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "Fc/Core/Kernel/FcProject.h"
+#include "Fc/Core/Kernel/FcRelAggregates.h"
+#include "Fc/Core/ProductExtension/FcSite.h"
+#include "Fc/Factory.h"
+#include "Fc/Resource/Geometry/FcCartesianPoint.h"
+#include "Fc/Resource/Representation/FcGeometricRepresentationSubContext.h"
+#include "Fc/Shared/BuildingElements/FcSlab.h"
+#include "Fc/Shared/BuildingElements/FcWall.h"
+#include "Fc/Shared/BuildingElements/FcWallStandardCase.h"
+#include "Tests/Support/ExpectAsserts.h"
+
+namespace qor::fc {
+namespace {
+
+using core::kernel::FcProject;
+using core::kernel::FcRelAggregates;
+using core::kernel::FcRoot;
+using core::productextension::FcSite;
+using qor::test::ExpectAsserts;
+using resource::geometry::FcCartesianPoint;
+using shared::buildingelements::FcSlab;
+using shared::buildingelements::FcWall;
+using shared::buildingelements::FcWallStandardCase;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Pair;
+using testing::UnorderedElementsAre;
+
+// Gives tests what is meant for derived classes.
+class OpenData : public Data {
+ public:
+  using Data::idFromName;
+  using Data::rangeFromId;
+};
+
+template <class Range>
+std::size_t count(const Range& range) {
+  return static_cast<std::size_t>(range.second - range.first);
+}
+
+std::shared_ptr<FcWall> wallWithGuid(Data& data, const Guid& guid) {
+  auto wall = data.create<FcWall>();
+  wall->setGuid(guid);
+  return wall;
+}
+
+TEST(Data, IsEmptyAtTheStart) {
+  const ExpectAsserts none;
+  const auto data = std::make_shared<OpenData>();
+  EXPECT_EQ(data->size(), 0U);
+  EXPECT_EQ(count(data->rangeFromId(1, 876)), 0U);
+  EXPECT_EQ(data->project(), nullptr);
+  EXPECT_EQ(data->entityByGuid(Guid::generate()), nullptr);
+  EXPECT_THAT(data->entities<FcRoot>(), IsEmpty());
+}
+
+TEST(Data, CreatesByNameAndAddsNothingForAnUnknownOne) {
+  const auto data = std::make_shared<Data>();
+  {
+    const ExpectAsserts none;
+    const auto wall = data->entityCreate("IfcWall");
+    ASSERT_TRUE(wall);
+    EXPECT_TRUE(data->hasEntity(*wall));
+    EXPECT_TRUE(fcCast<FcRoot>(wall)->getGuid().isNull());
+  }
+  const ExpectAsserts expected({"Illegal class name or abstract class (IFCWALL)",
+                                "Illegal class name or abstract class (IfcProduct)"});
+  EXPECT_EQ(data->entityCreate("IFCWALL"), nullptr);
+  EXPECT_EQ(data->entityCreate("IfcProduct"), nullptr);
+  EXPECT_EQ(data->size(), 1U);
+}
+
+TEST(Data, GivesTheRangeOfAClassByNameAlsoOfAnAbstractOne) {
+  EXPECT_THAT(OpenData::idFromName("IfcWall"), Pair(429U, 430U));
+  EXPECT_THAT(OpenData::idFromName("IfcRoot"), Pair(357U, 840U));
+  const ExpectAsserts expected(
+      {{"Illegal class name (IfcNothing)", "qor::fc::Factory::boundFromIfcName", "FcFactory"}});
+  EXPECT_THAT(OpenData::idFromName("IfcNothing"), Pair(0U, 0U));
+}
+
+TEST(Data, FindsEntitiesOfAClassWithAndWithoutItsSubclasses) {
+  const auto data = std::make_shared<OpenData>();
+  const auto point = data->create<FcCartesianPoint>();
+  const auto standardCase = data->create<FcWallStandardCase>();
+  const auto slab = data->create<FcSlab>();
+  const auto wall = data->create<FcWall>();
+  const OpenData& reader = *data;
+  EXPECT_EQ(count(reader.rangeFromId(429)), 1U);
+  EXPECT_EQ(count(reader.rangeFromId(429, 430)), 2U);
+  EXPECT_EQ(count(data->rangeFromId(357, 840)), 3U);
+  EXPECT_EQ(count(data->rangeFromId(10001)), 0U);
+  EXPECT_THAT(data->entities<FcWall>(), ElementsAre(wall, standardCase));
+  EXPECT_EQ(data->entities<FcWall>().size(), 2U);
+  EXPECT_THAT(data->entitiesExactly<FcWall>(), ElementsAre(wall));
+  EXPECT_THAT(data->entities<FcSite>(), IsEmpty());
+  EXPECT_EQ(data->findFirst<FcRoot>([&](const FcRoot& root) { return &root != slab.get(); }), wall);
+  EXPECT_EQ(data->findFirst<FcWall>([](const FcWall& w) { return w.Name().has_value(); }), nullptr);
+
+  const auto second = data->create<FcWall>();  // a query after an add sorts again
+  EXPECT_THAT(data->entitiesExactly<FcWall>(), UnorderedElementsAre(wall, second));
+}
+
+TEST(Data, KeepsAThousandEntitiesInTheOrderOfTheirClasses) {
+  const auto data = std::make_shared<Data>();
+  const auto classes = Factory::classes();
+  for (std::size_t i = 0; data->size() < 1000; ++i)
+    if (const auto create = classes[(i * 389) % classes.size()]->create)
+      data->entityAdd(create(), false);
+  const auto all = data->allEntities();
+  EXPECT_TRUE(std::is_sorted(all.begin(), all.end(), [](const auto& a, const auto& b) {
+    return a->classId() < b->classId();
+  }));
+  for (const auto& entity : all) EXPECT_TRUE(data->hasEntity(*entity));
+}
+
+TEST(Data, ListsAnEntityTwiceUnlessAskedToCheck) {
+  const ExpectAsserts none;
+  const auto data = std::make_shared<Data>();
+  const auto point = data->create<FcCartesianPoint>();
+  data->entityAdd(point, true);
+  data->entityAdd(nullptr, false);
+  data->entityAdd(nullptr, true);
+  EXPECT_EQ(data->size(), 1U);
+  data->entityAdd(point, false);
+  EXPECT_EQ(data->size(), 2U);
+  EXPECT_TRUE(data->entityDelete(point));
+  EXPECT_TRUE(data->hasEntity(*point));
+}
+
+TEST(Data, TellsRootsAndContextsTheirModel) {
+  auto data = std::make_shared<Data>();
+  const auto wall = data->create<FcWall>();
+  const auto context =
+      data->create<resource::representation::FcGeometricRepresentationSubContext>();
+  EXPECT_EQ(wall->data(), data);
+  EXPECT_EQ(context->data(), data);
+  data.reset();
+  EXPECT_EQ(wall->data(), nullptr);
+}
+
+TEST(Data, ReportsRootsAddedToAModelThatNoSharedPointerHolds) {
+  Data unshared;
+  const auto wall = std::make_shared<FcWall>();
+  {
+    const ExpectAsserts none;
+    unshared.entityAdd(std::make_shared<FcCartesianPoint>(), false);
+  }
+  const ExpectAsserts expected({"This should be created with std::make_shared"});
+  unshared.entityAdd(wall, false);
+  EXPECT_TRUE(unshared.hasEntity(*wall));
+  EXPECT_EQ(wall->data(), nullptr);
+}
+
+TEST(Data, FindsARootByItsGuidOnceItHasOne) {
+  const ExpectAsserts none;
+  const auto data = std::make_shared<Data>();
+  const Guid guid = Guid::generate();
+  const auto wall = data->create<FcWall>();
+  EXPECT_EQ(data->entityByGuid(guid), nullptr);
+  EXPECT_EQ(data->entityByGuid(Guid()), nullptr);
+  wall->setGuid(guid);
+  EXPECT_EQ(data->entityByGuid(guid), wall);
+  const Guid later = Guid::generate();
+  wall->setGuid(later);
+  EXPECT_EQ(data->entityByGuid(guid), wall) << "a root stays under the guid of its first look-up";
+  EXPECT_EQ(data->entityByGuid(later), nullptr);
+}
+
+TEST(Data, KeepsTheFirstOfTwoRootsWithOneGuid) {
+  const auto data = std::make_shared<Data>();
+  const Guid guid = Guid::generate();
+  const auto first = wallWithGuid(*data, guid);
+  const auto second = data->create<FcSlab>();
+  second->setGuid(guid);
+  const ExpectAsserts expected({{"Guid with id '" + guid.toString(false) +
+                                     "' already exist in m_guidEntityMap on object 'IfcSlab'",
+                                 "qor::fc::Data::guidUpdate"}});
+  EXPECT_EQ(data->entityByGuid(guid), first);
+  EXPECT_EQ(data->entityByGuid(guid), first) << "reported once";
+  EXPECT_TRUE(data->hasEntity(*second));
+}
+
+TEST(Data, DeletesFromTheListAndTheGuidsAlone) {
+  const ExpectAsserts none;
+  const auto data = std::make_shared<Data>();
+  const Guid guid = Guid::generate();
+  const auto wall = wallWithGuid(*data, guid);
+  const auto parent = data->create<FcRelAggregates>();
+  parent->setRelatedObjects({wall});
+  const auto other = data->create<FcWall>();
+  EXPECT_TRUE(data->entityDelete(wall));
+  EXPECT_FALSE(data->hasEntity(*wall));
+  EXPECT_EQ(data->entityByGuid(guid), nullptr) << "a root that was never looked up goes as well";
+  EXPECT_THAT(parent->RelatedObjects(), ElementsAre(wall));
+  EXPECT_EQ(wall->Decomposes().lock(), parent);
+  EXPECT_EQ(wall->data(), data);
+  EXPECT_THAT(data->entities<FcWall>(), ElementsAre(other));
+
+  EXPECT_FALSE(data->entityDelete(wall));
+  EXPECT_FALSE(data->entityDelete(nullptr));
+  EXPECT_EQ(data->size(), 2U);
+}
+
+TEST(Data, KnowsTheProjectThatWasAddedLast) {
+  const auto data = std::make_shared<Data>();
+  const auto first = data->create<FcProject>();
+  const auto second = data->create<FcProject>();
+  const Data& reader = *data;
+  EXPECT_EQ(reader.project(), second);
+  EXPECT_TRUE(data->entityDelete(second));
+  EXPECT_EQ(data->project(), first) << "another one that is listed";
+  EXPECT_TRUE(data->entityDelete(first));
+  EXPECT_EQ(data->project(), nullptr);
+}
+
+TEST(Data, ClearForgetsItsEntitiesAndLeavesThemAsTheyAre) {
+  const ExpectAsserts none;
+  const auto data = std::make_shared<Data>();
+  const Guid guid = Guid::generate();
+  const auto wall = wallWithGuid(*data, guid);
+  const auto parent = data->create<FcRelAggregates>();
+  parent->setRelatedObjects({wall});
+  data->create<FcProject>();
+  EXPECT_EQ(data->entityByGuid(guid), wall);
+  data->create<FcSlab>();
+  data->clear();
+  EXPECT_EQ(data->size(), 0U);
+  EXPECT_EQ(data->project(), nullptr);
+  EXPECT_EQ(data->entityByGuid(guid), nullptr);
+  EXPECT_EQ(wall->Decomposes().lock(), parent);
+  EXPECT_EQ(wall->data(), data);
+  data->entityAdd(wall, false);
+  EXPECT_EQ(data->entityByGuid(guid), wall) << "a cleared model may be filled again";
+}
+
+TEST(Data, ReachesWhatAnEntityNamesInBothDirections) {
+  const auto aggregation = std::make_shared<FcRelAggregates>();
+  const auto project = std::make_shared<FcProject>();
+  const auto site = std::make_shared<FcSite>();
+  const std::shared_ptr<const FcBase> point = std::make_shared<FcCartesianPoint>();
+  aggregation->setRelatingObject(project);
+  aggregation->setRelatedObjects({site});
+  EXPECT_THAT(Data::getAllReferencedEntitiesNonConst(site),
+              UnorderedElementsAre(site, aggregation, project));
+  EXPECT_THAT(Data::getAllReferencedEntities(point), ElementsAre(point));
+}
+
+TEST(Data, RebuildKeepsWhatTheProjectReaches) {
+  const auto data = std::make_shared<Data>();
+  const auto wall = wallWithGuid(*data, Guid::generate());
+  {
+    const ExpectAsserts expected(
+        {"fc::Data::rebuildEntityList can only be used if data contains a project"});
+    data->rebuildEntityList();
+    EXPECT_TRUE(data->hasEntity(*wall)) << "without a project nothing changes";
+  }
+  const ExpectAsserts none;
+  const auto project = data->create<FcProject>();
+  const auto aggregation = data->create<FcRelAggregates>();
+  aggregation->setRelatingObject(project);
+  aggregation->setRelatedObjects({wall});
+  const auto stray = data->create<FcCartesianPoint>();
+  data->rebuildEntityList();
+  EXPECT_THAT(data->allEntities(), ElementsAre(project, wall, aggregation));
+  EXPECT_EQ(data->project(), project);
+  EXPECT_EQ(data->entityByGuid(wall->getGuid()), wall);
+  EXPECT_FALSE(data->hasEntity(*stray));
+}
+
+}  // namespace
+}  // namespace qor::fc
