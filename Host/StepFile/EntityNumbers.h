@@ -22,16 +22,24 @@ class EntityNumbers {
   std::uint64_t numberOf(const fc::FcBase& entity);
 
   /// Grows while `numberOf` meets entities that aren't listed.
-  std::size_t size() const { return m_entities.size(); }
-  const fc::FcBase& entity(std::size_t position) const { return *m_entities[position]; }
-  std::uint64_t number(std::size_t position) const { return m_numbers[position]; }
+  std::size_t size() const { return m_order.size(); }
+  const fc::FcBase& entity(std::size_t position) const {
+    return *m_entities[m_order[position]].entity;
+  }
+  std::uint64_t number(std::size_t position) const { return m_entities[m_order[position]].number; }
 
  private:
-  void add(const fc::FcBase& entity, std::uint64_t number);
+  struct Numbered {
+    const fc::FcBase* entity;
+    std::uint64_t number;  ///< 0 for none yet
+  };
 
-  NumberMap m_positions;
-  std::vector<const fc::FcBase*> m_entities;
-  std::vector<std::uint64_t> m_numbers;
+  void add(const fc::FcBase& entity);
+  void order(std::uint32_t index, std::uint64_t number);
+
+  NumberMap m_indices;
+  std::vector<Numbered> m_entities;
+  std::vector<std::uint32_t> m_order;
   std::uint64_t m_next = 1;
 };
 

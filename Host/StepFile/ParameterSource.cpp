@@ -326,7 +326,7 @@ bool ParameterSource::more() {
     }
     if (!m_first) ++m_at;
     m_first = false;
-    if (m_wrappers.empty() || m_resumeAt || !unwrap()) return true;
+    if (m_conversion != Conversion::unwrap || m_resumeAt || !unwrap()) return true;
   }
 }
 

@@ -55,11 +55,16 @@ bool isText(const fc::AttributeInfo& attribute) {
          type == &fc::operationsOf<std::optional<std::vector<Text>>>;
 }
 
+Conversion conversionOf(const fc::AttributeInfo& attribute, bool isCurrent) {
+  if (isText(attribute)) return Conversion::mendText;
+  return !isCurrent && attribute.typeName == "IfcPresentationStyle" ? Conversion::unwrap
+                                                                    : Conversion::none;
+}
+
 FileAttribute currentAttribute(const fc::ClassInfo& info, const fc::AttributeInfo& attribute,
                                bool isCurrent) {
-  return {attribute.name, &attribute,
-          isCurrent && !attribute.optional && !info.isDerived(attribute.name),
-          isText(attribute) ? Conversion::mendText : Conversion::none};
+  const bool mandatory = isCurrent && !attribute.optional && !info.isDerived(attribute.name);
+  return {attribute.name, &attribute, mandatory, conversionOf(attribute, isCurrent)};
 }
 
 /// One attribute of a row of the table of older classes; see there.

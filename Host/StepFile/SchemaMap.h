@@ -30,6 +30,7 @@ enum class Conversion : std::uint8_t {
   toText,     ///< an enumerator, where the model has a text
   toType,     ///< a plain value, where the model has a select
   toInteger,  ///< a real without a fraction, where the model has an integer
+  unwrap,     ///< in a list, a reference to an instance that stands for elements of the list
 };
 
 /// One attribute as a file of some schema writes it.

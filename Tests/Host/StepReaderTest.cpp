@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,12 +24,6 @@ using test::stepFile;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-std::vector<std::string> messages(const ReadResult& result) {
-  std::vector<std::string> texts;
-  for (const Problem& problem : result.problems) texts.push_back(problem.toString());
-  return texts;
-}
-
 struct BadInput {
   const char* name;
   std::string statements;
@@ -45,7 +40,7 @@ TEST_P(BadStatements, AreToldInOneLineAndCostNothingElse) {
   const std::string after = "\n#9=IFCPERSON('last',$,$,$,$,$,$,$);";
   const ReadResult result = readStatements(before + GetParam().statements + after);
   ASSERT_TRUE(result.data) << result.failure;
-  EXPECT_THAT(messages(result), ElementsAre(GetParam().message));
+  EXPECT_THAT(test::messages(result), ElementsAre(GetParam().message));
   std::vector<std::string> names;
   for (const NumberedEntity& instance : result.instances) {
     const auto person = fc::fcCast<FcPerson>(instance.entity);
@@ -138,6 +133,122 @@ const BadInput badInputs[] = {
 
 INSTANTIATE_TEST_SUITE_P(StepReader, BadStatements, testing::ValuesIn(badInputs),
                          [](const auto& info) { return std::string(info.param.name); });
+
+std::string failureOf(std::string_view text) {
+  const ReadResult result = readStep(text);
+  EXPECT_FALSE(result.data);
+  return result.failure;
+}
+
+TEST(StepReader, SaysWhyItCannotReadAFile) {
+  EXPECT_EQ(failureOf(""), "it is empty");
+  EXPECT_EQ(failureOf(" \r\n/* nothing */"), "it is empty");
+  EXPECT_EQ(failureOf("<?xml version='1.0'?>"),
+            "it is no STEP file: it begins with \"<?xml version='1.0'?\", not with ISO-10303-21;");
+  EXPECT_EQ(failureOf("PK\x03\x04 and more"), "it is a ZIP archive, no STEP file; unpack it first");
+  EXPECT_EQ(failureOf("ISO-10303-21;HEADER;FILE_SCHEMA(('AP203'));ENDSEC;DATA;ENDSEC;"),
+            "its schema AP203 is none of IFC");
+  EXPECT_EQ(failureOf("ISO-10303-21;HEADER;ENDSEC;END-ISO-10303-21;"), "it has no section DATA");
+  EXPECT_EQ(readStepFile("no such file.ifc").failure, "No such file or directory");
+}
+
+TEST(StepReader, LoadsATruncatedFileUpToItsEnd) {
+  const std::string whole =
+      stepFile("#1=IFCPERSON('a',$,$,$,$,$,$,$);\n#2=IFCPERSON('b','c','d',$,$,$,$,$);");
+  const std::string header = whole.substr(0, whole.find("#1"));
+  for (std::size_t length = header.size(); length < whole.size() - 1; ++length) {
+    const ReadResult result = readStep(std::string_view(whole).substr(0, length));
+    ASSERT_TRUE(result.data);
+    if (length < whole.rfind("END-ISO") + 16) {
+      ASSERT_EQ(result.problems.size(), 1U) << whole.substr(0, length) << '\n'
+                                            << testing::PrintToString(test::messages(result));
+      EXPECT_EQ(result.problems[0].kind, ProblemKind::truncated);
+    }
+  }
+  const ReadResult result = readStep(std::string_view(whole).substr(0, whole.find("'d'") + 2));
+  EXPECT_THAT(test::messages(result),
+              ElementsAre("#2 IFCPERSON, line 5: the file ends inside of this instance; it has "
+                          "what stands there of its attributes."));
+  const auto person = fc::fcCast<FcPerson>(result.instances.at(1).entity);
+  EXPECT_EQ(person->FamilyName(), "c");
+  EXPECT_EQ(person->GivenName(), std::nullopt);
+}
+
+TEST(StepReader, TakesNestingAndTextsOfAnySize) {
+  const std::string deep = std::string(100000, '(') + std::string(100000, ')');
+  const std::string open(100000, '(');
+  const std::string text(50 << 20, 'x');
+  const ReadResult result = readStep(stepFile(
+      "#1=IFCPERSON('a',$,$," + deep + ",$,$,$,$);\n#2=IFCPERSON(" + open + ";\n#3=IFCPERSON('" +
+      text + "',$,$,$,$,$,$,$);\n#4=IFCCARTESIANPOINTLIST3D(" + deep + ",$);"));
+  EXPECT_EQ(result.problems.size(), 3U) << testing::PrintToString(test::messages(result));
+  EXPECT_EQ(fc::fcCast<FcPerson>(result.instances.at(0).entity)->Identification(), "a");
+  EXPECT_EQ(fc::fcCast<FcPerson>(result.instances.at(2).entity)->Identification()->size(),
+            text.size());
+}
+
+TEST(StepReader, TakesLittleMemoryForNumbersWithGaps) {
+  const ReadResult result = readStep(
+      stepFile("#999999999999=IFCPERSON('a',$,$,$,$,$,(#7),$);\n#7=IFCACTORROLE(.OWNER.,$,$);"));
+  EXPECT_THAT(result.problems, IsEmpty());
+  EXPECT_EQ(fc::fcCast<FcPerson>(result.instances.at(0).entity)->Roles()->at(0),
+            result.instances.at(1).entity);
+}
+
+TEST(StepReader, CountsNoMoreThanAThousandKindsOfProblems) {
+  std::string statements;
+  for (int i = 1; i <= 3000; ++i)
+    statements += "#" + std::to_string(i) + "=IFCNOSUCH" + std::to_string(i) + "();\n";
+  const ReadResult result = readStep(stepFile(statements));
+  EXPECT_EQ(result.problems.size(), ProblemLog::maxGroups + 1);
+  EXPECT_EQ(result.problems.back().count, 2000U);
+}
+
+TEST(StepReader, LinksBothSidesOfARelationshipWhateverTheirOrder) {
+  const ReadResult result = readStatements(
+      "#1=IFCRELAGGREGATES('1Sa3dTJGn0H8TQIGiuGQd5',$,$,$,#2,(#3));\n"
+      "#2=IFCPROJECT('0$WU4A9R19$vKWO$AdOnKA',$,$,$,$,$,$,$,$);\n#3=IFCSITE('"
+      "2Sa3dTJGn0H8TQIGiuGQd5',$,$,$,$,$,$,$,$,$,$,$,$,$);");
+  EXPECT_THAT(test::messages(result), IsEmpty());
+  const auto project = result.data->project();
+  ASSERT_TRUE(project);
+  ASSERT_EQ(project->IsDecomposedBy().lock().size(), 1U);
+  EXPECT_EQ(project->IsDecomposedBy().lock()[0]->RelatedObjects().at(0),
+            result.instances.at(2).entity);
+}
+
+TEST(StepReader, TakesCommentsAndWhiteSpaceAnywhere) {
+  const ReadResult result = readStatements(
+      "#1 /*a*/ = /*b;*/ IFCPERSON /*'*/ ( /*c*/ 'x' /*d*/ , $,\r\n\t('m' , /*,*/ 'n' ) ,$, * "
+      ",$,$,$ ) /*e*/ ;"
+      "#2=IFCPERSON($,$,$,( ),$,$,$,$);");
+  ASSERT_EQ(result.instances.size(), 2U);
+  EXPECT_EQ(fc::fcCast<FcPerson>(result.instances[0].entity)->Identification(), "x");
+}
+
+TEST(StepReader, TellsItsProgressUpToTheEnd) {
+  std::string statements;
+  for (int i = 1; i <= 5000; ++i)
+    statements += "#" + std::to_string(i) + "=IFCPERSON($,$,$,$,$,$,$,$);\n";
+  std::vector<double> told;
+  readStep(stepFile(statements), {.progress = [&told](double part) { told.push_back(part); }});
+  EXPECT_TRUE(std::ranges::is_sorted(told));
+  EXPECT_GT(told.size(), 100U);
+  EXPECT_LE(told.back(), 1.0);
+  EXPECT_GT(told.back(), 0.98);
+}
+
+TEST(StepReader, LeavesAModelWithCirclesAndLongChainsThatCanBeTakenApart) {
+  std::string statements = "#1=IFCLOCALPLACEMENT(#1,$);\n";
+  for (int i = 2; i <= 200000; ++i)
+    statements +=
+        "#" + std::to_string(i) + "=IFCLOCALPLACEMENT(#" + std::to_string(i - 1) + ",$);\n";
+  ReadResult result = readStep(stepFile(statements));
+  const std::weak_ptr<fc::FcBase> circle = result.instances.front().entity;
+  takeApart(*result.data);
+  result = {};
+  EXPECT_TRUE(circle.expired());
+}
 
 }  // namespace
 }  // namespace qor::host::step

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "Host/StepFile/StepReader.h"
 
@@ -18,6 +19,13 @@ inline std::string stepFile(std::string_view statements, std::string_view schema
 inline host::step::ReadResult readStatements(std::string_view statements,
                                              std::string_view schema = "IFC4X3_ADD2") {
   return host::step::readStep(stepFile(statements, schema));
+}
+
+/// What was told about a file, a line each.
+inline std::vector<std::string> messages(const host::step::ReadResult& result) {
+  std::vector<std::string> texts;
+  for (const host::step::Problem& problem : result.problems) texts.push_back(problem.toString());
+  return texts;
 }
 
 }  // namespace qor::test
