@@ -109,29 +109,16 @@ template <class T>
 std::shared_ptr<T> FcObjectDefinition::getPropertySetDefinitionNonConst(
     const std::string& name) const {
   std::shared_ptr<T> found;
-  forEachPropertySet(*this, [&](const PropertySetAttachment& attachment) {
-    if (attachment.set->Name() == name) found = fcCast<T>(attachment.set);
-    return found != nullptr;
-  });
+  if constexpr (std::is_base_of_v<PropertySetView, T>) {
+    auto set = getPropertySetDefinitionNonConst<FcPropertySet>(name);
+    if (set) found = std::make_shared<T>(std::move(set));
+  } else {
+    forEachPropertySet(*this, [&](const PropertySetAttachment& attachment) {
+      if (attachment.set->Name() == name) found = fcCast<T>(attachment.set);
+      return found != nullptr;
+    });
+  }
   return found;
-}
-
-template <class View>
-static std::shared_ptr<View> viewOf(const FcObjectDefinition& object, const std::string& name) {
-  auto set = object.getPropertySetDefinitionNonConst<FcPropertySet>(name);
-  return set ? std::make_shared<View>(std::move(set)) : nullptr;
-}
-
-template <>
-QOR_API std::shared_ptr<Pset_BuildingCommon> FcObjectDefinition::getPropertySetDefinitionNonConst(
-    const std::string& name) const {
-  return viewOf<Pset_BuildingCommon>(*this, name);
-}
-
-template <>
-QOR_API std::shared_ptr<Pset_ElectricalDeviceCommon>
-FcObjectDefinition::getPropertySetDefinitionNonConst(const std::string& name) const {
-  return viewOf<Pset_ElectricalDeviceCommon>(*this, name);
 }
 
 template <class T>
@@ -168,6 +155,10 @@ FcObjectDefinition::getPropertySetDefinitionNonConst(const std::string&) const;
 template QOR_API std::shared_ptr<FcPropertySet>
 FcObjectDefinition::getPropertySetDefinitionNonConst(const std::string&) const;
 template QOR_API std::shared_ptr<FcElementQuantity>
+FcObjectDefinition::getPropertySetDefinitionNonConst(const std::string&) const;
+template QOR_API std::shared_ptr<Pset_BuildingCommon>
+FcObjectDefinition::getPropertySetDefinitionNonConst(const std::string&) const;
+template QOR_API std::shared_ptr<Pset_ElectricalDeviceCommon>
 FcObjectDefinition::getPropertySetDefinitionNonConst(const std::string&) const;
 template QOR_API std::shared_ptr<FcPropertySet>
 FcObjectDefinition::getOrCreatePropertySetDefinition(Data&, const std::string&);
