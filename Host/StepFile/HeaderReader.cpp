@@ -53,14 +53,18 @@ class Parameters {
 class HeaderReader {
  public:
   HeaderReader(std::string_view text, ProblemLog& log)
-      : m_text(text), m_scanner(text), m_source(m_noInstances, m_noWrappers, log) {}
+      : m_text(text), m_scanner(text), m_log(log), m_source(m_noInstances, m_noWrappers, log) {}
 
   HeaderResult run() {
     const char* at =
         m_scanner.begin() + (m_text.starts_with(byteOrderMark) ? byteOrderMark.size() : 0);
     at = m_scanner.skipSpace(at);
     if (at == m_scanner.end()) return failed("it is empty");
-    if (!startsWith(at, magic)) return failed(noStepFile(at));
+    if (!startsWith(at, magic)) {
+      const char* found = behindRubbish(at);
+      if (!found) return failed(noStepFile(at));
+      at = found;
+    }
     at = m_scanner.skipSpace(behindStatement(at));
     while (at != m_scanner.end() && !startsWith(at, "ENDSEC") && !startsWith(at, "DATA"))
       at = m_scanner.skipSpace(readStatement(at));
@@ -73,6 +77,20 @@ class HeaderReader {
   HeaderResult failed(std::string message) {
     m_result.failure = std::move(message);
     return std::move(m_result);
+  }
+
+  // Some files have a few bytes in front that don't belong there. Null when the file begins nowhere
+  // near.
+  const char* behindRubbish(const char* at) {
+    constexpr std::size_t farthest = 64;
+    const std::size_t begin = offsetOf(at);
+    const std::size_t found = m_text.substr(0, begin + farthest).find(magic, begin);
+    if (found == std::string_view::npos) return nullptr;
+    m_log.add(ProblemKind::syntax, {begin}, {}, [&] {
+      return fmt::format("\"{}\" stands in front of {}; passed over.",
+                         ProblemLog::quote(m_text.substr(begin, found - begin)), magic);
+    });
+    return m_text.data() + found;
   }
 
   std::string noStepFile(const char* at) const {
@@ -129,6 +147,7 @@ class HeaderReader {
 
   std::string_view m_text;
   Scanner m_scanner;
+  ProblemLog& m_log;
   InstanceTable m_noInstances;
   Wrappers m_noWrappers;
   ParameterSource m_source;

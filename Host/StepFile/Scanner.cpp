@@ -90,12 +90,23 @@ StringExtent Scanner::string(const char* open) const {
   return {nullptr, at, false};
 }
 
+// The semicolon in front of the next instance belonged to the statement, though it seems to stand
+// in the string.
+const char* Scanner::endBehindOpenString(const char* open, const char* next) const {
+  if (next == m_end) return next;
+  const char* last = next;
+  while (last > open && (isBlank(last[-1]) || last[-1] == '\n')) --last;
+  return last[-1] == ';' ? last - 1 : next;
+}
+
 const char* Scanner::statementEnd(const char* at) {
   while (true) {
     while (at != m_end && !(flagsOf(*at) & statementStop)) ++at;
     if (at == m_end || *at == ';') return at;
     if (*at == '\'') {
-      at = string(at).next;
+      const StringExtent extent = string(at);
+      if (!extent.close) return endBehindOpenString(at, extent.next);
+      at = extent.next;
     } else if (*at == '\n') {
       if (startsStatement(at + 1)) return at;
       ++at;

@@ -89,6 +89,7 @@ class Scanner {
   const char* skipSpaceAndComments(const char* at);
   const char* skipComment(const char* open);
   const char* behindPagedApostrophe(const char* apostrophe) const;
+  const char* endBehindOpenString(const char* open, const char* next) const;
   bool startsWith(const char* at, std::string_view text) const;
 
   const char* m_begin;

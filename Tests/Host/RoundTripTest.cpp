@@ -56,6 +56,7 @@ class SameModel {
       const fc::FcBase& b = *m_b.instances[i].entity;
       ASSERT_EQ(&a.classInfo(), &b.classInfo()) << m_a.instances[i].number;
       const auto compare = [&](const fc::AttributeInfo& attribute) {
+        if (a.classInfo().isDerived(attribute.name)) return;
         EXPECT_TRUE(same(a.getLocalValue(attribute.id()), b.getLocalValue(attribute.id())))
             << '#' << m_a.instances[i].number << ' ' << a.ifcName() << '.' << attribute.name;
       };
@@ -93,7 +94,9 @@ TEST_P(RealModel, ReadsBackTheSameWhenItWasWritten) {
   ASSERT_TRUE(model.data) << model.failure;
   const ReadResult again = readStep(written(model));
   ASSERT_TRUE(again.data) << again.failure;
-  EXPECT_THAT(again.problems, testing::IsEmpty());
+  // What an older schema leaves optional may be missing still.
+  for (const Problem& problem : again.problems)
+    EXPECT_EQ(problem.kind, ProblemKind::missingValue) << problem.toString();
   ReadResult sound = model;
   std::erase_if(sound.instances, [](const NumberedEntity& instance) { return !instance.entity; });
   SameModel(sound, again).expect();
@@ -106,15 +109,16 @@ TEST_P(RealModel, IsWrittenAsItWasReadButForTheFormatting) {
   const auto before = canonicalStatements(textOf(GetParam()));
   const auto after = canonicalStatements(written(model));
   EXPECT_EQ(before.size(), after.size());
-  std::size_t differences = 0;
-  for (const auto& [number, statement] : before)
-    differences += !after.contains(number) || after.at(number) != statement;
+  std::vector<std::string> differences;
+  for (const auto& [number, statement] : before) {
+    const std::string now = after.contains(number) ? after.at(number) : "nothing";
+    if (now != statement)
+      differences.push_back('#' + std::to_string(number) + '=' + statement + " became " + now);
+  }
   // Where a file breaks its own schema the log says so.
   std::uint64_t mended = 0;
   for (const Problem& problem : model.problems) mended += problem.count;
-  EXPECT_LE(differences, mended);
-  for (const auto& [number, statement] : before)
-    if (differences > mended && after.contains(number)) EXPECT_EQ(after.at(number), statement);
+  EXPECT_LE(differences.size(), mended) << testing::PrintToString(differences);
 }
 
 INSTANTIATE_TEST_SUITE_P(RoundTrip, RealModel, testing::ValuesIn(test::sharedModels()),
