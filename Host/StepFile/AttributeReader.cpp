@@ -67,8 +67,10 @@ void AttributeReader::readAttribute(fc::FcBase& entity, const FileAttribute& att
   } else if (attribute.attribute) {
     attribute.attribute->type->read(attribute.attribute->of(entity), m_source);
   } else {
-    m_source.report(ProblemKind::noPlace, [this] {
-      return fmt::format("is {}; the model has no place for it: left out.", m_source.quoteNext());
+    m_source.report(ProblemKind::noPlace, [&] {
+      return fmt::format(
+          "is {}; {}: left out.", m_source.quoteNext(),
+          attribute.derived ? "its class derives it" : "the model has no place for it");
     });
     m_source.skip();
   }

@@ -61,9 +61,13 @@ class HeaderReader {
     at = m_scanner.skipSpace(at);
     if (at == m_scanner.end()) return failed("it is empty");
     if (!startsWith(at, magic)) {
-      const char* found = behindRubbish(at);
-      if (!found) return failed(noStepFile(at));
-      at = found;
+      const char* start = findStart(at);
+      if (!start) return failed(noStepFile(at));
+      m_log.add(ProblemKind::syntax, {offsetOf(at)}, {}, [&] {
+        return fmt::format("\"{}\" stands before {} and was passed over.",
+                           ProblemLog::quote({at, static_cast<std::size_t>(start - at)}), magic);
+      });
+      at = start;
     }
     at = m_scanner.skipSpace(behindStatement(at));
     while (at != m_scanner.end() && !startsWith(at, "ENDSEC") && !startsWith(at, "DATA"))
@@ -79,18 +83,11 @@ class HeaderReader {
     return std::move(m_result);
   }
 
-  // Some files have a few bytes in front that don't belong there. Null when the file begins nowhere
-  // near.
-  const char* behindRubbish(const char* at) {
-    constexpr std::size_t farthest = 64;
-    const std::size_t begin = offsetOf(at);
-    const std::size_t found = m_text.substr(0, begin + farthest).find(magic, begin);
-    if (found == std::string_view::npos) return nullptr;
-    m_log.add(ProblemKind::syntax, {begin}, {}, [&] {
-      return fmt::format("\"{}\" stands in front of {}; passed over.",
-                         ProblemLog::quote(m_text.substr(begin, found - begin)), magic);
-    });
-    return m_text.data() + found;
+  // A stray character or the first lines of a mail cost nothing.
+  const char* findStart(const char* at) const {
+    constexpr std::size_t farthest = 1000;
+    const std::size_t found = m_text.substr(offsetOf(at), farthest).find(magic);
+    return found == std::string_view::npos ? nullptr : at + found;
   }
 
   std::string noStepFile(const char* at) const {

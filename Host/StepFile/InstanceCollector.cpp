@@ -119,22 +119,18 @@ std::size_t InstanceCollector::mend(const Place& place, const char* parameters, 
                            "attributes."
                          : "has no semicolon before the next instance; read up to there.";
   });
-  // Behind a last comma nothing was begun yet.
-  const char* last = end;
-  while (last > parameters + 1 && (last[-1] == ',' || static_cast<unsigned char>(last[-1]) <= ' '))
-    --last;
-  m_mended.push_back({offsetOf(parameters), std::string(parameters, last) + "\n;"});
+  m_mended.push_back({offsetOf(parameters), std::string(parameters, end) + "\n;"});
   return m_mended.size() - 1;
 }
 
 const char* InstanceCollector::passOver(const Place& place, const char* at) {
   const char* behind = behindStatement(at);
-  // The end of a file that is cut off is told once, by `run`.
-  if (behind == m_scanner.end() && behind[-1] != ';') return behind;
-  m_log.add(ProblemKind::syntax, place, {}, [&] {
+  m_isTruncated = behind == m_scanner.end();
+  m_log.add(m_isTruncated ? ProblemKind::truncated : ProblemKind::syntax, place, {}, [&] {
     const std::string_view text(at, static_cast<std::size_t>(behind - at));
-    return fmt::format("\"{}\" is no instance of a class; passed over.",
-                       ProblemLog::quote(text.substr(0, text.find('\n'))));
+    return fmt::format("\"{}\" {}; passed over.",
+                       ProblemLog::quote(text.substr(0, text.find('\n'))),
+                       m_isTruncated ? "is where the file ends" : "is no instance of a class");
   });
   return behind;
 }

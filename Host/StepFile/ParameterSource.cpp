@@ -385,6 +385,8 @@ void ParameterSource::closeTyped() {
 
 void ParameterSource::rejected(Rejection reason, std::string_view found,
                                const fc::TypeOperations& expected) {
+  // Nothing stands where a statement was cut off, and that has been reported.
+  if (m_damaged && *m_at == ';') return;
   // An open string is reported when it is skipped.
   if (reason == Rejection::wrongKind && *m_at == '\'' && m_stringOpen == m_at && !m_string.close)
     return;

@@ -42,8 +42,9 @@ const char* Scanner::skipComment(const char* open) {
   return lineEnd ? lineEnd : m_end;
 }
 
-bool Scanner::startsStatement(const char* at) const {
-  at = skipBlanks(at, m_end);
+bool Scanner::startsStatementBehind(const char* stop) const {
+  const char* at = skipBlanks(stop + 1, m_end);
+  while (*stop == ';' && at != m_end && *at == '\n') at = skipBlanks(at + 1, m_end);
   if (startsWith(at, "ENDSEC;")) return true;
   if (at == m_end || *at != '#') return false;
   const char* digits = ++at;
@@ -75,7 +76,7 @@ StringExtent Scanner::string(const char* open) const {
     if (!(flags & stringStop)) {
       ++at;
     } else if (*at != '\'') {
-      if (startsStatement(at + 1)) break;
+      if (startsStatementBehind(at)) break;
       ++at;
     } else {
       const bool paged =
@@ -90,25 +91,14 @@ StringExtent Scanner::string(const char* open) const {
   return {nullptr, at, false};
 }
 
-// The semicolon in front of the next instance belonged to the statement, though it seems to stand
-// in the string.
-const char* Scanner::endBehindOpenString(const char* open, const char* next) const {
-  if (next == m_end) return next;
-  const char* last = next;
-  while (last > open && (isBlank(last[-1]) || last[-1] == '\n')) --last;
-  return last[-1] == ';' ? last - 1 : next;
-}
-
 const char* Scanner::statementEnd(const char* at) {
   while (true) {
     while (at != m_end && !(flagsOf(*at) & statementStop)) ++at;
     if (at == m_end || *at == ';') return at;
     if (*at == '\'') {
-      const StringExtent extent = string(at);
-      if (!extent.close) return endBehindOpenString(at, extent.next);
-      at = extent.next;
+      at = string(at).next;
     } else if (*at == '\n') {
-      if (startsStatement(at + 1)) return at;
+      if (startsStatementBehind(at)) return at;
       ++at;
     } else {
       at = startsWith(at, "/*") ? skipComment(at) : at + 1;

@@ -79,8 +79,9 @@ class Scanner {
   /// string or comment.
   const char* statementEnd(const char* at);
 
-  /// Whether behind white space, in the same line, a new instance or the end of the section begins.
-  bool startsStatement(const char* at) const;
+  /// Whether a new instance or the end of the section begins behind white space; in the same line,
+  /// or behind a semicolon also in a later one.
+  bool startsStatementBehind(const char* stop) const;
 
   /// The place of the first comment that isn't closed, among those passed so far.
   std::optional<std::size_t> openComment() const { return m_openComment; }
@@ -89,7 +90,6 @@ class Scanner {
   const char* skipSpaceAndComments(const char* at);
   const char* skipComment(const char* open);
   const char* behindPagedApostrophe(const char* apostrophe) const;
-  const char* endBehindOpenString(const char* open, const char* next) const;
   bool startsWith(const char* at, std::string_view text) const;
 
   const char* m_begin;

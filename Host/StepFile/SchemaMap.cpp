@@ -63,8 +63,10 @@ Conversion conversionOf(const fc::AttributeInfo& attribute, bool isCurrent) {
 
 FileAttribute currentAttribute(const fc::ClassInfo& info, const fc::AttributeInfo& attribute,
                                bool isCurrent) {
-  const bool mandatory = isCurrent && !attribute.optional && !info.isDerived(attribute.name);
-  return {attribute.name, &attribute, mandatory, conversionOf(attribute, isCurrent)};
+  const bool derived = info.isDerived(attribute.name);
+  const bool mandatory = isCurrent && !attribute.optional && !derived;
+  return {attribute.name, derived ? nullptr : &attribute, mandatory, derived,
+          conversionOf(attribute, isCurrent)};
 }
 
 /// One attribute of a row of the table of older classes; see there.

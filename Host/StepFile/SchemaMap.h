@@ -40,6 +40,8 @@ struct FileAttribute {
   const fc::AttributeInfo* attribute = nullptr;
   /// The file must give a value.
   bool mandatory = false;
+  /// The class derives it: the file gives `*`.
+  bool derived = false;
   Conversion conversion = Conversion::none;
   /// The type for `Conversion::toType`, "IFCPARAMETERVALUE".
   std::string_view type{};

@@ -38,7 +38,7 @@ TEST(TextCodec, DecodesEveryEscape) {
       {R"(\S\')", "\u00A7"},
       {R"(\S\'')", "\u00A7"},
       {R"(\S\\)", "\u00DC"},
-      {R"(\PE\\S\P\S\x)", "\u0430\u0458"},      // ISO 8859-5, Cyrillic
+      {R"(\PE\\S\P\S\h)", "\u0430\u0448"},      // ISO 8859-5, Cyrillic
       {R"(\PB\\S\!\PA\\S\!)", "\u0104\u00A1"},  // 8859-2, then 8859-1 again
       {R"(\X\E4\X\0A)", "\u00E4\n"},
       {R"(Stra\X2\00DF\X0\e)", "Stra\u00DFe"},
