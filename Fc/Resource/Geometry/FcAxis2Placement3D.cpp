@@ -1,5 +1,6 @@
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
 
+#include "Fc/Reflection/MakeEntity.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
 #include "Fc/Resource/Geometry/FcDirection.h"
 #include "Qor/Assert/Assert.h"
