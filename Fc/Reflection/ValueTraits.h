@@ -532,7 +532,8 @@ struct ValueTraits<std::vector<T>> {
     sink.closeList();
   }
   static void assign(List& m, const List& source, FcCopySettings& settings) {
-    if constexpr (std::is_base_of_v<PlainValueTraits, Traits> && Traits::select == nullptr) {
+    if constexpr (std::is_base_of_v<PlainValueTraits, Traits> &&
+                  Traits::family != TypeFamily::select) {
       m = source;
     } else {
       m.clear();
