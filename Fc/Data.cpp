@@ -133,6 +133,7 @@ void Data::rebuildEntityList() {
 
 std::set<std::shared_ptr<FcBase>> Data::getAllReferencedEntitiesNonConst(
     std::shared_ptr<FcBase> start) {
+  if (!start) return {};
   std::set<std::shared_ptr<FcBase>> reached{start};
   std::vector<FcBase*> work{start.get()};
   const FcBase::EntityCallback callback = [&](const std::shared_ptr<FcBase>& entity,

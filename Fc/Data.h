@@ -66,7 +66,7 @@ class QOR_API Data : public std::enable_shared_from_this<Data> {
   /// change without a project.
   void rebuildEntityList();
 
-  /// All that `start` reaches by forward and inverse attributes, itself included.
+  /// All that `start` reaches by forward and inverse attributes, itself included; empty for null.
   static std::set<std::shared_ptr<FcBase>> getAllReferencedEntitiesNonConst(
       std::shared_ptr<FcBase> start);
   static std::set<std::shared_ptr<const FcBase>> getAllReferencedEntities(

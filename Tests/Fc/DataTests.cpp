@@ -250,6 +250,7 @@ TEST(Data, ReachesWhatAnEntityNamesInBothDirections) {
   EXPECT_THAT(Data::getAllReferencedEntitiesNonConst(site),
               UnorderedElementsAre(site, aggregation, project));
   EXPECT_THAT(Data::getAllReferencedEntities(point), ElementsAre(point));
+  EXPECT_TRUE(Data::getAllReferencedEntities(nullptr).empty());
 }
 
 TEST(Data, RebuildKeepsWhatTheProjectReaches) {
