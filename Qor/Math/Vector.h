@@ -17,7 +17,7 @@ struct Vector {
   constexpr Vector() = default;
   constexpr Vector(double x_, double y_) : x(x_), y(y_) {}
 
-  double length() const { return std::hypot(x, y); }
+  double length() const { return std::sqrt(x * x + y * y); }
   /// Of length 1; unchanged when the length isn't finite or is at most the general tolerance.
   Vector normalized() const {
     const double l = length();
@@ -81,7 +81,7 @@ struct Vector {
   constexpr Vector() = default;
   constexpr Vector(double x_, double y_, double z_) : x(x_), y(y_), z(z_) {}
 
-  double length() const { return std::hypot(x, y, z); }
+  double length() const { return std::sqrt(x * x + y * y + z * z); }
   /// Of length 1; unchanged when the length isn't finite or is at most the general tolerance.
   Vector normalized() const {
     const double l = length();
