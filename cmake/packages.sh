@@ -5,7 +5,10 @@
 set -euo pipefail
 
 build=(g++ cmake ninja-build ccache mold
-  libtbb-dev libfmt-dev libspdlog-dev libcli11-dev nlohmann-json3-dev)
+  libocct-foundation-dev libocct-modeling-data-dev libocct-modeling-algorithms-dev
+  libocct-visualization-dev # holds a header that those of the modelling data include
+  libtbb-dev libfmt-dev libspdlog-dev libcli11-dev nlohmann-json3-dev libpugixml-dev libpng-dev
+  libglu1-mesa-dev libtinygltf-dev)
 test=(libgtest-dev libgmock-dev libbenchmark-dev
   clang libclang-rt-14-dev) # clang builds the fuzz targets
 

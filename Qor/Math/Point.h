@@ -14,12 +14,20 @@ struct Point {
   constexpr Point() = default;
   constexpr Point(double x_, double y_) : x(x_), y(y_) {}
 
+  double distance(const Point& other) const { return (*this - other).length(); }
+  /// No coordinate differs by more than the length tolerance.
+  bool isNear(const Point& other) const { return (*this - other).isNear({}); }
+
+  constexpr Point& operator+=(const Vector& b) { return *this = *this + b; }
   friend constexpr bool operator==(const Point&, const Point&) = default;
   friend constexpr Vector operator-(const Point& a, const Point& b) {
     return {a.x - b.x, a.y - b.y};
   }
   friend constexpr Point operator+(const Point& a, const Vector& b) {
     return {a.x + b.x, a.y + b.y};
+  }
+  friend constexpr Point operator-(const Point& a, const Vector& b) {
+    return {a.x - b.x, a.y - b.y};
   }
 };
 
@@ -36,12 +44,20 @@ struct Point {
   constexpr Point() = default;
   constexpr Point(double x_, double y_, double z_) : x(x_), y(y_), z(z_) {}
 
+  double distance(const Point& other) const { return (*this - other).length(); }
+  /// No coordinate differs by more than the length tolerance.
+  bool isNear(const Point& other) const { return (*this - other).isNear({}); }
+
+  constexpr Point& operator+=(const Vector& b) { return *this = *this + b; }
   friend constexpr bool operator==(const Point&, const Point&) = default;
   friend constexpr Vector operator-(const Point& a, const Point& b) {
     return {a.x - b.x, a.y - b.y, a.z - b.z};
   }
   friend constexpr Point operator+(const Point& a, const Vector& b) {
     return {a.x + b.x, a.y + b.y, a.z + b.z};
+  }
+  friend constexpr Point operator-(const Point& a, const Vector& b) {
+    return {a.x - b.x, a.y - b.y, a.z - b.z};
   }
 };
 
