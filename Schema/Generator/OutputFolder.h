@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <set>
 #include <string>
 
 namespace qor::schema {
@@ -13,10 +14,14 @@ class OutputFolder {
 
   /// `name` is relative, with its folders: "Fc/Core/Kernel/FcProject.h". Throws std::runtime_error
   /// when it can't be written.
-  void write(const std::string& name, const std::string& text) const;
+  void write(const std::string& name, const std::string& text);
+  /// Removes the headers that earlier runs left and this one didn't write: that of a class that
+  /// became a hand-written one would go on standing behind it.
+  void removeOtherHeaders() const;
 
  private:
   std::filesystem::path m_root;
+  std::set<std::filesystem::path> m_written;
 };
 
 }  // namespace qor::schema
