@@ -3,11 +3,12 @@
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
+#include <vector>
 
 namespace qor::schema {
 
 void OutputFolder::write(const std::string& name, const std::string& text) {
-  const std::filesystem::path path = (m_root / name).lexically_normal();
+  const std::filesystem::path path = m_root / name;
   m_written.insert(path);
   if (std::ifstream present(path, std::ios::binary); present) {
     const std::string old{std::istreambuf_iterator<char>(present), {}};
@@ -20,13 +21,13 @@ void OutputFolder::write(const std::string& name, const std::string& text) {
   if (!out) throw std::runtime_error("can't write " + path.string());
 }
 
-void OutputFolder::removeOtherHeaders() const {
-  std::set<std::filesystem::path> others;
-  for (const auto& entry : std::filesystem::recursive_directory_iterator(m_root / "Fc")) {
-    const std::filesystem::path path = entry.path().lexically_normal();
-    if (path.extension() == ".h" && !m_written.contains(path)) others.insert(path);
-  }
-  for (const std::filesystem::path& path : others) std::filesystem::remove(path);
+void OutputFolder::removeOldHeaders() const {
+  namespace fs = std::filesystem;
+  std::vector<fs::path> old;
+  for (const fs::directory_entry& entry : fs::recursive_directory_iterator(m_root))
+    if (entry.path().extension() == ".h" && !m_written.count(entry.path()))
+      old.push_back(entry.path());
+  for (const fs::path& path : old) fs::remove(path);
 }
 
 }  // namespace qor::schema
