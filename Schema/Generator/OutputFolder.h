@@ -15,9 +15,16 @@ class OutputFolder {
   /// `name` is relative, with its folders: "Fc/Core/Kernel/FcProject.h". Throws std::runtime_error
   /// when it can't be written.
   void write(const std::string& name, const std::string& text);
+<<<<<<< HEAD
   /// Removes the headers that earlier runs left and this one didn't write: that of a class that
   /// became a hand-written one would go on standing behind it.
   void removeOtherHeaders() const;
+=======
+  /// Removes the headers that an earlier run wrote and this one didn't. One that is now
+  /// hand-written would else be found in its old form by a compiler cache, which looks at the files
+  /// that it knows.
+  void removeOldHeaders() const;
+>>>>>>> 76c8c452d8df2ffce50b7df532f1ed6c365bf25e
 
  private:
   std::filesystem::path m_root;

@@ -29,7 +29,11 @@ std::set<std::string> readNames(std::istream& in) {
   return names;
 }
 
+<<<<<<< HEAD
 void generate(const SchemaModel& model, OutputFolder&& out) {
+=======
+void generate(const SchemaModel& model, OutputFolder out) {
+>>>>>>> 76c8c452d8df2ffce50b7df532f1ed6c365bf25e
   std::set<std::string_view> groups;
   for (const Enumeration& element : model.table().enumerations)
     out.write(headerOf(model, element.name), enumerationHeader(model, element));
@@ -55,7 +59,11 @@ void generate(const SchemaModel& model, OutputFolder&& out) {
     out.write(fmt::format("Fc/Sources/{}.cpp", name), visitorSource(model, isConst));
   }
   out.write("Fc/Sources/SchemaTables.cpp", schemaTablesSource(model));
+<<<<<<< HEAD
   out.removeOtherHeaders();
+=======
+  out.removeOldHeaders();
+>>>>>>> 76c8c452d8df2ffce50b7df532f1ed6c365bf25e
 }
 
 }  // namespace
