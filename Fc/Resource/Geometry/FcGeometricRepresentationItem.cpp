@@ -1,0 +1,14 @@
+#include "Fc/Resource/Geometry/FcGeometricRepresentationItem.h"
+
+#include "Fc/NotImplemented.h"
+
+namespace qor::fc::resource::geometry {
+
+std::optional<math::Extent2d> FcGeometricRepresentationItem::planarBox(
+    const FcParams& /*params*/) const {
+  assertNotImplemented("planarBox(const qor::fc::FcParams&) not implemented for class: ", *this,
+                       "FcGeometricRepresentationItem::planarBox");
+  return {};
+}
+
+}  // namespace qor::fc::resource::geometry

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "Fc/Resource/Geometry/FcRepresentationItemAttributes.h"
+#include "Qor/Draw/Representation.h"
+#include "Qor/Math/Extent.h"
+#include "Qor/Math/Matrix.h"
+
+class TopoDS_Shape;
+
+namespace qor::fc {
+class FcDrawParams;
+class FcParams;
+}  // namespace qor::fc
+namespace qor::fc::resource::presentationappearance {
+class FcPresentationStyle;
+}
+
+namespace qor::fc::resource::geometry {
+
+/// IfcRepresentationItem, Resource.Geometry: a piece of geometry.
+///
+/// Every class of items draws, moves and measures itself. The base forms are those of a class that
+/// can't: they report it by an assert that names the class, and yield nothing.
+class QOR_API FcRepresentationItem : public FcRepresentationItemAttributes {
+ public:
+  /// Turns the item into calls on the target of `params`, in the target's present frame, which is
+  /// the same afterwards. An item whose attributes don't make sense reports it and draws nothing.
+  virtual void draw(const FcDrawParams& params) const;
+  /// Moves the item, and with it all that shares its points. Mirrors and scales only where the
+  /// class allows it.
+  virtual void transform(const math::Matrix& matrix);
+  /// The box around what would be drawn, or one that is larger; empty for an item without one.
+  virtual std::optional<math::Extent> boundingBox(const FcParams& params) const;
+  /// What a representation that holds this item is for and made of; empty where that is open.
+  virtual generate::draw::Representation representationGet() const;
+  /// The item for the solid modeller: several shapes for a set, none on failure.
+  virtual std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const;
+  /// Calls back for each style of the item, in order. `callback` must be callable.
+  virtual void forEachPresentationStyle(
+      const std::function<void(const presentationappearance::FcPresentationStyle&)>& callback)
+      const;
+
+ protected:
+  FcRepresentationItem() = default;
+};
+
+}  // namespace qor::fc::resource::geometry
