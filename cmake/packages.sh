@@ -6,6 +6,7 @@ set -euo pipefail
 
 build=(g++ cmake ninja-build ccache mold
   libocct-foundation-dev libocct-modeling-data-dev libocct-modeling-algorithms-dev
+  libocct-visualization-dev # holds a header that those of the modelling data include
   libtbb-dev libfmt-dev libspdlog-dev libcli11-dev nlohmann-json3-dev libpugixml-dev libpng-dev
   libglu1-mesa-dev libtinygltf-dev)
 test=(libgtest-dev libgmock-dev libbenchmark-dev

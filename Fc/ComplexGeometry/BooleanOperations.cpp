@@ -1,0 +1,53 @@
+#include "Fc/ComplexGeometry/BooleanOperations.h"
+
+#include <BOPAlgo_BOP.hxx>
+#include <BRepAlgoAPI_Common.hxx>
+#include <BRepAlgoAPI_Fuse.hxx>
+#include <functional>
+#include <string>
+
+#include "Fc/HelperFunctionsOC.h"
+#include "Fc/Resource/GeometricModel/FcManifoldSolidBrep.h"
+#include "Fc/Resource/GeometricModel/FcTessellatedFaceSet.h"
+
+namespace qor::fc {
+namespace {
+
+TopoDS_Shape guardedBoolean(const std::string& name, const std::function<TopoDS_Shape()>& make) {
+  return tryOpenCascadeConstruction<TopoDS_Shape>(
+      make, "OpenCascade boolean '" + name + "' operation failed.",
+      "OpenCascade boolean '" + name +
+          "' operation did not fail, but the resulting shape is Null.");
+}
+
+}  // namespace
+
+bool isExpensiveTool(const resource::geometry::FcRepresentationItem& item) {
+  return fcCast<resource::geometricmodel::FcTessellatedFaceSet>(&item) ||
+         fcCast<resource::geometricmodel::FcManifoldSolidBrep>(&item);
+}
+
+TopoDS_Shape cutShapes(const std::vector<TopoDS_Shape>& arguments,
+                       const std::vector<TopoDS_Shape>& tools, double fuzzyValue) {
+  return guardedBoolean("cut", [&]() -> TopoDS_Shape {
+    BOPAlgo_BOP operation;
+    operation.SetOperation(BOPAlgo_CUT);
+    operation.SetFuzzyValue(fuzzyValue);
+    for (const TopoDS_Shape& argument : arguments)
+      if (!argument.IsNull()) operation.AddArgument(argument);
+    for (const TopoDS_Shape& tool : tools)
+      if (!tool.IsNull()) operation.AddTool(tool);
+    operation.Perform();
+    return operation.HasErrors() ? TopoDS_Shape() : operation.Shape();
+  });
+}
+
+TopoDS_Shape commonOfShapes(const TopoDS_Shape& a, const TopoDS_Shape& b) {
+  return guardedBoolean("common", [&] { return BRepAlgoAPI_Common(a, b).Shape(); });
+}
+
+TopoDS_Shape fuseShapes(const TopoDS_Shape& a, const TopoDS_Shape& b) {
+  return guardedBoolean("fuse", [&] { return BRepAlgoAPI_Fuse(a, b).Shape(); });
+}
+
+}  // namespace qor::fc

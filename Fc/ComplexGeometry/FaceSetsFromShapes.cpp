@@ -1,0 +1,162 @@
+#include "Fc/ComplexGeometry/FaceSetsFromShapes.h"
+
+#include <BRepMesh_IncrementalMesh.hxx>
+#include <BRepTools.hxx>
+#include <BRepTools_WireExplorer.hxx>
+#include <BRep_Tool.hxx>
+#include <Geom_Plane.hxx>
+#include <Poly_PolygonOnTriangulation.hxx>
+#include <Poly_Triangulation.hxx>
+#include <TopExp_Explorer.hxx>
+#include <TopoDS.hxx>
+#include <TopoDS_Face.hxx>
+#include <TopoDS_Iterator.hxx>
+#include <TopoDS_Wire.hxx>
+#include <algorithm>
+#include <cstdint>
+#include <optional>
+#include <utility>
+
+#include "Fc/ComplexGeometry/PointMerger.h"
+#include "Fc/HelperFunctionsOC.h"
+#include "Fc/Resource/Report.h"
+
+namespace qor::fc {
+namespace {
+
+using generate::draw::PolygonalFaceSetOpenGL;
+using Ring = std::vector<std::uint32_t>;
+
+constexpr double kAngularDeflection = 0.5;  // radians
+
+// The mesher refuses what it can't tell from 0.
+double linearDeflection(double chordValue) {
+  constexpr double finest = 1e-6, unlimited = 1e6;
+  return chordValue > 0 ? std::max(chordValue, finest) : unlimited;
+}
+
+void reportFace(const char* message, int line) {
+  resource::report(message,
+                   "qor::fc::resource::geometricmodel::FcPolygonalFaceSet::getFaceSetsFromShapes",
+                   line);
+}
+
+/// One meshed face on its way into a set.
+class MeshedFace {
+ public:
+  MeshedFace(const TopoDS_Face& face, PointMerger& points)
+      : m_face(face), m_points(points), m_mesh(BRep_Tool::Triangulation(face, m_location)) {}
+
+  bool hasMesh() const { return !m_mesh.IsNull(); }
+  bool isPlanar() const {
+    return !opencascade::handle<Geom_Plane>::DownCast(BRep_Tool::Surface(m_face)).IsNull();
+  }
+
+  // Empty when the wires don't run along the mesh as those of a sound face do.
+  std::optional<PolygonalFaceSetOpenGL::Face> polygon() {
+    const TopoDS_Wire outer = BRepTools::OuterWire(m_face);
+    if (outer.IsNull()) {
+      reportFace("There is a Face which has no outer Wire.", __LINE__);
+      return {};
+    }
+    PolygonalFaceSetOpenGL::Face polygon;
+    for (TopoDS_Iterator part(m_face); part.More(); part.Next()) {
+      if (part.Value().ShapeType() != TopAbs_WIRE) return {};
+      auto ring = ringAlong(TopoDS::Wire(part.Value()));
+      if (!ring) return {};
+      if (part.Value().IsSame(outer))
+        polygon.outer = std::move(*ring);
+      else
+        polygon.holes.push_back(std::move(*ring));
+    }
+    if (polygon.outer.empty()) return {};
+    return polygon;
+  }
+
+  void addTriangles(std::vector<PolygonalFaceSetOpenGL::Face>& faces) {
+    const bool reversed = m_face.Orientation() == TopAbs_REVERSED;
+    for (int i = 1; i <= m_mesh->NbTriangles(); ++i) {
+      int a, b, c;
+      m_mesh->Triangle(i).Get(a, b, c);
+      if (reversed) std::swap(b, c);
+      Ring ring{indexOf(a), indexOf(b), indexOf(c)};
+      if (ring[0] != ring[1] && ring[1] != ring[2] && ring[2] != ring[0])
+        faces.push_back({.outer = std::move(ring)});
+    }
+  }
+
+ private:
+  std::uint32_t indexOf(int node) {
+    const gp_Pnt point = m_mesh->Node(node).Transformed(m_location.Transformation());
+    return m_points.indexOf({point.X(), point.Y(), point.Z()});
+  }
+
+  // The nodes along the edges of a wire, one after the other, each once.
+  std::optional<Ring> ringAlong(const TopoDS_Wire& wire) {
+    Ring ring;
+    int edgeCount = 0;
+    for (BRepTools_WireExplorer edges(wire, m_face); edges.More(); edges.Next(), ++edgeCount)
+      if (!appendEdge(edges.Current(), ring)) return {};
+    if (edgeCount != wire.NbChildren()) return {};
+    while (ring.size() > 1 && ring.front() == ring.back()) ring.pop_back();
+    if (ring.size() < 3) return {};
+    return ring;
+  }
+
+  // Its last node is the first one of the next edge.
+  bool appendEdge(const TopoDS_Edge& edge, Ring& ring) {
+    const auto nodes = BRep_Tool::PolygonOnTriangulation(edge, m_mesh, m_location);
+    if (nodes.IsNull()) return false;
+    const bool reversed = edge.Orientation() == TopAbs_REVERSED;
+    for (int i = 1; i < nodes->NbNodes(); ++i) {
+      const std::uint32_t index = indexOf(nodes->Node(reversed ? nodes->NbNodes() + 1 - i : i));
+      if (ring.empty() || ring.back() != index) ring.push_back(index);
+    }
+    return true;
+  }
+
+  TopoDS_Face m_face;
+  PointMerger& m_points;
+  TopLoc_Location m_location;
+  opencascade::handle<Poly_Triangulation> m_mesh;
+};
+
+PolygonalFaceSetOpenGL faceSetOf(const TopoDS_Shape& shape) {
+  PolygonalFaceSetOpenGL set;
+  PointMerger points(set.coordinates);
+  for (TopExp_Explorer faces(shape, TopAbs_FACE); faces.More(); faces.Next()) {
+    MeshedFace face(TopoDS::Face(faces.Current()), points);
+    if (!face.hasMesh()) {
+      reportFace("Face didn't have triangulation.", __LINE__);
+      continue;
+    }
+    if (auto polygon = face.isPlanar() ? face.polygon() : std::nullopt)
+      set.faces.push_back(std::move(*polygon));
+    else
+      face.addTriangles(set.faces);
+  }
+  return set;
+}
+
+}  // namespace
+
+std::vector<PolygonalFaceSetOpenGL> faceSetsFromShapes(
+    const std::vector<TopoDS_Shape>& shapes, const math::CurveDiscretization& discretization) {
+  const double deflection = linearDeflection(discretization.chordValue());
+  std::vector<PolygonalFaceSetOpenGL> sets;
+  for (const TopoDS_Shape& shape : shapes) {
+    if (shape.IsNull() || (shape.ShapeType() == TopAbs_COMPOUND && shape.NbChildren() == 0))
+      continue;
+    guardOpenCascade(
+        [&] {
+          // The mesher works at once when it is made with its numbers.
+          const BRepMesh_IncrementalMesh mesh(shape, deflection, false, kAngularDeflection, false);
+          PolygonalFaceSetOpenGL set = faceSetOf(shape);
+          if (!set.faces.empty()) sets.push_back(std::move(set));
+        },
+        "OpenCascade could not mesh a shape.");
+  }
+  return sets;
+}
+
+}  // namespace qor::fc

@@ -1,0 +1,23 @@
+#include "Fc/ComplexGeometry/FcExplicitGeometryTask.h"
+
+#include <TopoDS_Shape.hxx>
+#include <utility>
+
+#include "Fc/ComplexGeometry/CopyOfItem.h"
+#include "Fc/ComplexGeometry/FaceSetsFromShapes.h"
+#include "Fc/ComplexGeometry/FcPolygonalFaceSetResult.h"
+
+namespace qor::fc {
+
+FcExplicitGeometryTask::FcExplicitGeometryTask(
+    FcParams params, const std::shared_ptr<const resource::geometry::FcRepresentationItem>& item)
+    : FcComplexGeometryTask(std::move(params)), m_item(copyOfItem(*item)) {}
+
+FcExplicitGeometryTask::~FcExplicitGeometryTask() = default;
+
+std::unique_ptr<FcComplexGeometryTaskResult> FcExplicitGeometryTask::process() const {
+  return std::make_unique<FcPolygonalFaceSetResult>(
+      faceSetsFromShapes(m_item->ocRepresentation(params()), params().curveDiscretization()));
+}
+
+}  // namespace qor::fc

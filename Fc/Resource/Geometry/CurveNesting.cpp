@@ -1,0 +1,39 @@
+#include "Fc/Resource/Geometry/CurveNesting.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "Fc/NotImplemented.h"
+#include "Fc/Resource/Geometry/FcCurve.h"
+#include "Fc/Resource/Geometry/GeometryAssert.h"
+
+namespace qor::fc::resource::geometry {
+
+namespace {
+
+std::vector<const FcCurve*>& underWay() {
+  static thread_local std::vector<const FcCurve*> curves;
+  return curves;
+}
+
+constexpr std::size_t deepest = 100;
+
+}  // namespace
+
+CurveNesting::CurveNesting(const FcCurve& curve) {
+  auto& curves = underWay();
+  const bool again = std::find(curves.begin(), curves.end(), &curve) != curves.end();
+  m_allowed = !again && curves.size() < deepest;
+  if (m_allowed)
+    curves.push_back(&curve);
+  else
+    reportBroken((again ? "Circular dependency in " : "Too many curves within each other, at ") +
+                     runTimeTypeName(curve),
+                 "CurveNesting::CurveNesting", __LINE__);
+}
+
+CurveNesting::~CurveNesting() {
+  if (m_allowed) underWay().pop_back();
+}
+
+}  // namespace qor::fc::resource::geometry

@@ -1,0 +1,133 @@
+#include "Fc/Resource/Geometry/FcCompositeCurve.h"
+
+#include "Fc/Resource/Geometry/CurveNesting.h"
+#include "Fc/Resource/Geometry/CurveTrimming.h"
+#include "Fc/Resource/Geometry/FcSegment.h"
+#include "Fc/Resource/Geometry/GeometryAssert.h"
+
+namespace qor::fc::resource::geometry {
+
+using math::Point2d;
+using math::Point3d;
+
+namespace {
+
+constexpr char missingSegment[] = "There is a Segment which is not set.";
+
+template <typename Point>
+std::vector<Point> pointsOf(const FcSegment& segment, const FcParams& params) {
+  if constexpr (std::is_same_v<Point, Point3d>)
+    return segment.curve(params);
+  else
+    return segment.curve2d(params).value_or(std::vector<Point>());
+}
+
+/// Appends a segment to what is there. The point that both share comes once.
+template <typename Point>
+void join(std::vector<Point>& points, const std::vector<Point>& segment) {
+  auto first = segment.begin();
+  if (!points.empty() && !segment.empty()) {
+    const bool joins = expectThat(points.back().isNear(*first),
+                                  "By informal proposition: when traversed in the direction "
+                                  "indicated by SameSense, the segments shall join end-to-end",
+                                  "FcCompositeCurve::curvePrivate", __LINE__);
+    if (joins) ++first;
+  }
+  points.insert(points.end(), first, segment.end());
+}
+
+template <typename Point>
+std::vector<Point> curvePrivate(const FcCompositeCurve& curve, const FcParams& params,
+                                bool omitLastPoint) {
+  static constexpr char operation[] = "FcCompositeCurve::curvePrivate";
+  std::vector<Point> points;
+  const CurveNesting nesting(curve);
+  if (!nesting) return points;
+  for (const auto& segment : curve.Segments())
+    if (expectThat(segment != nullptr, missingSegment, operation, __LINE__))
+      join(points, pointsOf<Point>(*segment, params));
+  if (omitLastPoint && !points.empty()) {
+    const Point last = points.back();
+    points.pop_back();
+    expectThat(!points.empty() && last.isNear(points.front()),
+               "end of last segment does not join with very first point in over-all curve",
+               operation, __LINE__);
+  }
+  return points;
+}
+
+}  // namespace
+
+bool FcCompositeCurve::isClosed(const FcParams& params) const {
+  static constexpr char operation[] = "FcCompositeCurve::isClosed";
+  if (Segments().empty()) return false;
+  for (std::size_t i = 0; i + 1 < Segments().size(); ++i) {
+    const auto& segment = Segments()[i];
+    if (!expectThat(segment != nullptr, missingSegment, operation, __LINE__)) continue;
+    expectThat(segment->Transition() != FcTransitionCode::DISCONTINUOUS,
+               "By formal proposition, no transition code of a Segment should be DISCONTINUOUS "
+               "(except for the last segment of an open curve)",
+               operation, __LINE__);
+  }
+  if (!expectThat(Segments().back() != nullptr, "The last Segment is not set.", operation,
+                  __LINE__) ||
+      !Segments().front())
+    return false;
+  const CurveNesting nesting(*this);
+  if (!nesting) return false;
+  const auto last = Segments().back()->curve(params);
+  const auto first = Segments().size() == 1 ? last : Segments().front()->curve(params);
+  return !first.empty() && !last.empty() && last.back().isNear(first.front());
+}
+
+bool FcCompositeCurve::is2d() const {
+  const CurveNesting nesting(*this);
+  if (!nesting) return false;
+  for (const auto& segment : Segments()) {
+    if (!expectThat(segment != nullptr, missingSegment, "FcCompositeCurve::is2d", __LINE__) ||
+        !expectThat(segment->parentCurve() != nullptr,
+                    "There is a Segment for which its ParentCurve is not set.",
+                    "FcCompositeCurve::is2d", __LINE__) ||
+        !segment->parentCurve()->is2d())
+      return false;
+  }
+  return true;
+}
+
+std::optional<std::vector<Point2d>> FcCompositeCurve::closedCurve2dGet(
+    const FcParams& params) const {
+  if (!is2d() || !isClosed(params)) return {};
+  auto points = curvePrivate<Point2d>(*this, params, true);
+  if (points.empty()) return {};
+  return points;
+}
+
+std::optional<std::vector<Point2d>> FcCompositeCurve::curve2d(const FcParams& params,
+                                                              const Trim& trim1, const Trim& trim2,
+                                                              bool reverse) const {
+  if (!expectWhole(trim1, trim2, reverse, "FcCompositeCurve::curve2d")) return {};
+  auto points = curvePrivate<Point2d>(*this, params, false);
+  if (points.empty()) return {};
+  return points;
+}
+
+std::vector<Point3d> FcCompositeCurve::curveGet(const FcParams& params, const Trim& trim1,
+                                                const Trim& trim2, bool reverse) const {
+  if (!expectWhole(trim1, trim2, reverse, "FcCompositeCurve::curveGet")) return {};
+  return curvePrivate<Point3d>(*this, params, false);
+}
+
+std::vector<std::pair<double, FcCurve::ParameterType>> FcCompositeCurve::parametricSegments()
+    const {
+  std::vector<std::pair<double, ParameterType>> result;
+  const CurveNesting nesting(*this);
+  if (!nesting) return result;
+  for (const auto& segment : Segments()) {
+    if (!segment) continue;
+    const auto extents = segment->parametricSegments();
+    result.insert(result.end(), extents.begin(), extents.end());
+  }
+  return result;
+}
+
+}  // namespace qor::fc::resource::geometry

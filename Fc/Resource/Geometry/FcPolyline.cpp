@@ -1,0 +1,184 @@
+#include "Fc/Resource/Geometry/FcPolyline.h"
+
+#include <algorithm>
+
+#include "Fc/FcDrawParams.h"
+#include "Fc/FcParams.h"
+#include "Fc/Reflection/MakeEntity.h"
+#include "Fc/Resource/GeometricModel/FcCartesianPointList2D.h"
+#include "Fc/Resource/GeometricModel/FcCartesianPointList3D.h"
+#include "Fc/Resource/Geometry/FcCartesianPoint.h"
+#include "Fc/Resource/Geometry/FcIndexedPolyCurve.h"
+#include "Fc/Resource/Geometry/GeometryAssert.h"
+#include "Fc/Resource/Geometry/PolylineTrim.h"
+#include "Qor/Math/PointFactory.h"
+
+namespace qor::fc::resource::geometry {
+
+using geometricmodel::FcCartesianPointList2D;
+using geometricmodel::FcCartesianPointList3D;
+using math::Extent;
+using math::Extent2d;
+using math::Matrix;
+using math::Point2d;
+using math::Point3d;
+
+namespace {
+
+template <typename Point>
+std::vector<std::shared_ptr<FcCartesianPoint>> entitiesOf(const std::vector<Point>& points,
+                                                          bool close) {
+  std::vector<std::shared_ptr<FcCartesianPoint>> result;
+  result.reserve(points.size() + 1);
+  for (const Point& point : points) result.push_back(makePoint(point));
+  if (close) result.push_back(result.front());
+  return result;
+}
+
+/// Whether the trims are none or two points; asserts for the other cases.
+bool canTrim(const FcCurve::Trim& trim1, const FcCurve::Trim& trim2) {
+  static constexpr char operation[] = "FcPolyline::curveGet";
+  if (!trim1 && !trim2) return true;
+  if (!expectThat(trim1 && trim2,
+                  "FcPolyline::curveGet trimming on only one of the ends is not implemented",
+                  operation, __LINE__))
+    return false;
+  const auto isParameter = [](const FcTrimmingSelect& trim) {
+    return trim.type() == FcTrimmingSelect::Types::ParameterValue;
+  };
+  return expectThat(!isParameter(*trim1) && !isParameter(*trim2),
+                    "FcPolyline::curveGet trimming by parameter is not implemented", operation,
+                    __LINE__) &&
+         expectThat(trim1->CartesianPoint() && trim2->CartesianPoint(),
+                    "FcTrimmingSelect::CartesianPoint is required", operation, __LINE__);
+}
+
+}  // namespace
+
+void FcPolyline::setPoints(const std::vector<Point2d>& points, bool close) {
+  if (expectThat(points.size() >= 2, "Assertion failed: need at least 2 points.",
+                 "FcPolyline::setPoints", __LINE__))
+    setPoints(entitiesOf(points, close));
+}
+
+void FcPolyline::setPoints(const std::vector<Point3d>& points, bool close) {
+  if (expectThat(points.size() >= 2, "Assertion failed: need at least 2 points.",
+                 "FcPolyline::setPoints", __LINE__))
+    setPoints(entitiesOf(points, close));
+}
+
+bool FcPolyline::hasAllPoints(const char* operation) const {
+  return expectThat(std::find(Points().begin(), Points().end(), nullptr) == Points().end(),
+                    "There is a non-existent point in this Polyline", operation, __LINE__);
+}
+
+/// Empty when one is missing, with an assert.
+std::vector<Point3d> FcPolyline::allPoints() const {
+  std::vector<Point3d> result;
+  if (!hasAllPoints("FcPolyline::curveGet")) return result;
+  result.reserve(Points().size());
+  for (const auto& point : Points()) result.push_back(point->point());
+  return result;
+}
+
+bool FcPolyline::isClosed() const {
+  return Points().size() >= 3 && Points().front() == Points().back();
+}
+
+bool FcPolyline::isClosed(const FcParams& /*params*/) const { return isClosed(); }
+
+bool FcPolyline::is2d() const {
+  return !Points().empty() && Points()[0] && Points()[0]->dimension() == 2;
+}
+
+std::shared_ptr<FcIndexedPolyCurve> FcPolyline::getAsIndexedPolyCurve(
+    const FcParams& /*params*/) const {
+  const auto points = allPoints();
+  if (points.empty()) return nullptr;
+  auto curve = makeEntity<FcIndexedPolyCurve>();
+  if (is2d()) {
+    auto list = makeEntity<FcCartesianPointList2D>();
+    list->setPoints(math::_2d::PointFactory::fromPoints(points));
+    curve->setPoints(std::move(list));
+  } else {
+    auto list = makeEntity<FcCartesianPointList3D>();
+    list->setPoints(points);
+    curve->setPoints(std::move(list));
+  }
+  return curve;
+}
+
+std::optional<std::vector<Point2d>> FcPolyline::closedCurve2dGet(const FcParams& params) const {
+  auto points = curve2d(params, {}, {}, false);
+  if (points && isClosed()) points->pop_back();
+  return points;
+}
+
+std::optional<std::vector<Point2d>> FcPolyline::curve2d(const FcParams& params, const Trim& trim1,
+                                                        const Trim& trim2, bool reverse) const {
+  if (!is2d()) return {};
+  const auto points = curveGet(params, trim1, trim2, reverse);
+  if (points.empty()) return {};
+  return math::_2d::PointFactory::fromPoints(points);
+}
+
+std::vector<Point3d> FcPolyline::curveGet(const FcParams& /*params*/, const Trim& trim1,
+                                          const Trim& trim2, bool reverse) const {
+  if (!canTrim(trim1, trim2)) return {};
+  auto points = allPoints();
+  if (reverse) std::reverse(points.begin(), points.end());
+  if (!trim1) return points;
+  return trimPolyline(points, trim1->CartesianPoint()->point(), trim2->CartesianPoint()->point());
+}
+
+std::vector<std::pair<double, FcCurve::ParameterType>> FcPolyline::parametricSegments() const {
+  const auto points = allPoints();
+  double length = 0;
+  for (std::size_t i = 1; i < points.size(); ++i) length += points[i].distance(points[i - 1]);
+  return {{length, ParameterType::length}};
+}
+
+void FcPolyline::draw(const FcDrawParams& params) const {
+  if (!expectThat(!Points().empty(), "There are no points.", "FcPolyline::draw", __LINE__)) return;
+  auto points = allPoints();
+  if (points.empty()) return;
+  if (isClosed()) {
+    points.pop_back();
+    params->vPolygon({std::move(points)});
+  } else {
+    params->vPolyline(points);
+  }
+}
+
+void FcPolyline::transform(const Matrix& matrix) {
+  if (!hasAllPoints("FcPolyline::transform")) return;
+  std::vector<FcCartesianPoint*> points;
+  points.reserve(Points().size());
+  for (const auto& point : Points()) points.push_back(point.get());
+  const bool planar = is2d() && matrix.isOnly2dTransformation();
+  std::sort(points.begin(), points.end());
+  points.erase(std::unique(points.begin(), points.end()), points.end());
+  for (FcCartesianPoint* point : points) {
+    const Point3d moved = point->point() * matrix;
+    if (planar)
+      point->setPoint(Point2d(moved.x, moved.y));
+    else
+      point->setPoint(moved);
+  }
+}
+
+std::optional<Extent> FcPolyline::boundingBox(const FcParams& /*params*/) const {
+  if (!hasAllPoints("FcPolyline::boundingBox")) return {};
+  Extent box;
+  for (const auto& point : Points()) box.include(point->point());
+  return box.isValid() ? std::optional(box) : std::nullopt;
+}
+
+std::optional<Extent2d> FcPolyline::planarBox(const FcParams& /*params*/) const {
+  if (!hasAllPoints("FcPolyline::planarBox")) return {};
+  Extent2d box;
+  for (const auto& point : Points()) box.include(point->point2d());
+  return box.isValid() ? std::optional(box) : std::nullopt;
+}
+
+}  // namespace qor::fc::resource::geometry

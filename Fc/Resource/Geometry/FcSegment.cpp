@@ -1,0 +1,23 @@
+#include "Fc/Resource/Geometry/FcSegment.h"
+
+#include "Fc/NotImplemented.h"
+
+namespace qor::fc::resource::geometry {
+
+std::vector<math::Point3d> FcSegment::curve(const FcParams& /*params*/) const {
+  assertNotImplemented("FcSegment::curve is not implemented for ", *this, "FcSegment::curve");
+  return {};
+}
+
+std::optional<std::vector<math::Point2d>> FcSegment::curve2d(const FcParams& /*params*/) const {
+  assertNotImplemented("FcSegment::curve2d is not implemented for ", *this, "FcSegment::curve2d");
+  return {};
+}
+
+std::vector<std::pair<double, FcCurve::ParameterType>> FcSegment::parametricSegments() const {
+  const FcCurve* parent = parentCurve();
+  if (!parent) return {};
+  return parent->parametricSegments();
+}
+
+}  // namespace qor::fc::resource::geometry

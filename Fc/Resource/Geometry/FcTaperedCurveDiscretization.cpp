@@ -1,0 +1,21 @@
+#include "Fc/Resource/Geometry/FcTaperedCurveDiscretization.h"
+
+#include "Fc/Resource/Geometry/GeometryAssert.h"
+
+namespace qor::fc::resource::geometry {
+
+std::size_t FcTaperedCurveDiscretization::numberOfCircleSegments(double radius) const {
+  if (collecting)
+    radii.push_back(radius);
+  else if (expectThat(nextRadius < radii.size(),
+                      "Number of collected radii is lower than radii used in seconds run",
+                      "FcTaperedCurveDiscretization::numberOfCircleSegments", __LINE__))
+    radius = radii[nextRadius++];
+  return CurveDiscretization::numberOfCircleSegments(radius);
+}
+
+std::unique_ptr<math::CurveDiscretization> FcTaperedCurveDiscretization::copy() const {
+  return std::make_unique<FcTaperedCurveDiscretization>(*this);
+}
+
+}  // namespace qor::fc::resource::geometry

@@ -1,0 +1,69 @@
+#include "Fc/Resource/Geometry/FcTrimmedCurve.h"
+
+#include "Fc/Resource/Geometry/CurveNesting.h"
+#include "Fc/Resource/Geometry/CurveTrimming.h"
+#include "Fc/Resource/Geometry/GeometryAssert.h"
+
+namespace qor::fc::resource::geometry {
+
+using math::Point2d;
+using math::Point3d;
+
+bool FcTrimmedCurve::validateAttributes() const {
+  static constexpr char operation[] = "FcTrimmedCurve::validateAttributes";
+  const bool basis = expectThat(BasisCurve() != nullptr, "FcTrimmedCurve::BasisCurve is required",
+                                operation, __LINE__);
+  const bool first =
+      expectThat(!Trim1().empty(), "FcTrimmedCurve::Trim1 is required", operation, __LINE__);
+  const bool second =
+      expectThat(!Trim2().empty(), "FcTrimmedCurve::Trim2 is required", operation, __LINE__);
+  return basis && first && second;
+}
+
+const FcTrimmingSelect& FcTrimmedCurve::chosen(const std::vector<FcTrimmingSelect>& trims) const {
+  const auto wanted = MasterRepresentation() == FcTrimmingPreference::CARTESIAN
+                          ? FcTrimmingSelect::Types::CartesianPoint
+                          : FcTrimmingSelect::Types::ParameterValue;
+  if (trims.size() > 1)
+    for (const FcTrimmingSelect& trim : trims)
+      if (trim.type() == wanted) return trim;
+  return trims.front();
+}
+
+bool FcTrimmedCurve::isClosed(const FcParams& /*params*/) const { return false; }
+
+bool FcTrimmedCurve::is2d() const {
+  const CurveNesting nesting(*this);
+  return nesting && BasisCurve() && BasisCurve()->is2d();
+}
+
+std::optional<std::vector<Point2d>> FcTrimmedCurve::curve2d(const FcParams& params,
+                                                            const Trim& trim1, const Trim& trim2,
+                                                            bool reverse) const {
+  const CurveNesting nesting(*this);
+  if (!nesting || !expectWhole(trim1, trim2, reverse, "FcTrimmedCurve::curve2d") ||
+      !validateAttributes())
+    return {};
+  return BasisCurve()->curve2d(params, chosen(Trim1()), chosen(Trim2()), !SenseAgreement());
+}
+
+std::vector<Point3d> FcTrimmedCurve::curveGet(const FcParams& params, const Trim& trim1,
+                                              const Trim& trim2, bool reverse) const {
+  const CurveNesting nesting(*this);
+  if (!nesting || !expectWhole(trim1, trim2, reverse, "FcTrimmedCurve::curveGet") ||
+      !validateAttributes())
+    return {};
+  return BasisCurve()->curveGet(params, chosen(Trim1()), chosen(Trim2()), !SenseAgreement());
+}
+
+std::vector<std::pair<double, FcCurve::ParameterType>> FcTrimmedCurve::parametricSegments() const {
+  return {{1.0, ParameterType::length}};
+}
+
+std::optional<math::Extent2d> FcTrimmedCurve::planarBox(const FcParams& params) const {
+  const CurveNesting nesting(*this);
+  if (!nesting || !validateAttributes()) return {};
+  return BasisCurve()->planarBox(params);
+}
+
+}  // namespace qor::fc::resource::geometry
