@@ -36,6 +36,11 @@ class QOR_API FcClip {
   /// The item is to be cut before it is drawn.
   bool isClipping() const { return !m_drawingClipped && !m_clipObjects.empty(); }
 
+  /// Draws what the clip objects leave of the item. Without a processor of complex geometry that is
+  /// nothing.
+  void drawItemClipped(const std::shared_ptr<const resource::geometry::FcRepresentationItem>& item,
+                       const FcDrawParams& params);
+
  private:
   std::vector<ClipObject> m_clipObjects;
   bool m_drawingClipped = false;
