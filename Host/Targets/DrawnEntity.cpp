@@ -1,13 +1,16 @@
 #include "Host/Targets/DrawnEntity.h"
 
 #include "Fc/Core/Kernel/FcRoot.h"
+#include "Fc/ObjectInterface.h"
 
 namespace qor::host::targets {
 
 using fc::core::kernel::FcRoot;
 
 const fc::FcBase* drawnEntity(const generate::ObjectInterface* object) {
-  return dynamic_cast<const fc::FcBase*>(object);
+  if (const auto* entity = dynamic_cast<const fc::FcBase*>(object)) return entity;
+  const auto* holder = dynamic_cast<const fc::ObjectInterface*>(object);
+  return holder ? holder->objectGet() : nullptr;
 }
 
 std::string guidText(const fc::FcBase& entity) {

@@ -140,8 +140,7 @@ struct PlacedMesh {
 /// Makes meshes of contents, each once for each material that it can inherit.
 class Meshes {
  public:
-  Meshes(tinygltf::Model& model, const Scene& scene, Numbers& numbers)
-      : m_model(model), m_scene(scene), m_numbers(numbers) {}
+  Meshes(tinygltf::Model& model, Numbers& numbers) : m_model(model), m_numbers(numbers) {}
 
   PlacedMesh meshOf(const SceneContent& content, MaterialIndex inherited) {
     const Key key(&content, usesInherited(content) ? inherited : 0);
@@ -225,7 +224,6 @@ class Meshes {
   }
 
   tinygltf::Model& m_model;
-  const Scene& m_scene;
   Numbers& m_numbers;
   std::map<Key, PlacedMesh> m_known;
 };
@@ -347,7 +345,7 @@ bool writeGlb(const Scene& scene, std::ostream& out) {
   for (const SceneMaterial& material : scene.materials)
     model.materials.push_back(materialOf(material));
   Numbers numbers(model);
-  Meshes meshes(model, scene, numbers);
+  Meshes meshes(model, numbers);
   Nodes(model, scene, meshes).addAll();
   if (!numbers.fits()) return false;
   numbers.finish();
