@@ -2,6 +2,10 @@
 
 #include <numbers>
 
+#include "Fc/ComplexGeometry/FcComplexGeometryProcessorInterface.h"
+#include "Fc/ComplexGeometry/FcExplicitGeometryTask.h"
+#include "Fc/ComplexGeometry/FcPolygonalFaceSetResult.h"
+#include "Fc/FcParams.h"
 #include "Fc/Reflection/MakeEntity.h"
 #include "Fc/Resource/GeometricConstraint/FcLocalPlacement.h"
 #include "Fc/Resource/GeometricModel/FcBooleanResult.h"
@@ -42,14 +46,24 @@ bool DrawVisitor::visit(const resource::geometry::FcRepresentationItem& item) {
   return false;
 }
 
-// A boolean takes a processor of complex geometry; without one it goes on as any other item.
-bool DrawVisitor::visit(const resource::geometricmodel::FcBooleanResult& /*result*/) {
-  if (Assert::isEnabled())
-    Assert::addAssert({.message = "No current complex geometry processor is set up.",
-                       .function = "DrawVisitor::visit",
-                       .source = "DrawVisitor",
-                       .line = __LINE__});
-  return true;
+// Without a processor it goes on as any other item.
+bool DrawVisitor::visit(const resource::geometricmodel::FcBooleanResult& boolean) {
+  const auto* const processor = getCurrentComplexGeometryProcessor();
+  if (!processor) {
+    if (Assert::isEnabled())
+      Assert::addAssert({.message = "No current complex geometry processor is set up.",
+                         .function = "DrawVisitor::visit",
+                         .source = "DrawVisitor",
+                         .line = __LINE__});
+    return true;
+  }
+  const auto item = std::static_pointer_cast<const resource::geometry::FcRepresentationItem>(
+      boolean.shared_from_this());
+  const auto result = processor->processAndCast<FcPolygonalFaceSetResult>(
+      FcExplicitGeometryTask(FcParams(m_params), item));
+  if (result)
+    for (auto& faceSet : result->takeFaceSets()) m_params->polygonalFaceSet(std::move(faceSet));
+  return false;
 }
 
 bool DrawVisitor::visit(const resource::geometry::FcCartesianPoint& point) {

@@ -1,17 +1,18 @@
 #include "Fc/Resource/GeometricModel/FcAdvancedBrepWithVoids.h"
 
-#include "Qor/Assert/Assert.h"
+#include "Fc/Resource/Report.h"
+#include "Fc/Resource/Topology/FcClosedShell.h"
 
 namespace qor::fc::resource::geometricmodel {
 
 void FcAdvancedBrepWithVoids::draw(const FcDrawParams& params) const {
-  if (Assert::isEnabled())
-    Assert::addAssert(
-        {.message = "Not implemented for FcAdvancedBrepWithVoids, voids will not be drawn",
-         .function = "qor::fc::resource::geometricmodel::FcAdvancedBrepWithVoids::draw",
-         .source = "FcAdvancedBrepWithVoids",
-         .line = __LINE__});
-  FcManifoldSolidBrep::draw(params);
+  report("Not implemented for FcAdvancedBrepWithVoids, voids will not be drawn",
+         "qor::fc::resource::geometricmodel::FcAdvancedBrepWithVoids::draw", __LINE__);
+  FcAdvancedBrepWithVoidsAttributes::draw(params);
+}
+
+void FcAdvancedBrepWithVoids::transform(const math::Matrix& matrix) {
+  transformWithVoids(m_Voids, matrix);
 }
 
 }  // namespace qor::fc::resource::geometricmodel

@@ -6,28 +6,24 @@ namespace qor::fc::resource::geometricmodel {
 
 void FcBoundingBox::draw(const FcDrawParams& /*params*/) const {}
 
+void FcBoundingBox::transform(const math::Matrix& matrix) {
+  const std::optional<math::Extent> box = extent();
+  if (!box || matrix.isIdentity()) return;
+  const math::Extent moved = box->transformExtent(matrix);
+  m_Corner = geometry::makePoint(moved.minimum());
+  m_XDim = moved.size().x;
+  m_YDim = moved.size().y;
+  m_ZDim = moved.size().z;
+}
+
 std::optional<math::Extent> FcBoundingBox::boundingBox(const FcParams& /*params*/) const {
   return extent();
 }
 
-void FcBoundingBox::transform(const math::Matrix& matrix) {
-  const auto before = extent();
-  if (!before || matrix.isIdentity()) return;
-  const auto after = before->transformExtent(matrix);
-  if (!after.isValid()) return;
-  const auto& corner = after.minimum();
-  Corner()->setCoordinates({corner.x, corner.y, corner.z});
-  setXDim(after.size().x);
-  setYDim(after.size().y);
-  setZDim(after.size().z);
-}
-
 std::optional<math::Extent> FcBoundingBox::extent() const {
-  if (!Corner()) return {};
-  const auto& at = Corner()->Coordinates();
-  const math::Point3d corner(at[0], at[1], at[2]);
-  return math::Extent(corner,
-                      corner + math::Vector3d(XDim().value(), YDim().value(), ZDim().value()));
+  if (!m_Corner) return std::nullopt;
+  const math::Point3d corner = m_Corner->point();
+  return math::Extent(corner, corner + math::Vector3d(m_XDim, m_YDim, m_ZDim));
 }
 
 }  // namespace qor::fc::resource::geometricmodel

@@ -4,14 +4,15 @@
 
 namespace qor::fc::resource::geometricmodel {
 
-/// IfcBoundingBox, Resource.Geometric Model: a box around something, which isn't drawn.
+/// IfcBoundingBox, Resource.Geometric Model: a box along the axes, from its corner on.
 class QOR_API FcBoundingBox : public FcBoundingBoxAttributes {
  public:
+  /// Draws nothing: a box stands for a body, it isn't one.
   void draw(const FcDrawParams& params) const override;
+  /// Becomes the box around its moved corners. Nothing without a corner.
+  void transform(const math::Matrix& matrix) override;
   /// Empty without a corner.
   std::optional<math::Extent> boundingBox(const FcParams& params) const override;
-  /// Becomes the box around its moved corners. Its point gets the new corner in place.
-  void transform(const math::Matrix& matrix) override;
 
  private:
   std::optional<math::Extent> extent() const;

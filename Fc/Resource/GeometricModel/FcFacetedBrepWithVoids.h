@@ -4,11 +4,13 @@
 
 namespace qor::fc::resource::geometricmodel {
 
-/// IfcFacetedBrepWithVoids, Resource.Geometric Model.
+/// IfcFacetedBrepWithVoids, Resource.Geometric Model: a body with cavities.
 class QOR_API FcFacetedBrepWithVoids : public FcFacetedBrepWithVoidsAttributes {
  public:
-  /// The outer shell alone; that the voids are missing is reported.
+  /// The outer shell alone, with an assert that says so.
   void draw(const FcDrawParams& params) const override;
+  /// The voids too.
+  void transform(const math::Matrix& matrix) override;
 };
 
 }  // namespace qor::fc::resource::geometricmodel

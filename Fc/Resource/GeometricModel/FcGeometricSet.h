@@ -4,13 +4,13 @@
 
 namespace qor::fc::resource::geometricmodel {
 
-/// IfcGeometricSet, Resource.Geometric Model: points, curves and surfaces side by side. Elements
-/// that are missing are passed over.
+/// IfcGeometricSet, Resource.Geometric Model: points, curves and surfaces without topology.
 class QOR_API FcGeometricSet : public FcGeometricSetAttributes {
  public:
+  /// Each element by itself.
   void draw(const FcDrawParams& params) const override;
   void transform(const math::Matrix& matrix) override;
-  /// The box around the boxes of all elements; empty when there are none or one has none.
+  /// Around all elements that have a box; empty when none has.
   std::optional<math::Extent> boundingBox(const FcParams& params) const override;
 };
 

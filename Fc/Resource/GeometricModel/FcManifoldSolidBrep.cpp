@@ -1,33 +1,39 @@
 #include "Fc/Resource/GeometricModel/FcManifoldSolidBrep.h"
 
 #include "Fc/FcDrawParams.h"
+#include "Fc/Resource/Report.h"
 #include "Fc/Resource/Topology/FcClosedShell.h"
-#include "Qor/Assert/Assert.h"
+#include "Fc/Resource/Topology/MovedPoints.h"
 
 namespace qor::fc::resource::geometricmodel {
 
 void FcManifoldSolidBrep::draw(const FcDrawParams& params) const {
-  if (hasOuter("qor::fc::resource::geometricmodel::FcManifoldSolidBrep::draw"))
-    params->drawConstRepresentationItem(Outer(), params, generate::draw::SurfaceDrawType::Surface);
+  if (m_Outer)
+    params->drawConstRepresentationItem(m_Outer, params, generate::draw::SurfaceDrawType::Surface);
+  else
+    report("Outer should exist", "qor::fc::resource::geometricmodel::FcManifoldSolidBrep::draw",
+           __LINE__);
 }
 
 void FcManifoldSolidBrep::transform(const math::Matrix& matrix) {
-  if (hasOuter("qor::fc::resource::geometricmodel::FcManifoldSolidBrep::transform"))
-    Outer()->transform(matrix);
+  if (m_Outer)
+    m_Outer->transform(matrix);
+  else
+    report("Outer should exist",
+           "qor::fc::resource::geometricmodel::FcManifoldSolidBrep::transform", __LINE__);
+}
+
+void FcManifoldSolidBrep::transformWithVoids(
+    const std::vector<std::shared_ptr<topology::FcClosedShell>>& voids,
+    const math::Matrix& matrix) {
+  const topology::MovedPoints moved;
+  FcManifoldSolidBrep::transform(matrix);
+  for (const auto& shell : voids)
+    if (shell) shell->transform(matrix);
 }
 
 std::optional<math::Extent> FcManifoldSolidBrep::boundingBox(const FcParams& params) const {
-  if (!hasOuter("qor::fc::resource::geometricmodel::FcManifoldSolidBrep::boundingBox")) return {};
-  return Outer()->boundingBox(params);
-}
-
-bool FcManifoldSolidBrep::hasOuter(const char* operation) const {
-  if (!Outer() && Assert::isEnabled())
-    Assert::addAssert({.message = "Outer should exist",
-                       .function = operation,
-                       .source = "FcManifoldSolidBrep",
-                       .line = __LINE__});
-  return Outer() != nullptr;
+  return m_Outer ? m_Outer->boundingBox(params) : std::nullopt;
 }
 
 }  // namespace qor::fc::resource::geometricmodel

@@ -1,27 +1,22 @@
 #include "Fc/Resource/PresentationDefinition/FcTextLiteral.h"
 
 #include "Fc/FcDrawParams.h"
-#include "Qor/Assert/Assert.h"
+#include "Fc/Resource/Report.h"
+#include "Qor/Draw/TransformationInterface.h"
 
 namespace qor::fc::resource::presentationdefinition {
 
 void FcTextLiteral::draw(const FcDrawParams& params) const {
-  FcDrawInterface& target = params;
-  const generate::draw::TransformationGuard guard(target);
-  target.vTransformationMultiply(Placement().transformationGet(), math::MatrixMultiplyOrder::left);
-  target.vTextLiteral(Literal().data(), Literal().size());
+  const generate::draw::TransformationGuard guard(params);
+  params->vTransformationMultiply(m_Placement.transformationGet(), math::MatrixMultiplyOrder::left);
+  params->vTextLiteral(m_Literal.c_str(), m_Literal.size());
 }
 
 void FcTextLiteral::transform(const math::Matrix& matrix) {
-  if (matrix.isMirror() && Assert::isEnabled())
-    Assert::addAssert(
-        {.message = "transform not implemented to handle mirror of text",
-         .function = "qor::fc::resource::presentationdefinition::FcTextLiteral::transform",
-         .source = "FcTextLiteral",
-         .line = __LINE__});
-  auto placement = Placement();
-  placement.setTransformation(placement.transformationGet() * matrix);
-  setPlacement(std::move(placement));
+  if (matrix.isMirror())
+    report("transform not implemented to handle mirror of text",
+           "qor::fc::resource::presentationdefinition::FcTextLiteral::transform", __LINE__);
+  m_Placement.setTransformation(m_Placement.transformationGet() * matrix);
 }
 
 }  // namespace qor::fc::resource::presentationdefinition

@@ -7,9 +7,9 @@ namespace qor::fc::resource::presentationdefinition {
 /// IfcTextLiteral, Resource.Presentation Definition: a line of text at a place.
 class QOR_API FcTextLiteral : public FcTextLiteralAttributes {
  public:
-  /// In the frame of `Placement`, along its X axis.
+  /// From the origin of its placement along the X axis.
   void draw(const FcDrawParams& params) const override;
-  /// Moves `Placement`. A mirror is reported, and applied all the same.
+  /// Moves the placement. An assert for a mirror, which is stored all the same.
   void transform(const math::Matrix& matrix) override;
 };
 
