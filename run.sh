@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds fctool and runs it on a model: what is in it, its tree, and the model written back to out/.
+# Builds fctool and runs it on a model: what is in it, its tree, its properties, and the model written back to out/.
 #   ./run.sh              on the small model that the repository carries
 #   ./run.sh model.ifc    on yours
 # Exits as fctool does: 0, 1 (the file has problems, all reported) or 2 (it can't be done).
@@ -34,5 +34,6 @@ mkdir -p "$root/out"
 written=$root/out/$(basename "$model")
 fctool info "$model"
 fctool tree "$model"
+fctool properties "$model"
 fctool convert "$model" "$written"
 exit "$worst"
