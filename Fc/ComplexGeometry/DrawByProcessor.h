@@ -1,0 +1,18 @@
+#pragma once
+
+#include "Qor/Platform/Export.h"
+
+namespace qor::fc {
+
+class FcDrawParams;
+
+namespace resource::geometry {
+class FcRepresentationItem;
+}
+
+/// Draws the item as the face sets that the current complex geometry processor makes of it, on this
+/// thread. Without a processor an assert, which names `function`, and nothing.
+QOR_API void drawByProcessor(const resource::geometry::FcRepresentationItem& item,
+                             const FcDrawParams& params, const char* function);
+
+}  // namespace qor::fc
