@@ -14,9 +14,11 @@
 #include "Qor/Object/PropertyId.h"
 #include "Qor/Platform/Export.h"
 #include "Qor/String/StringHash.h"
+#include "Qor/Unit/QuantityPresentationBase.h"
 
 namespace qor::fc {
 
+class Data;
 class FcCopySettings;
 class FcVisitorBase;
 class FcVisitorBaseNonConst;
@@ -89,6 +91,19 @@ class QOR_API FcBase : public generate::ObjectInterface,
   virtual bool setLocalValue(LocalValue value, const object::PropertyId& id);
 
   virtual bool isOptional(const object::PropertyId& id) const;
+
+  /// The SI number of an attribute of a measure type, whatever units the project names: models hold
+  /// SI numbers. Empty for an absent or unknown attribute, a list, and any other type, selects
+  /// included. `data` isn't read.
+  virtual std::optional<double> getAttributeAsSiUnit(const Data& data,
+                                                     const std::string& name) const;
+  /// The attribute is a single number that can be shown with a unit, whether it has a value or not.
+  virtual bool hasQuantityPresentationLocal(const object::PropertyId& id) const;
+  /// The attribute with the default settings of its quantity: "2.500 m". Null for an absent one and
+  /// where `hasQuantityPresentationLocal` answers false.
+  virtual std::unique_ptr<unit::QuantityPresentationBase> createQuantityPresentationLocal(
+      const object::PropertyId& id) const;
+
   /// The name for people, from the dictionaries of context "IFC" under "IfcWall.PredefinedType";
   /// without one the bare name. Empty for an unknown attribute.
   virtual std::string getPropertyName(const object::PropertyId& id) const;

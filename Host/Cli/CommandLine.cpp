@@ -74,10 +74,12 @@ class CommandLine {
     key.require_option(1);
   }
   void addConvert() {
-    CLI::App& command =
-        add("convert", "Read a file and write it as IFC4X3_ADD2", m_convert, runConvert);
+    CLI::App& command = add("convert", "Read a file and write it as IFC4X3_ADD2, in SI units",
+                            m_convert, runConvert);
     command.add_option("IN", m_convert.input, "The STEP file to read")->required();
     command.add_option("OUT", m_convert.output, "The file to write; replaced at once")->required();
+    command.add_flag("--keep-units", m_convert.keepUnits,
+                     "Leave numbers and units as they are; else the output is in SI units");
   }
 
   /// Help and version are errors of the parser that end well.

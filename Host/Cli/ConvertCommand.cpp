@@ -42,7 +42,7 @@ void print(const ConvertOptions& options, const step::ReadResult& model,
 }  // namespace
 
 ExitCode runConvert(const ConvertOptions& options, Console& console) {
-  const auto model = loadModel(options.input, console);
+  const auto model = loadModel(options.input, console, options.keepUnits);
   if (!model) return ExitCode::impossible;
   std::error_code ignored;  // set when there is no output yet
   if (!model->problems.empty() &&

@@ -10,23 +10,15 @@
 #include <string_view>
 #include <vector>
 
-#include "Fc/Resource/Measure/FcUnitAssignment.h"
 #include "Host/Cli/EntityLabel.h"
 #include "Host/Cli/LoadModel.h"
 #include "Host/Cli/PrintableText.h"
 #include "Host/Cli/UnitWords.h"
+#include "Host/StepFile/Units/ModelUnits.h"
 
 namespace qor::host::cli {
 
 namespace {
-
-using fc::resource::measure::FcUnitAssignment;
-
-struct UnitLine {
-  std::uint64_t assignment;  ///< number of the assignment that lists the unit
-  std::string type;
-  std::string words;
-};
 
 std::map<std::string_view, std::uint64_t> countByClass(const step::ReadResult& model) {
   std::map<std::string_view, std::uint64_t> counts;
@@ -35,13 +27,13 @@ std::map<std::string_view, std::uint64_t> countByClass(const step::ReadResult& m
   return counts;
 }
 
-std::vector<UnitLine> unitsOf(const step::ReadResult& model) {
-  std::vector<UnitLine> units;
-  for (const step::NumberedEntity& instance : model.instances)
-    if (const auto assignment = fc::fcCast<FcUnitAssignment>(instance.entity))
-      for (const auto& unit : assignment->Units())
-        units.push_back({instance.number, unitType(unit), unitWords(unit)});
-  return units;
+/// What makes SI of the numbers in a unit: ", factor 0.001". Nothing for units that no measure of
+/// the schema has.
+std::string conversionWords(const step::FileUnit& unit) {
+  if (!unit.toSi) return step::kindOf(unit.unit.getEntity()).empty() ? "" : ", left as it is";
+  if (unit.toSi->isIdentity()) return {};
+  const std::string words = fmt::format(", factor {}", unit.toSi->scale());
+  return unit.toSi->offset == 0 ? words : fmt::format("{}, offset {}", words, unit.toSi->offset);
 }
 
 std::string schemaOf(const step::ReadResult& model) {
@@ -74,12 +66,26 @@ void printClasses(const step::ReadResult& model, std::ostream& out) {
 }
 
 void printUnits(const step::ReadResult& model, std::ostream& out) {
-  const std::vector<UnitLine> units = unitsOf(model);
+  const std::vector<step::FileUnit>& units = model.units;
   out << (units.empty() ? "\nUnits: none\n" : "\nUnits:\n");
   const bool several = !units.empty() && units.front().assignment != units.back().assignment;
-  for (const UnitLine& unit : units)
-    out << fmt::format("  {}{}: {}\n", several ? fmt::format("#{} ", unit.assignment) : "",
-                       printable(unit.type), printable(unit.words));
+  for (const step::FileUnit& unit : units)
+    out << fmt::format("  {}{}: {}{}\n", several ? fmt::format("#{} ", unit.assignment) : "",
+                       printable(unitType(unit.unit)), printable(unitWords(unit.unit)),
+                       conversionWords(unit));
+}
+
+nlohmann::ordered_json unitJson(const step::FileUnit& unit) {
+  nlohmann::ordered_json json{{"assignment", unit.assignment},
+                              {"type", unitType(unit.unit)},
+                              {"unit", unitWords(unit.unit)},
+                              {"factor", nullptr},
+                              {"offset", nullptr}};
+  if (unit.toSi) {
+    json["factor"] = unit.toSi->scale();
+    json["offset"] = unit.toSi->offset;
+  }
+  return json;
 }
 
 void printProblems(const step::ReadResult& model, std::ostream& out) {
@@ -117,9 +123,7 @@ void printJson(const InfoOptions& options, const step::ReadResult& model, std::o
   json["classes"] = nlohmann::ordered_json::object();
   for (const auto& [name, count] : countByClass(model)) json["classes"][std::string(name)] = count;
   json["units"] = nlohmann::ordered_json::array();
-  for (const UnitLine& unit : unitsOf(model))
-    json["units"].push_back(
-        {{"assignment", unit.assignment}, {"type", unit.type}, {"unit", unit.words}});
+  for (const step::FileUnit& unit : model.units) json["units"].push_back(unitJson(unit));
   json["problems"] = nlohmann::ordered_json::array();
   for (const step::Problem& problem : model.problems)
     json["problems"].push_back(problemJson(problem));

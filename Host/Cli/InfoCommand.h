@@ -11,11 +11,12 @@ struct InfoOptions {
   bool json = false;
 };
 
-/// `fctool info`: the header of a file, how many entities of which class it has, its units and its
-/// problems.
+/// `fctool info`: the header of a file, how many entities of which class it has, its units with
+/// what makes SI of its numbers, and its problems.
 ///
 /// As JSON: "file", "schema", "header", "entities" (their number), "classes" (name to number),
-/// "units" (each with "assignment", "type" and "unit"), "problems" (each with "kind", "class",
+/// "units" (each with "assignment", "type", "unit", "factor" and "offset"; the last two are null
+/// where numbers are left as they are), "problems" (each with "kind", "class",
 /// "attribute", "count", "instance", "line" and "message").
 ExitCode runInfo(const InfoOptions& options, Console& console);
 

@@ -10,11 +10,12 @@
 
 namespace qor::host::cli {
 
-std::optional<step::ReadResult> loadModel(const std::filesystem::path& file, Console& console) {
+std::optional<step::ReadResult> loadModel(const std::filesystem::path& file, Console& console,
+                                          bool keepUnits) {
   step::ReadResult model;
   {
     ProgressBar bar("Reading", console);
-    model = step::readStepFile(file, {.progress = bar.callback()});
+    model = step::readStepFile(file, {.keepUnits = keepUnits, .progress = bar.callback()});
   }
   const std::string name = printable(file.string());
   for (const step::Problem& problem : model.problems)

@@ -8,9 +8,11 @@
 
 namespace qor::host::cli {
 
-/// Reads a model, with a progress bar, and reports its problems, each in one line. Empty, after a
-/// line that says why, when there is nothing to go on with.
-std::optional<step::ReadResult> loadModel(const std::filesystem::path& file, Console& console);
+/// Reads a model, with a progress bar, and reports its problems, each in one line. Its numbers are
+/// SI unless `keepUnits` asks for those of the file. Empty, after a line that says why, when there
+/// is nothing to go on with.
+std::optional<step::ReadResult> loadModel(const std::filesystem::path& file, Console& console,
+                                          bool keepUnits = false);
 
 /// `problems` when the file has some.
 ExitCode exitCodeOf(const step::ReadResult& model);

@@ -16,6 +16,10 @@ class AttributeReader {
  public:
   AttributeReader(InstanceCollector& collected, SchemaMap& schema, ProblemLog& log);
 
+  /// From now on numbers are converted to SI from these units; null to take them as they are. Must
+  /// outlive this.
+  void setUnits(const ModelUnits* units) { m_source.setUnits(units); }
+
   /// Reads the parameters of the instance at that position, which has an entity.
   void read(std::size_t position);
 

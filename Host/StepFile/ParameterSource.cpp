@@ -2,6 +2,7 @@
 
 #include <fmt/core.h>
 
+#include <cmath>
 #include <utility>
 
 #include "Fc/FcBase.h"
@@ -186,6 +187,8 @@ bool ParameterSource::takeReal(double& out) {
   double value = 0;
   const bool held = readReal(m_at, value) == NumberResult::ok;
   if (!endsNumber() || !held) return false;
+  if (m_unit) value = (*m_unit)(value);
+  if (!std::isfinite(value)) return false;
   out = value;
   return true;
 }
@@ -355,13 +358,23 @@ void ParameterSource::resume() {
 
 std::string_view ParameterSource::openTyped() {
   m_conversion = Conversion::none;
-  if (m_addsType) return m_attribute->type;
+  if (m_addsType) {
+    lookUpUnit(m_attribute->type);
+    return m_attribute->type;
+  }
   const char* name = m_at;
   while (isNameChar(*m_at)) ++m_at;
   const std::string_view upperName(name, static_cast<std::size_t>(m_at - name));
   m_at = m_scanner.skipSpace(m_at) + 1;
+  lookUpUnit(upperName);
   if (upperName == m_integralType) m_conversion = Conversion::toInteger;
   return upperName;
+}
+
+// In a select each value tells its own type.
+void ParameterSource::lookUpUnit(std::string_view upperName) {
+  if (m_units && m_attribute->measure == measure::byType)
+    m_unit = m_units->find(measureOfType(upperName));
 }
 
 void ParameterSource::closeTyped() {

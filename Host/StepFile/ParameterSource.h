@@ -12,6 +12,7 @@
 #include "Host/StepFile/ProblemLog.h"
 #include "Host/StepFile/Scanner.h"
 #include "Host/StepFile/SchemaMap.h"
+#include "Host/StepFile/Units/ModelUnits.h"
 
 namespace qor::host::step {
 
@@ -38,7 +39,11 @@ class ParameterSource final : public fc::ValueSource {
     m_attribute = &attribute;
     m_position = position;
     m_conversion = attribute.conversion;
+    m_unit = m_units ? m_units->find(attribute.measure) : nullptr;
   }
+  /// From now on numbers are converted from these units, each by the measure of its attribute; null
+  /// to take them as they are. Must outlive this.
+  void setUnits(const ModelUnits* units) { m_units = units; }
   /// In selects, values of this type may be reals without a fraction where the model has integers.
   void setIntegralType(std::string_view upperName) { m_integralType = upperName; }
 
@@ -81,6 +86,7 @@ class ParameterSource final : public fc::ValueSource {
   bool unwrap();
   void resume();
   void giveUp();
+  void lookUpUnit(std::string_view upperName);
   std::string quote(const char* value) const;
   std::string attributePrefix() const;
   std::string_view expectedType() const;
@@ -119,6 +125,9 @@ class ParameterSource final : public fc::ValueSource {
   Conversion m_conversion = Conversion::none;
   /// The value that came last stands without its type in the file.
   bool m_addsType = false;
+  const ModelUnits* m_units = nullptr;
+  /// Of the numbers that come next; null where they are SI.
+  const UnitConversion* m_unit = nullptr;
 };
 
 }  // namespace qor::host::step

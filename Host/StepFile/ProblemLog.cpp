@@ -44,6 +44,8 @@ const char* nameOf(ProblemKind kind) {
       return "wrongCount";
     case ProblemKind::outOfRange:
       return "outOfRange";
+    case ProblemKind::unit:
+      return "unit";
     case ProblemKind::noPlace:
       return "noPlace";
     case ProblemKind::further:

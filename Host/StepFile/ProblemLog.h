@@ -32,6 +32,7 @@ enum class ProblemKind : std::uint8_t {
   unknownType,        ///< a type that the select doesn't have
   wrongCount,         ///< more or fewer numbers than belong there
   outOfRange,         ///< a number too large, a guid that is none
+  unit,               ///< a unit that contradicts itself or others, or has no size
   noPlace,            ///< a value of an older schema that has no place in IFC4X3_ADD2
   further,            ///< what came when the log was full
 };

@@ -206,6 +206,9 @@ FileClass SchemaMap::make(std::size_t position) const {
     if (!isMapped) result.attributes.push_back(currentAttribute(info, attribute, isCurrent()));
     if (isMandatoryEnumeration(attribute)) result.enumerations.push_back(&attribute);
   });
+  for (FileAttribute& attribute : result.attributes)
+    if (attribute.attribute) attribute.measure = measureOfAttribute(info, *attribute.attribute);
+  result.unitRole = unitRoleOf(info);
   return result;
 }
 

@@ -7,6 +7,8 @@
 #include <vector>
 
 #include "Fc/Reflection/ClassInfo.h"
+#include "Host/StepFile/Units/Measures.h"
+#include "Host/StepFile/Units/UnitRole.h"
 
 namespace qor::host::step {
 
@@ -45,6 +47,8 @@ struct FileAttribute {
   Conversion conversion = Conversion::none;
   /// The type for `Conversion::toType`, "IFCPARAMETERVALUE".
   std::string_view type{};
+  /// Of which unit its numbers are.
+  MeasureId measure = measure::none;
 };
 
 /// One class as a file of some schema writes it.
@@ -58,6 +62,7 @@ struct FileClass {
   /// The attributes of an enumeration that must have a value: an instance holds some value there
   /// also when its file gives none.
   std::vector<const fc::AttributeInfo*> enumerations{};
+  UnitRole unitRole = UnitRole::none;
 };
 
 /// How the classes of one schema's files become those of the model.

@@ -11,12 +11,17 @@
 #include "Host/StepFile/Header.h"
 #include "Host/StepFile/InstanceTable.h"
 #include "Host/StepFile/ProblemLog.h"
+#include "Host/StepFile/Units/FileUnit.h"
 
 namespace qor::host::step {
 
 struct ReadOptions {
   /// Gives the numbers of the file's instances; takes 24 bytes each.
   bool keepNumbers = true;
+  /// Leaves numbers and units as the file has them. Else the model is SI: all that the file states
+  /// in other units is converted, each number by the type of its attribute, and the units of the
+  /// model say so.
+  bool keepUnits = false;
   /// Called from time to time with the part that is done, 0 to 1.
   std::function<void(double)> progress{};
 };
@@ -30,6 +35,8 @@ struct ReadResult {
   std::vector<Problem> problems{};
   /// The entities in the order of the file.
   std::vector<NumberedEntity> instances{};
+  /// The units that the file lists, those of the project first, and what makes SI of its numbers.
+  std::vector<FileUnit> units{};
 };
 
 /// Reads a STEP file (ISO 10303-21) of IFC4X3_ADD2, or of an older IFC schema as far as the classes
@@ -37,8 +44,8 @@ struct ReadResult {
 ///
 /// Whatever the file holds, all that is sound in it is loaded, and the rest is told in `problems`.
 /// Two passes over the text: the first makes an entity for each instance, the second reads their
-/// attributes, so that references may point forward. Linear time; beside the model about 36 bytes
-/// an instance while it reads.
+/// attributes, those of units before all others, so that references may point forward. Linear time;
+/// beside the model about 36 bytes an instance while it reads.
 ReadResult readStepFile(const std::filesystem::path& path, const ReadOptions& options = {});
 
 /// The same from memory.

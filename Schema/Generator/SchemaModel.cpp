@@ -185,6 +185,18 @@ bool SchemaModel::linksTargets(const Entity& entity) const {
   return !entity.supertype.empty() && linksTargets(*m_entities.at(entity.supertype));
 }
 
+bool SchemaModel::isNumericMeasure(const DefinedType& type) const {
+  const std::string basic = basicType(type.name);
+  if (basic != "REAL" && basic != "INTEGER" && basic != "NUMBER") return false;
+  for (const char* name : {"IfcMeasureValue", "IfcDerivedMeasureValue"}) {
+    const auto select = m_selects.find(name);
+    if (select == m_selects.end()) continue;
+    const auto& members = select->second->members;
+    if (std::find(members.begin(), members.end(), type.name) != members.end()) return true;
+  }
+  return false;
+}
+
 bool SchemaModel::entitiesOnly(const Select& select) const {
   return std::all_of(
       select.members.begin(), select.members.end(), [this](const std::string& member) {

@@ -69,6 +69,8 @@ class SchemaModel {
   /// The basic type at the end of a chain of defined types; empty for anything that is aggregated
   /// on the way.
   std::string basicType(const std::string& name) const;
+  /// An alternative of IfcMeasureValue or IfcDerivedMeasureValue that is one number.
+  bool isNumericMeasure(const DefinedType& type) const;
   /// No alternative, at any depth, is a value.
   bool entitiesOnly(const Select& select) const;
 

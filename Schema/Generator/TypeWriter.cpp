@@ -29,6 +29,17 @@ std::string nestedConstructors(const SchemaModel& model, const Select& select,
   return text;
 }
 
+std::string presentation(const SchemaModel& model, const DefinedType& type) {
+  if (!model.isNumericMeasure(type)) return {};
+  return fmt::format(R"(
+  /// With the default settings of its quantity; null, with an assert, where it can't be shown with a unit.
+  std::unique_ptr<unit::QuantityPresentationBase> createQuantityPresentation() const {{
+    return createMeasurePresentation("{}", static_cast<double>(value()));
+  }}
+)",
+                     shortName(type.name));
+}
+
 }  // namespace
 
 std::string enumerationHeader(const SchemaModel& model, const Enumeration& enumeration) {
@@ -68,16 +79,17 @@ std::string definedTypeHeader(const SchemaModel& model, const DefinedType& type)
   HeaderText header(model, group);
   header.include("Fc/BaseType.h");
   if (model.basicType(type.name).empty()) header.use(type.underlying.name);
+  if (model.isNumericMeasure(type)) header.include("Fc/Resource/Measure/MeasureQuantities.h");
   return header.around(fmt::format(R"(/// {0}, {1}.
 class {2} : public BaseType<{3}> {{
  public:
   using BaseType::BaseType;
   static constexpr const char* ifcName = "{0}";
   static constexpr const char* spelling = "qor::fc::{4}::{2}";
-}};
+{5}}};
 )",
                                    type.name, group.path, fcName(type.name), model.valueType(type),
-                                   group.name));
+                                   group.name, presentation(model, type)));
 }
 
 std::string generatedSelectName(const SchemaModel& model, const Select& select) {

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 
 #include "Fc/Resource/Measure/FcSimpleValueAlternatives.h"
+#include "Qor/Unit/QuantityPresentationBase.h"
 
 namespace qor::fc::resource::measure {
 
@@ -17,6 +19,8 @@ class QOR_API FcSimpleValue : public FcSimpleValueAlternatives {
   }
   /// False, and no change, for all alternatives but Real.
   bool setDoubleValue(double value) { return type() == Types::Real && setNumber(value); }
+  /// A Real as a plain number; null for any other value.
+  std::unique_ptr<unit::QuantityPresentationBase> createQuantityPresentation() const;
 };
 
 }  // namespace qor::fc::resource::measure

@@ -29,6 +29,25 @@ bool FcValue::setDoubleValue(double value) {
   return setNumber(value);
 }
 
+bool FcValue::hasQuantityPresentation() const {
+  return type() == Types::SimpleValue ? SimpleValue().type() == FcSimpleValue::Types::Real
+                                      : isSet();
+}
+
+std::unique_ptr<unit::QuantityPresentationBase> FcValue::createQuantityPresentation() const {
+  switch (type()) {
+    case Types::DerivedMeasureValue:
+      return DerivedMeasureValue().createQuantityPresentation();
+    case Types::MeasureValue:
+      return MeasureValue().createQuantityPresentation();
+    case Types::SimpleValue:
+      return SimpleValue().createQuantityPresentation();
+    case Types::NotSet:
+      break;
+  }
+  return nullptr;
+}
+
 PropertyValue FcValue::getAsPropertyValue() const {
   if (const auto number = valueAsDoubleGet()) return *number;
   if (isBoolean()) return SimpleValue().Boolean().value();

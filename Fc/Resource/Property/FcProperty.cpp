@@ -2,6 +2,7 @@
 
 #include "Fc/Core/Kernel/FcPropertySet.h"
 #include "Fc/Data.h"
+#include "Fc/Resource/Measure/MeasureQuantities.h"
 #include "Fc/Resource/Property/FcComplexProperty.h"
 
 namespace qor::fc::resource::property {
@@ -19,6 +20,19 @@ void FcProperty::deleteProperty(Data& data, bool deleteEmptySets) {
 std::optional<std::string> FcProperty::getPropertySetName() const {
   const auto set = PartOfPset().lockFirst();
   return set ? set->Name() : std::nullopt;
+}
+
+std::unique_ptr<unit::QuantityPresentationBase> FcProperty::createQuantityPresentationFor(
+    const std::string& attribute, const measure::FcValue& value,
+    const std::optional<std::string>& unitOverride) const {
+  const std::string set = getPropertySetName().value_or("");
+  auto presentation =
+      measure::withSettingsOfProperty(value.createQuantityPresentation(), set, Name());
+  // One attribute alone may be shown in its own way.
+  presentation =
+      measure::withSettingsOfProperty(std::move(presentation), set, Name() + "." + attribute);
+  if (presentation && unitOverride) presentation->showIn(*unitOverride);
+  return presentation;
 }
 
 }  // namespace qor::fc::resource::property

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 
+#include "Fc/Resource/Measure/FcValue.h"
 #include "Fc/Resource/Property/FcPropertyAttributes.h"
+#include "Qor/Unit/QuantityPresentationBase.h"
 
 namespace qor::fc {
 class Data;
@@ -21,6 +24,15 @@ class QOR_API FcProperty : public FcPropertyAttributes {
   void deleteProperty(Data& data, bool deleteEmptySets);
   /// The name of the set that holds the property, of one of them where several do; empty for none.
   std::optional<std::string> getPropertySetName() const;
+
+  /// `value`, the value of that attribute of this property ("NominalValue"), ready to be printed.
+  /// It gets the settings that the host made for the property by the names of its set and its own,
+  /// else those of what is measured, and with `unitOverride` the unit of that symbol ("mm"), if it
+  /// is one of the quantity's. Null for values that aren't numbers and, with an assert, for a
+  /// measure that can't be shown with a unit.
+  std::unique_ptr<unit::QuantityPresentationBase> createQuantityPresentationFor(
+      const std::string& attribute, const measure::FcValue& value,
+      const std::optional<std::string>& unitOverride) const;
 
  protected:
   FcProperty() = default;

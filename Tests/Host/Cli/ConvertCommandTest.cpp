@@ -21,6 +21,21 @@ TEST(ConvertCommand, GivesTheSampleBackAsItIsAlsoOntoItself) {
   EXPECT_EQ(readFile(copy), readFile(sampleFile()));
 }
 
+TEST(ConvertCommand, WritesSiUnitsOrThoseOfTheInput) {
+  const ScratchFolder folder;
+  const std::string file = folder.model(
+      "#1=IFCUNITASSIGNMENT((#2));\n#2=IFCSIUNIT(*,.LENGTHUNIT.,.MILLI.,.METRE.);\n"
+      "#3=IFCCARTESIANPOINT((1500.,0.));\n");
+  const std::string out = folder.path("out.ifc");
+  EXPECT_EQ(runTool({"convert", file, out}).code, ExitCode::success);
+  EXPECT_THAT(readFile(out), HasSubstr("#1=IFCUNITASSIGNMENT((#4));\n"));
+  EXPECT_THAT(readFile(out), HasSubstr("#3=IFCCARTESIANPOINT((1.5,0.));\n"));
+  EXPECT_THAT(readFile(out), HasSubstr("#4=IFCSIUNIT(*,.LENGTHUNIT.,$,.METRE.);\n"));
+  EXPECT_EQ(runTool({"convert", file, out, "--keep-units"}).code, ExitCode::success);
+  EXPECT_THAT(readFile(out), HasSubstr("#1=IFCUNITASSIGNMENT((#2));\n"));
+  EXPECT_THAT(readFile(out), HasSubstr("#3=IFCCARTESIANPOINT((1500.,0.));\n"));
+}
+
 TEST(ConvertCommand, JsonHasThePromisedKeys) {
   const ScratchFolder folder;
   const std::string file = folder.model("#1=IFCNOSUCH();\n#2=IFCDIRECTION((1.,0.));\n");

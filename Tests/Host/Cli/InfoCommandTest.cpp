@@ -49,8 +49,11 @@ TEST(InfoCommand, JsonHasThePromisedKeys) {
   EXPECT_EQ(json.at("header").at("originatingSystem"), "sample_model");
   EXPECT_EQ(json.at("entities"), 103);
   EXPECT_EQ(json.at("classes").at("IFCWALL"), 6);
-  EXPECT_EQ(json.at("units").at(1),
-            nlohmann::json({{"assignment", 2}, {"type", "AREAUNIT"}, {"unit", "square metre"}}));
+  EXPECT_EQ(json.at("units").at(1), nlohmann::json({{"assignment", 2},
+                                                    {"type", "AREAUNIT"},
+                                                    {"unit", "square metre"},
+                                                    {"factor", 1.0},
+                                                    {"offset", 0.0}}));
   EXPECT_EQ(json.at("problems"), nlohmann::json::array());
 }
 
@@ -79,6 +82,13 @@ TEST(InfoCommand, SaysUnitsInWords) {
   const nlohmann::json json = runTool({"info", file, "--json"}).json();
   for (const auto& unit : json.at("units"))
     words.push_back(unit.at("type").get<std::string>() + ": " + unit.at("unit").get<std::string>());
+  EXPECT_EQ(json.at("units").at(1).at("factor"), 1e-4);
+  EXPECT_EQ(json.at("units").at(6).at("offset"), 273.15);
+  EXPECT_TRUE(json.at("units").at(7).at("factor").is_null());
+  const ToolRun run = runTool({"info", file});
+  EXPECT_THAT(run.out, HasSubstr("LENGTHUNIT: millimetre, factor 0.001\n"));
+  EXPECT_THAT(run.out, HasSubstr("degree Celsius, factor 1, offset 273.15\n"));
+  EXPECT_THAT(run.out, HasSubstr("MONETARYUNIT: EUR\n"));
   EXPECT_THAT(words, ElementsAre("LENGTHUNIT: millimetre", "AREAUNIT: square centimetre",
                                  "PLANEANGLEUNIT: DEGREE = 0.0174532925199433 radian",
                                  "glow: degree Celsius per square millimetre", "MONETARYUNIT: EUR",

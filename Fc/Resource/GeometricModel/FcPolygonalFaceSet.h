@@ -1,0 +1,52 @@
+#pragma once
+
+#include <functional>
+#include <utility>
+
+#include "Fc/Resource/GeometricModel/FaceSetWithMaterial.h"
+#include "Fc/Resource/GeometricModel/FcPolygonalFaceSetAttributes.h"
+
+namespace qor::fc::resource::presentationappearance {
+class FcIndexedPolygonalTextureMap;
+}
+
+namespace qor::fc::resource::geometricmodel {
+
+/// IfcPolygonalFaceSet, Resource.Geometric Model: flat polygons with holes over one list of points.
+///
+/// Positions in the model begin at 1 and go through `PnIndex` where it has entries; indices of what
+/// is drawn begin at 0. Each fault is reported, and the smallest piece that holds it is left out.
+/// All is linear in points, corners and colours.
+class QOR_API FcPolygonalFaceSet : public FcPolygonalFaceSetAttributes {
+ public:
+  using Polygon = std::vector<std::vector<math::Point3d>>;
+  using TextureMap = presentationappearance::FcIndexedPolygonalTextureMap;
+
+  /// One set for each colour, with its material, where there is a colour map and the target takes
+  /// materials; otherwise all in one.
+  void draw(const FcDrawParams& params) const override;
+  /// A mirror turns the corners of each face round, so that it keeps facing outward; places on
+  /// textures follow.
+  void transform(const math::Matrix& matrix) override;
+  std::optional<std::vector<generate::draw::TextureCoordinate>> getTextureCoordinates()
+      const override;
+
+  /// All faces in one set. Empty without points.
+  std::optional<generate::draw::PolygonalFaceSetOpenGL> createQorPolygonalFaceSet() const;
+  /// A set for each colour that faces have, in the order of the colours, each with the points that
+  /// it uses. All in one, without a material, when there is no colour map or it doesn't fit.
+  std::vector<FaceSetWithMaterial> createFaceSetsWithMaterials() const;
+  /// Calls back for each face in order: its outer ring, then its holes. A face with a corner that
+  /// can't be found is passed over. The rings live as long as the call.
+  void forEachPolygon(const std::function<void(const Polygon&)>& callback) const;
+
+  /// A new set, in no model, and the map with its texture coordinates, null when it has none.
+  static std::pair<std::shared_ptr<FcPolygonalFaceSet>, std::shared_ptr<TextureMap>>
+  fromQorPolygonalFaceSet(const generate::draw::PolygonalFaceSetOpenGL& faceSet);
+
+ private:
+  std::optional<std::vector<FaceSetWithMaterial>> splitByColour(
+      const presentationappearance::FcIndexedColourMap& map) const;
+};
+
+}  // namespace qor::fc::resource::geometricmodel

@@ -1,0 +1,85 @@
+#include "Fc/Resource/GeometricModel/FcTessellatedFaceSet.h"
+
+#include <utility>
+
+#include "Fc/FcDrawParams.h"
+#include "Fc/Reflection/MakeEntity.h"
+#include "Fc/Resource/GeometricModel/FcCartesianPointList3D.h"
+#include "Fc/Resource/PresentationAppearance/FcColourRgbList.h"
+#include "Fc/Resource/PresentationAppearance/FcIndexedColourMap.h"
+#include "Fc/Resource/Report.h"
+#include "Qor/Draw/DrawInterface.h"
+
+namespace qor::fc::resource::geometricmodel {
+
+using generate::draw::Color;
+using generate::draw::Material;
+using presentationappearance::FcIndexedColourMap;
+
+std::optional<math::Extent> FcTessellatedFaceSet::boundingBox(const FcParams& /*params*/) const {
+  constexpr const char* function =
+      "qor::fc::resource::geometricmodel::FcTessellatedFaceSet::boundingBox";
+  if (!m_Coordinates) {
+    report("Assertion failed in FcTessellatedFaceSet::boundingBox: expect to have Coordinates()",
+           function, __LINE__);
+    return std::nullopt;
+  }
+  math::Extent box;
+  for (const auto& coordinate : m_Coordinates->CoordList())
+    box.include({coordinate[0], coordinate[1], coordinate[2]});
+  if (box.isValid()) return box;
+  report("in FcTessellatedFaceSet::boundingBox: could not create valid extent from *Coordinates()",
+         function, __LINE__);
+  return std::nullopt;
+}
+
+std::optional<std::vector<generate::draw::TextureCoordinate>>
+FcTessellatedFaceSet::getTextureCoordinates() const {
+  return std::nullopt;
+}
+
+bool FcTessellatedFaceSet::hasCoordinates() const {
+  return m_Coordinates && !m_Coordinates->CoordList().empty();
+}
+
+std::vector<math::Point3d> FcTessellatedFaceSet::points() const {
+  std::vector<math::Point3d> result;
+  result.reserve(m_Coordinates->CoordList().size());
+  for (const auto& coordinate : m_Coordinates->CoordList())
+    result.emplace_back(coordinate[0], coordinate[1], coordinate[2]);
+  return result;
+}
+
+std::shared_ptr<FcCartesianPointList3D> FcTessellatedFaceSet::pointList(
+    const std::vector<math::Point3d>& points) {
+  std::vector<std::array<measure::FcLengthMeasure, 3>> coordinates;
+  coordinates.reserve(points.size());
+  for (const math::Point3d& point : points) coordinates.push_back({point.x, point.y, point.z});
+  auto list = makeEntity<FcCartesianPointList3D>();
+  list->setCoordList(std::move(coordinates));
+  return list;
+}
+
+std::shared_ptr<FcIndexedColourMap> FcTessellatedFaceSet::usableColourMap() const {
+  std::shared_ptr<FcIndexedColourMap> map = m_HasColours.lock();
+  const bool usable =
+      map && map->Colours() && !map->Colours()->ColourList().empty() && hasCoordinates();
+  return usable ? map : nullptr;
+}
+
+std::shared_ptr<Material> FcTessellatedFaceSet::materialOfColour(const FcIndexedColourMap& map,
+                                                                 std::size_t colour) {
+  const auto& rgb = map.Colours()->ColourList()[colour];
+  auto material = std::make_shared<Material>();
+  material->setSurfaceColor(Color(static_cast<float>(rgb[0].value()),
+                                  static_cast<float>(rgb[1].value()),
+                                  static_cast<float>(rgb[2].value())));
+  return material;
+}
+
+generate::draw::DrawInterface* FcTessellatedFaceSet::materialTarget(const FcDrawParams& params) {
+  FcDrawInterface& target = params;
+  return dynamic_cast<generate::draw::DrawInterface*>(&target);
+}
+
+}  // namespace qor::fc::resource::geometricmodel

@@ -1,0 +1,245 @@
+#include "Fc/Resource/GeometricModel/FcTriangulatedFaceSet.h"
+
+#include <algorithm>
+
+#include "Fc/FcDrawParams.h"
+#include "Fc/Reflection/MakeEntity.h"
+#include "Fc/Resource/GeometricModel/ColourSplit.h"
+#include "Fc/Resource/GeometricModel/CoordinatePositions.h"
+#include "Fc/Resource/GeometricModel/FcCartesianPointList3D.h"
+#include "Fc/Resource/GeometricModel/TextureCoordinates.h"
+#include "Fc/Resource/PresentationAppearance/FcColourRgbList.h"
+#include "Fc/Resource/PresentationAppearance/FcIndexedColourMap.h"
+#include "Fc/Resource/PresentationAppearance/FcIndexedTriangleTextureMap.h"
+#include "Fc/Resource/PresentationAppearance/FcTextureVertexList.h"
+#include "Fc/Resource/Report.h"
+#include "Qor/Draw/DrawInterface.h"
+
+namespace qor::fc::resource::geometricmodel {
+
+using generate::draw::PolygonalFaceSetOpenGL;
+using generate::draw::TextureCoordinate;
+using generate::draw::TriangulatedFaceSetOpenGL;
+using math::Point3d;
+using math::Vector3d;
+using measure::FcPositiveInteger;
+using presentationappearance::FcIndexedColourMap;
+using presentationappearance::FcIndexedTriangleTextureMap;
+
+using Triangle = TriangulatedFaceSetOpenGL::Triangle;
+using ModelTriangle = std::array<FcPositiveInteger, 3>;
+
+namespace {
+
+constexpr const char* createFunction =
+    "qor::fc::resource::geometricmodel::FcTriangulatedFaceSet::createQorTriangulatedFaceSet";
+constexpr const char* splitFunction =
+    "qor::fc::resource::geometricmodel::FcTriangulatedFaceSet::createFaceSetsWithMaterials";
+constexpr const char* fromFunction =
+    "qor::fc::resource::geometricmodel::FcTriangulatedFaceSet::fromQorPolygonalFaceSet";
+
+/// False, with an assert, when a corner can't be found.
+bool mapTriangle(const ModelTriangle& triangle, const CoordinatePositions& positions,
+                 const char* illegalIndex, const char* function, Triangle& out) {
+  out = {positions(triangle[0]), positions(triangle[1]), positions(triangle[2])};
+  const std::uint32_t highest = std::max({out[0], out[1], out[2]});
+  if (highest < CoordinatePositions::outsideCoordinates) return true;
+  report(highest == CoordinatePositions::outsidePnIndex ? "Index pn index mismatch" : illegalIndex,
+         function, __LINE__);
+  return false;
+}
+
+ModelTriangle modelTriangle(std::uint32_t a, std::uint32_t b, std::uint32_t c) {
+  return {std::int64_t{a} + 1, std::int64_t{b} + 1, std::int64_t{c} + 1};
+}
+
+bool isTriangle(const PolygonalFaceSetOpenGL::Face& face) {
+  return face.outer.size() == 3 && face.holes.empty();
+}
+
+template <class Triangles>
+void turnRound(Triangles& triangles) {
+  for (auto& triangle : triangles) std::reverse(triangle.begin(), triangle.end());
+}
+
+}  // namespace
+
+void FcTriangulatedFaceSet::draw(const FcDrawParams& params) const {
+  generate::draw::DrawInterface* target = materialTarget(params);
+  if (!target) {
+    if (auto faceSet = createQorTriangulatedFaceSet())
+      params->triangulatedFaceSet(std::move(*faceSet));
+    return;
+  }
+  for (TriangulatedFaceSetWithMaterial& part : createFaceSetsWithMaterials()) {
+    if (part.material) target->setMaterial(std::move(part.material));
+    params->triangulatedFaceSet(std::move(part.faceSet));
+  }
+}
+
+std::optional<TriangulatedFaceSetOpenGL> FcTriangulatedFaceSet::createQorTriangulatedFaceSet()
+    const {
+  if (!hasCoordinates()) {
+    report("Expect Coordinates() to be set.", createFunction, __LINE__);
+    return std::nullopt;
+  }
+  TriangulatedFaceSetOpenGL result;
+  result.setVertexData(points(), getNormals(), getTextureCoordinates());
+  result.triangles.reserve(m_CoordIndex.size());
+  const CoordinatePositions positions(m_PnIndex, result.coordinates().size());
+  Triangle mapped;
+  for (const ModelTriangle& triangle : m_CoordIndex)
+    if (mapTriangle(triangle, positions, "Illegal index in face", createFunction, mapped))
+      result.triangles.push_back(mapped);
+  return result;
+}
+
+std::vector<TriangulatedFaceSetWithMaterial> FcTriangulatedFaceSet::createFaceSetsWithMaterials()
+    const {
+  if (const auto map = usableColourMap())
+    if (auto parts = splitByColour(*map)) return std::move(*parts);
+
+  std::vector<TriangulatedFaceSetWithMaterial> result;
+  if (auto all = createQorTriangulatedFaceSet()) result.push_back({std::move(*all), nullptr});
+  return result;
+}
+
+std::optional<std::vector<TriangulatedFaceSetWithMaterial>> FcTriangulatedFaceSet::splitByColour(
+    const FcIndexedColourMap& map) const {
+  if (map.ColourIndex().size() != m_CoordIndex.size()) {
+    report("Mismatch between number of faces in TriangulatedFaceSetOpenGL and IndexedColourMap",
+           splitFunction, __LINE__);
+    return std::nullopt;
+  }
+  // As one set first: it checks that there is a normal for each point.
+  generate::draw::VertexData all;
+  all.setVertexData(points(), getNormals());
+  const std::size_t colourCount = map.Colours()->ColourList().size();
+  const CoordinatePositions positions(m_PnIndex, all.coordinates().size());
+  std::vector<Triangle> triangles(m_CoordIndex.size());
+  std::vector<std::uint32_t> colours(m_CoordIndex.size(), ~std::uint32_t{0});
+  for (std::size_t k = 0; k < m_CoordIndex.size(); ++k) {
+    const std::uint64_t colour = static_cast<std::uint64_t>(map.ColourIndex()[k].value()) - 1;
+    if (colour >= colourCount) {
+      report("Invalid colour index in FcIndexedColourMap.", splitFunction, __LINE__);
+      return std::nullopt;
+    }
+    if (mapTriangle(m_CoordIndex[k], positions, "Invalid index in FcTriangulatedFaceSet",
+                    splitFunction, triangles[k]))
+      colours[k] = static_cast<std::uint32_t>(colour);
+  }
+
+  std::vector<TriangulatedFaceSetWithMaterial> result;
+  const FacesByColour byColour(colours, colourCount);
+  CoordinateSubset subset(all.coordinates().size());
+  for (std::size_t colour = 0; colour < colourCount; ++colour) {
+    if (byColour.faces(colour).empty()) continue;
+    TriangulatedFaceSetOpenGL part;
+    part.triangles.reserve(byColour.faces(colour).size());
+    subset.begin();
+    for (const std::uint32_t k : byColour.faces(colour)) {
+      Triangle& triangle = part.triangles.emplace_back(triangles[k]);
+      for (std::uint32_t& index : triangle) index = subset.number(index);
+    }
+    part.setVertexData(subset.of(all.coordinates()), subset.of(all.normals()));
+    result.push_back({std::move(part), materialOfColour(map, colour)});
+  }
+  return result;
+}
+
+std::optional<std::vector<Vector3d>> FcTriangulatedFaceSet::getNormals() const {
+  if (!m_Normals) return std::nullopt;
+  std::vector<Vector3d> normals;
+  normals.reserve(m_Normals->size());
+  for (const auto& normal : *m_Normals) normals.emplace_back(normal[0], normal[1], normal[2]);
+  return normals;
+}
+
+std::optional<std::vector<TextureCoordinate>> FcTriangulatedFaceSet::getTextureCoordinates() const {
+  if (!m_Coordinates) return std::nullopt;
+  const auto map = fcCast<FcIndexedTriangleTextureMap>(m_HasTextures.lockFirst());
+  if (!map || !map->TexCoords()) return std::nullopt;
+  const std::size_t vertexCount = m_Coordinates->CoordList().size();
+  return textureCoordinatesByVertex(*map, m_CoordIndex, CoordinatePositions(m_PnIndex, vertexCount),
+                                    vertexCount);
+}
+
+FcTriangulatedFaceSet::WithTextureMap FcTriangulatedFaceSet::modelSet(
+    const std::vector<Point3d>& points, std::vector<ModelTriangle> triangles,
+    const std::optional<std::vector<TextureCoordinate>>& textureCoordinates) {
+  auto result = makeEntity<FcTriangulatedFaceSet>();
+  result->setCoordinates(pointList(points));
+  result->setCoordIndex(std::move(triangles));
+
+  std::shared_ptr<FcIndexedTriangleTextureMap> map;
+  if (textureCoordinates) {
+    map = makeEntity<FcIndexedTriangleTextureMap>();
+    map->setTexCoords(textureVertexList(*textureCoordinates));
+    map->setTexCoordIndex(result->CoordIndex());
+    map->setMappedTo(result);
+  }
+  return {std::move(result), std::move(map)};
+}
+
+FcTriangulatedFaceSet::WithTextureMap FcTriangulatedFaceSet::fromQorPolygonalFaceSet(
+    const TriangulatedFaceSetOpenGL& faceSet) {
+  std::vector<ModelTriangle> triangles;
+  triangles.reserve(faceSet.triangles.size());
+  for (const Triangle& triangle : faceSet.triangles)
+    triangles.push_back(modelTriangle(triangle[0], triangle[1], triangle[2]));
+  WithTextureMap result =
+      modelSet(faceSet.coordinates(), std::move(triangles), faceSet.textureCoordinates());
+  if (faceSet.normals()) {
+    std::vector<std::array<measure::FcParameterValue, 3>> normals;
+    normals.reserve(faceSet.normals()->size());
+    for (const Vector3d& normal : *faceSet.normals())
+      normals.push_back({normal.x, normal.y, normal.z});
+    result.first->setNormals(std::move(normals));
+  }
+  return result;
+}
+
+FcTriangulatedFaceSet::WithTextureMap FcTriangulatedFaceSet::fromQorPolygonalFaceSet(
+    const PolygonalFaceSetOpenGL& faceSet) {
+  std::vector<ModelTriangle> triangles;
+  triangles.reserve(faceSet.faces.size());
+  for (const PolygonalFaceSetOpenGL::Face& face : faceSet.faces) {
+    if (isTriangle(face))
+      triangles.push_back(modelTriangle(face.outer[0], face.outer[1], face.outer[2]));
+    else
+      report("There is a face which is no triangle", fromFunction, __LINE__);
+  }
+  return modelSet(faceSet.coordinates, std::move(triangles), faceSet.textureCoordinates);
+}
+
+bool FcTriangulatedFaceSet::containsTriangularFace(const PolygonalFaceSetOpenGL& faceSet) {
+  return std::any_of(faceSet.faces.begin(), faceSet.faces.end(), isTriangle);
+}
+
+void FcTriangulatedFaceSet::transform(const math::Matrix& matrix) {
+  if (!m_Coordinates) {
+    report("Expect Coordinates() to be set.",
+           "qor::fc::resource::geometricmodel::FcTriangulatedFaceSet::transform", __LINE__);
+    return;
+  }
+  m_Coordinates->transform(matrix);
+  if (m_Normals) {
+    // Normals move by the transposed inverse.
+    const math::Matrix inverse = matrix.inverse();
+    for (auto& normal : *m_Normals) {
+      const Vector3d old(normal[0], normal[1], normal[2]);
+      const Vector3d moved =
+          Vector3d(old.dot(inverse.x()), old.dot(inverse.y()), old.dot(inverse.z())).normalized();
+      normal = {moved.x, moved.y, moved.z};
+    }
+  }
+  if (!matrix.isMirror()) return;
+  turnRound(m_CoordIndex);
+  const auto map = fcCast<FcIndexedTriangleTextureMap>(m_HasTextures.lockFirst());
+  if (!map || !map->TexCoordIndex()) return;
+  auto places = *map->TexCoordIndex();
+  turnRound(places);
+  map->setTexCoordIndex(std::move(places));
+}
+
+}  // namespace qor::fc::resource::geometricmodel

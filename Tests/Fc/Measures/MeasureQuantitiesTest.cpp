@@ -1,0 +1,177 @@
+#include "Fc/Resource/Measure/MeasureQuantities.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "Fc/Resource/Measure/FcValue.h"
+#include "Fc/Utilities/UnitHelper.h"
+#include "Qor/Unit/Quantities.h"
+#include "Tests/Support/ExpectAsserts.h"
+
+namespace qor::fc::resource::measure {
+namespace {
+
+using unit::QuantityPresentation;
+
+struct Row {
+  const char* measure;
+  int id;
+  unit::Dimensions dimensions;
+  const char* shown;  // 2.5
+};
+
+const Row rows[] = {
+    {"AreaMeasure", 2, {2, 0, 0, 0, 0, 0, 0}, "2.500 m²"},
+    {"CountMeasure", 6, {0, 0, 0, 0, 0, 0, 0}, "2.5"},
+    {"ElectricCurrentMeasure", 46, {0, 0, 0, 1, 0, 0, 0}, "2.5 A"},
+    {"LengthMeasure", 1, {1, 0, 0, 0, 0, 0, 0}, "2.500 m"},
+    {"NonNegativeLengthMeasure", 1, {1, 0, 0, 0, 0, 0, 0}, "2.500 m"},
+    {"PositiveLengthMeasure", 1, {1, 0, 0, 0, 0, 0, 0}, "2.500 m"},
+    {"MassMeasure", 39, {0, 1, 0, 0, 0, 0, 0}, "2.500 kg"},
+    {"NormalisedRatioMeasure", 8, {0, 0, 0, 0, 0, 0, 0}, "2.5"},
+    {"PositiveRatioMeasure", 8, {0, 0, 0, 0, 0, 0, 0}, "2.5"},
+    {"RatioMeasure", 8, {0, 0, 0, 0, 0, 0, 0}, "2.5"},
+    {"PlaneAngleMeasure", 5, {0, 0, 0, 0, 0, 0, 0}, "143.24°"},
+    {"PositivePlaneAngleMeasure", 5, {0, 0, 0, 0, 0, 0, 0}, "143.24°"},
+    {"ThermodynamicTemperatureMeasure", 9, {0, 0, 0, 0, 1, 0, 0}, "2.50 K"},
+    {"TimeMeasure", 0, {0, 0, 1, 0, 0, 0, 0}, "2.5 s"},
+    {"VolumeMeasure", 3, {3, 0, 0, 0, 0, 0, 0}, "2.500 m³"},
+    {"AbsorbedDoseMeasure", 51, {2, 0, -2, 0, 0, 0, 0}, "2.5 Gy"},
+    {"CurvatureMeasure", 47, {-1, 0, 0, 0, 0, 0, 0}, "2.5 1/m"},
+    {"ElectricResistanceMeasure", 45, {2, 1, -3, -2, 0, 0, 0}, "2.5 Ω"},
+    {"ElectricVoltageMeasure", 44, {2, 1, -3, -1, 0, 0, 0}, "2.5 V"},
+    {"ForceMeasure", 34, {1, 1, -2, 0, 0, 0, 0}, "2.5 N"},
+    {"FrequencyMeasure", 48, {0, 0, -1, 0, 0, 0, 0}, "2.5 Hz"},
+    {"IlluminanceMeasure", 43, {-2, 0, 0, 0, 0, 0, 1}, "2.5 lx"},
+    {"LinearForceMeasure", 35, {0, 1, -2, 0, 0, 0, 0}, "2.5 N/m"},
+    {"LinearMomentMeasure", 36, {1, 1, -2, 0, 0, 0, 0}, "2.5 N·m/m"},
+    {"LinearVelocityMeasure", 4, {1, 0, -1, 0, 0, 0, 0}, "2.500 m/s"},
+    {"LuminousFluxMeasure", 41, {0, 0, 0, 0, 0, 0, 1}, "2.5 lm"},
+    {"MassDensityMeasure", 21, {-3, 1, 0, 0, 0, 0, 0}, "2.500 kg/m³"},
+    {"MassFlowRateMeasure", 31, {0, 1, -1, 0, 0, 0, 0}, "2.5 kg/s"},
+    {"MolecularWeightMeasure", 40, {0, 1, 0, 0, 0, -1, 0}, "2.5 kg/mol"},
+    {"PowerMeasure", 11, {2, 1, -3, 0, 0, 0, 0}, "2.5 W"},
+    {"PressureMeasure", 10, {-1, 1, -2, 0, 0, 0, 0}, "2.5 Pa"},
+    {"RotationalFrequencyMeasure", 49, {0, 0, -1, 0, 0, 0, 0}, "2.5 1/s"},
+    {"SpecificHeatCapacityMeasure", 23, {2, 0, -2, 0, -1, 0, 0}, "2.5 J/(kg·K)"},
+    {"ThermalConductivityMeasure", 17, {1, 1, -3, 0, -1, 0, 0}, "2.500 W/(m·K)"},
+    {"ThermalTransmittanceMeasure", 12, {0, 1, -3, 0, -1, 0, 0}, "2.500 W/(m²·K)"},
+    {"TorqueMeasure", 37, {2, 1, -2, 0, 0, 0, 0}, "2.5 N·m"},
+    {"VolumetricFlowRateMeasure", 16, {3, 0, -1, 0, 0, 0, 0}, "2.5 m³/s"},
+    {"WarpingMomentMeasure", 38, {3, 1, -3, 0, 0, 0, 0}, "2.5 N·m²"},
+};
+
+const test::ExpectedAssert notImplemented{
+    "qor::fc::helper::createQuantityPresentationFromValue: Not implemented unit for this",
+    "qor::fc::helper::createQuantityPresentationFromValue", "Utilities/UnitHelper"};
+
+FcValue valueOf(const std::string& type, const std::string& number = "2.5") {
+  FcValue value;
+  EXPECT_TRUE(value.setFromString(type + "(" + number + ")")) << type;
+  return value;
+}
+
+TEST(MeasureQuantities, AreThoseOfTheTable) {
+  const test::ExpectAsserts none;
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.measure);
+    const unit::QuantityBase* quantity = quantityOfMeasure(row.measure);
+    ASSERT_NE(quantity, nullptr);
+    EXPECT_EQ(static_cast<int>(quantity->id()), row.id);
+    EXPECT_EQ(quantity->dimensions(), row.dimensions);
+    EXPECT_EQ(helper::appendUnit(2.5, row.measure), row.shown);
+
+    const auto presentation = valueOf(row.measure).createQuantityPresentation();
+    ASSERT_NE(presentation, nullptr);
+    EXPECT_EQ(&presentation->quantity(), quantity);
+    const bool counts = row.id == 6;  // an integer: nothing behind the point is stored
+    EXPECT_EQ(presentation->number(), counts ? 2 : 2.5);
+    EXPECT_EQ(presentation->toString(), counts ? "2" : row.shown);
+  }
+}
+
+TEST(MeasureQuantities, AreAskedByTypeToo) {
+  const test::ExpectAsserts none;
+  using Measure = FcMeasureValue::Types;
+  using Derived = FcDerivedMeasureValue::Types;
+  EXPECT_EQ(helper::createQuantityPresentationFromValue(3, Measure::VolumeMeasure)->toString(),
+            "3.000 m³");
+  EXPECT_EQ(helper::createQuantityPresentationFromValue(3, Derived::PowerMeasure)->toString(),
+            "3 W");
+  EXPECT_EQ(FcAreaMeasure(4).createQuantityPresentation()->toString(), "4.000 m²");
+  EXPECT_EQ(FcCountMeasure(4).createQuantityPresentation()->toString(), "4");
+}
+
+// What a user interface can tell from the class of a presentation.
+TEST(MeasureQuantities, HaveUnitsOfTheirOwnWhereTheExponentsDontNameThem) {
+  const auto made = [](const char* type) { return valueOf(type).createQuantityPresentation(); };
+  using namespace unit;
+  EXPECT_TRUE((dynamic_cast<QuantityPresentation<SiUnit<0, Force>>*>(made("ForceMeasure").get())));
+  EXPECT_TRUE((dynamic_cast<QuantityPresentation<Unit<0, WarpingMoment>>*>(
+      made("WarpingMomentMeasure").get())));
+  EXPECT_TRUE((dynamic_cast<QuantityPresentation<Unit<0, MolecularWeight>>*>(
+      made("MolecularWeightMeasure").get())));
+  EXPECT_TRUE((dynamic_cast<QuantityPresentation<Unit<0, ElectricVoltage>>*>(
+      made("ElectricVoltageMeasure").get())));
+  EXPECT_TRUE((dynamic_cast<QuantityPresentation<Unit<0, ElectricResistance>>*>(
+      made("ElectricResistanceMeasure").get())));
+  EXPECT_TRUE(
+      (dynamic_cast<QuantityPresentation<Unit<0, Frequency>>*>(made("FrequencyMeasure").get())));
+}
+
+// All measures of the schema but those of the table: nothing, and an assert for each way to ask.
+TEST(MeasureQuantities, AreNoneForAllOtherMeasures) {
+  std::set<std::string> known;
+  for (const Row& row : rows) known.insert(row.measure);
+  std::vector<std::string> names = FcMeasureValue::enumNames();
+  for (const std::string& name : FcDerivedMeasureValue::enumNames()) names.push_back(name);
+  std::size_t others = 0;
+  for (const std::string& name : names) {
+    EXPECT_TRUE(isMeasure("Ifc" + name));
+    if (known.contains(name)) continue;
+    SCOPED_TRACE(name);
+    ++others;
+    const test::ExpectAsserts expected({notImplemented, notImplemented});
+    FcValue value;
+    ASSERT_TRUE(value.setTypeFromString(name));
+    EXPECT_TRUE(value.hasQuantityPresentation());
+    EXPECT_EQ(value.createQuantityPresentation(), nullptr);
+    EXPECT_EQ(helper::appendUnit(2.5, name), std::nullopt);
+    EXPECT_EQ(quantityOfMeasure(name), nullptr);
+  }
+  EXPECT_EQ(others, 56u);
+  const test::ExpectAsserts expected({notImplemented, notImplemented});
+  EXPECT_EQ(FcMeasureValue().createQuantityPresentation(), nullptr);
+  EXPECT_EQ(FcDerivedMeasureValue().createQuantityPresentation(), nullptr);
+}
+
+TEST(Value, OfASimpleTypeIsShownOnlyWhenItIsAReal) {
+  const test::ExpectAsserts none;
+  for (const std::string& name : FcSimpleValue::enumNames()) {
+    SCOPED_TRACE(name);
+    FcValue value;
+    ASSERT_TRUE(value.setTypeFromString(name));
+    EXPECT_EQ(value.hasQuantityPresentation(), name == "Real");
+    EXPECT_EQ(value.createQuantityPresentation() != nullptr, name == "Real");
+    EXPECT_EQ(helper::appendUnit(2.5, name), std::nullopt);
+  }
+  EXPECT_EQ(valueOf("Real", "0.125").createQuantityPresentation()->toString(), "0.125");
+  EXPECT_FALSE(FcValue().hasQuantityPresentation());
+  EXPECT_EQ(FcValue().createQuantityPresentation(), nullptr);
+  for (const char* noType : {"", "MeasureValue", "IfcLengthMeasure", "lengthmeasure"})
+    EXPECT_EQ(helper::appendUnit(2.5, noType), std::nullopt) << noType;
+}
+
+TEST(Value, IsShownAsTheHostsSettingsSay) {
+  unit::QuantityBase& length = unit::QuantityBase::registered<unit::Length>();
+  ASSERT_TRUE(length.setQppDefault({{"ft", 0.3048}, 1}));
+  EXPECT_EQ(helper::appendUnit(3.048, "LengthMeasure"), "10.0 ft");
+  EXPECT_EQ(helper::appendUnit(3.048, "PositiveLengthMeasure"), "10.0 ft");
+  EXPECT_EQ(helper::appendUnit(3.048, "AreaMeasure"), "3.048 m²");
+  length.resetQppDefault();
+  EXPECT_EQ(helper::appendUnit(3.048, "LengthMeasure"), "3.048 m");
+}
+
+}  // namespace
+}  // namespace qor::fc::resource::measure
