@@ -50,8 +50,8 @@ DifferenceTools::Tool DifferenceTools::of(const FcBooleanOperand& operand) const
   if (const auto* bounded = fcCast<FcPolygonalBoundedHalfSpace>(operand.getEntity())) {
     if (m_box && m_box->isValid()) {
       tool.isAway = bounded->isAwayFrom(*m_box);
-      if (!tool.isAway)
-        tool.shapes = bounded->ocRepresentationForClipping(m_box->size().length(), m_params);
+      const double depth = m_box->size().length() + bounded->distanceTo(*m_box);
+      if (!tool.isAway) tool.shapes = bounded->ocRepresentationForClipping(depth, m_params);
     }
   } else if (operand.isHalfSpaceSolid()) {
     const auto halfSpace = operand.HalfSpaceSolidAssert();

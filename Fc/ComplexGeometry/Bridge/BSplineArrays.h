@@ -11,9 +11,9 @@
 
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
 
-// From the lists of a B-spline in the model to the arrays that Open CASCADE takes, which begin at 1.
-// Each throws `std::invalid_argument` for a list that can't be one: empty, ragged, with a point
-// missing.
+// From the lists of a B-spline in the model to the arrays that Open CASCADE takes, which begin
+// at 1. Each throws `std::invalid_argument` for a list that can't be one: empty, ragged, with a
+// point missing.
 namespace qor::fc::bspline {
 
 template <class Points>

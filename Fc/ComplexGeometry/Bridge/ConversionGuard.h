@@ -5,8 +5,8 @@
 
 namespace qor::fc {
 
-/// Ends what would never end: an item that, over maps and operands, is part of itself, and a nesting
-/// too deep for the stack. Lives while an item that holds other items is converted.
+/// Ends what would never end: an item that, over maps and operands, is part of itself, and a
+/// nesting too deep for the stack. Lives while an item that holds other items is converted.
 class ConversionGuard {
  public:
   explicit ConversionGuard(const void* item);

@@ -66,8 +66,8 @@ std::optional<double> trimParameter(const std::vector<FcTrimmingSelect>& trims, 
   return parameter;
 }
 
-// How much of the solid modeller's parameter one unit of the model's is: a line counts in lengths of
-// its vector, the modeller in metres.
+// How much of the solid modeller's parameter one unit of the model's is: a line counts in lengths
+// of its vector, the modeller in metres.
 double parameterLength(const FcCurve& basis) {
   const auto* line = fcCast<FcLine>(&basis);
   return line && line->Dir() ? static_cast<double>(line->Dir()->Magnitude()) : 1;

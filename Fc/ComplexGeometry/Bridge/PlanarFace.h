@@ -11,8 +11,8 @@
 
 namespace qor::fc {
 
-/// The face within `outer` and outside each of `holes`, which may run either way round. Null when no
-/// surface holds the outer wire, or none but a plane where `onlyPlane` asks for one.
+/// The face within `outer` and outside each of `holes`, which may run either way round. Null when
+/// no surface holds the outer wire, or none but a plane where `onlyPlane` asks for one.
 ///
 /// Open CASCADE takes a hole that runs like the outer wire for more material; so each is turned the
 /// other way first. Throws `Standard_Failure`.

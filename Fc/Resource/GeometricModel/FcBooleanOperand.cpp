@@ -80,8 +80,7 @@ std::shared_ptr<FcSolidModel> FcBooleanOperand::SolidModelAssert() const {
 }
 
 std::shared_ptr<FcSweptAreaSolid> FcBooleanOperand::SweptAreaSolidAssert() const {
-  return asserted<FcSweptAreaSolid>(*this, Types::SolidModel,
-                                    "Expect operand to be a solid model.",
+  return asserted<FcSweptAreaSolid>(*this, Types::SolidModel, "Expect operand to be a solid model.",
                                     "Expect to have a valid swept area solid.");
 }
 

@@ -44,8 +44,8 @@ class QOR_API FcBooleanOperand : public FcBooleanOperandAlternatives {
   std::shared_ptr<FcTessellatedFaceSet> TessellatedFaceSetAssert() const;
 
   /// The item of whichever alternative, by the operation above.
-  std::shared_ptr<const geometry::FcGeometricRepresentationItem> asGeometricRepresentationItemAssert()
-      const;
+  std::shared_ptr<const geometry::FcGeometricRepresentationItem>
+  asGeometricRepresentationItemAssert() const;
   std::shared_ptr<geometry::FcGeometricRepresentationItem> asGeometricRepresentationItemNonConst();
 
   /// Those of the item; nothing where there is none.

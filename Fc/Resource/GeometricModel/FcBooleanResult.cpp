@@ -46,9 +46,9 @@ bool hasEnd(const FcBooleanOperand& operand) {
 
 bool operandsFit(const FcBooleanResult& result, const char* operation, bool mayCutWithHalfSpace) {
   return isSupported(hasEnd(result.FirstOperand()), "First", operation) &&
-         isSupported(mayCutWithHalfSpace ? result.SecondOperand().isSet()
-                                         : hasEnd(result.SecondOperand()),
-                     "Second", operation);
+         isSupported(
+             mayCutWithHalfSpace ? result.SecondOperand().isSet() : hasEnd(result.SecondOperand()),
+             "Second", operation);
 }
 
 // The operation by its operator, with what each makes.
@@ -132,8 +132,7 @@ Shapes pairwise(const FcBooleanResult& result, const FcParams& params,
 }  // namespace
 
 void FcBooleanResult::draw(const FcDrawParams& params) const {
-  drawByProcessor(*this, params,
-                  "qor::fc::resource::geometricmodel::FcBooleanResult::draw");
+  drawByProcessor(*this, params, "qor::fc::resource::geometricmodel::FcBooleanResult::draw");
 }
 
 void FcBooleanResult::transform(const math::Matrix& matrix) {

@@ -9,7 +9,8 @@
 
 namespace qor::fc::resource::geometricmodel {
 
-/// IfcBooleanResult, Resource.Geometric Model: the difference, intersection or union of two operands.
+/// IfcBooleanResult, Resource.Geometric Model: the difference, intersection or union of two
+/// operands.
 ///
 /// A half-space is an operand only where it is cut with. Circles are cut into fewer segments than
 /// elsewhere, at most 20, since each face of an operand costs.

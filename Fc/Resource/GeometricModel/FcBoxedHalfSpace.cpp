@@ -9,7 +9,8 @@ namespace qor::fc::resource::geometricmodel {
 void FcBoxedHalfSpace::transform(const math::Matrix& matrix) {
   if (!BaseSurface() || !Enclosure()) {
     report(
-        "Assertion failed in FcBoxedHalfSpace::transform: expect both, BaseSurface and Enclosure to "
+        "Assertion failed in FcBoxedHalfSpace::transform: expect both, BaseSurface and Enclosure "
+        "to "
         "be given",
         "qor::fc::resource::geometricmodel::FcBoxedHalfSpace::transform", __LINE__);
     return;

@@ -41,10 +41,10 @@ TopoDS_Solid ocHalfSpaceSolid(const math::Point3d& point, const math::Vector3d& 
 TopoDS_Shape prism(const math::Matrix& frame, const math::Extent& box, double margin) {
   const math::Point3d low = box.minimum(), high = box.maximum();
   BRepBuilderAPI_MakePolygon ring;
-  for (const math::Point2d& corner :
-       {math::Point2d(low.x - margin, low.y - margin), math::Point2d(high.x + margin, low.y - margin),
-        math::Point2d(high.x + margin, high.y + margin),
-        math::Point2d(low.x - margin, high.y + margin)})
+  for (const math::Point2d& corner : {math::Point2d(low.x - margin, low.y - margin),
+                                      math::Point2d(high.x + margin, low.y - margin),
+                                      math::Point2d(high.x + margin, high.y + margin),
+                                      math::Point2d(low.x - margin, high.y + margin)})
     ring.Add(toOpenCascade(frame.transform(corner)));
   ring.Close();
   const BRepBuilderAPI_MakeFace face(gp_Pln(toOpenCascadeFrame(frame)), ring.Wire(), true);
@@ -107,6 +107,11 @@ std::optional<math::Matrix> FcHalfSpaceSolid::materialFrame() const {
 bool FcHalfSpaceSolid::isAwayFrom(const math::Extent& box) const {
   const auto frame = materialFrame();
   return frame && boxIn(*frame, box).maximum().z <= math::Epsilon::current().length;
+}
+
+double FcHalfSpaceSolid::distanceTo(const math::Extent& box) const {
+  const auto frame = materialFrame();
+  return frame ? std::max(0.0, boxIn(*frame, box).minimum().z) : 0;
 }
 
 TopoDS_Shape FcHalfSpaceSolid::prismOver(const math::Extent& box) const {

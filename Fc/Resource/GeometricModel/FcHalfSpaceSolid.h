@@ -17,8 +17,8 @@ namespace qor::fc::resource::geometricmodel {
 class QOR_API FcHalfSpaceSolid : public FcHalfSpaceSolidAttributes {
  public:
   struct OcRepresentationData {
-    math::Point3d point;     ///< on the plane
-    math::Vector3d vector;   ///< of length 1, into the material
+    math::Point3d point;    ///< on the plane
+    math::Vector3d vector;  ///< of length 1, into the material
   };
 
   /// Has none: it has no end.
@@ -38,6 +38,9 @@ class QOR_API FcHalfSpaceSolid : public FcHalfSpaceSolidAttributes {
   /// No point of the box is further into the material than the length tolerance: there is nothing
   /// to cut. False without a plane with a position.
   bool isAwayFrom(const math::Extent& box) const;
+  /// How far into the material the nearest point of the box lies, in metres; 0 for a box that the
+  /// plane goes through, and without a plane with a position.
+  double distanceTo(const math::Extent& box) const;
 
  protected:
   /// A missing position is reported and taken to be the identity; empty, with an assert, when the

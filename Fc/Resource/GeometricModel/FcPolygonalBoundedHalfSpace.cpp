@@ -50,9 +50,9 @@ void FcPolygonalBoundedHalfSpace::transform(const math::Matrix& matrix) {
 
 std::vector<TopoDS_Shape> FcPolygonalBoundedHalfSpace::ocRepresentation(
     const FcParams& /*params*/) const {
-  assertNotImplemented("ocRepresentation(const qor::fc::FcParams&) not implemented for class: ",
-                       *this,
-                       "resource::geometricmodel::FcPolygonalBoundedHalfSpace::ocRepresentation");
+  assertNotImplemented(
+      "ocRepresentation(const qor::fc::FcParams&) not implemented for class: ", *this,
+      "resource::geometricmodel::FcPolygonalBoundedHalfSpace::ocRepresentation");
   return {};
 }
 
@@ -73,9 +73,8 @@ std::vector<TopoDS_Shape> FcPolygonalBoundedHalfSpace::ocRepresentationForClippi
 
 math::Matrix FcPolygonalBoundedHalfSpace::validPosition() const {
   if (Position()) return Position()->placementGet();
-  report(
-      "Position() of polygonal boundary is not set. Will assume standard coordinate system now.",
-      "qor::fc::resource::geometricmodel::FcPolygonalBoundedHalfSpace::validPosition", __LINE__);
+  report("Position() of polygonal boundary is not set. Will assume standard coordinate system now.",
+         "qor::fc::resource::geometricmodel::FcPolygonalBoundedHalfSpace::validPosition", __LINE__);
   return {};
 }
 

@@ -6,7 +6,8 @@
 namespace qor::fc::resource::geometry {
 
 /// IfcRationalBSplineSurfaceWithKnots, Resource.Geometry.
-class QOR_API FcRationalBSplineSurfaceWithKnots : public FcRationalBSplineSurfaceWithKnotsAttributes {
+class QOR_API FcRationalBSplineSurfaceWithKnots
+    : public FcRationalBSplineSurfaceWithKnotsAttributes {
  public:
   OcSurface ocSurface(ocMemoizer& memoizer) const override;
 };

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "Fc/ComplexGeometry/DrawByProcessor.h"
 #include "Fc/FcDrawParams.h"
 #include "Fc/Resource/BoxUnion.h"
 #include "Fc/Resource/Report.h"
@@ -21,8 +22,7 @@ void FcConnectedFaceSet::draw(const FcDrawParams& params) const {
   if (auto faceSet = generatePolygonalFaceSet())
     params->polygonalFaceSet(std::move(*faceSet));
   else
-    report("No FcComplexGeometryProcessorInterface implementation set.",
-           "qor::fc::resource::topology::FcConnectedFaceSet::draw", __LINE__);
+    drawByProcessor(*this, params, "qor::fc::resource::topology::FcConnectedFaceSet::draw");
 }
 
 void FcConnectedFaceSet::transform(const math::Matrix& matrix) {
