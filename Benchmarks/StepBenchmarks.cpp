@@ -11,10 +11,7 @@
 #include <string>
 #include <vector>
 
-#if defined(__GLIBC__)
-#include <malloc.h>
-#endif
-
+#include "Benchmarks/HeapInUse.h"
 #include "Benchmarks/RepeatedModel.h"
 #include "Host/StepFile/Scanner.h"
 #include "Host/StepFile/StepReader.h"
@@ -22,15 +19,6 @@
 
 namespace qor::host::step {
 namespace {
-
-std::size_t heapInUse() {
-#if defined(__GLIBC__)
-  const struct mallinfo2 info = mallinfo2();
-  return info.uordblks + info.hblkhd;
-#else
-  return 0;
-#endif
-}
 
 std::string contentOf(const std::filesystem::path& path) {
   std::ifstream in(path, std::ios::binary);

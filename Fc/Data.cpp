@@ -183,10 +183,11 @@ Data::Range Data::rangeFromId(std::uint32_t first, std::uint32_t last) {
   return rangeIn(m_entities, first, last);
 }
 
-// The sort isn't stable: entities of one class may change places from run to run.
+// Entities of one class keep the order in which they were added, so that a model is always written
+// with the same numbers.
 void Data::sortEntities() const {
   if (m_sorted) return;
-  std::sort(std::execution::par, m_entities.begin(), m_entities.end(), ById());
+  std::stable_sort(std::execution::par, m_entities.begin(), m_entities.end(), ById());
   m_sorted = true;
 }
 

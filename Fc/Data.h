@@ -103,7 +103,7 @@ class QOR_API Data : public std::enable_shared_from_this<Data> {
   /// the old one.
   std::shared_ptr<core::kernel::FcRoot> entityByGuid(const Guid& guid) const;
 
-  /// All entities, sorted by class.
+  /// All entities, sorted by class; those of one class in the order in which they were added.
   std::span<const std::shared_ptr<FcBase>> allEntities() const;
 
  protected:

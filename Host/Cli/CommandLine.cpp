@@ -14,6 +14,7 @@
 #include "Host/Cli/InfoCommand.h"
 #include "Host/Cli/LoadModel.h"
 #include "Host/Cli/PrintableText.h"
+#include "Host/Cli/PropertiesCommand.h"
 #include "Host/Cli/TreeCommand.h"
 
 namespace qor::host::cli {
@@ -30,6 +31,7 @@ class CommandLine {
     addInfo();
     addTree();
     addGet();
+    addProperties();
     addConvert();
   }
   CommandLine(const CommandLine&) = delete;  // the parser points at the options
@@ -73,6 +75,13 @@ class CommandLine {
     key.add_option("--id", m_get.id, "Its number in the file, 12 for #12");
     key.require_option(1);
   }
+  void addProperties() {
+    CLI::App& command =
+        add("properties", "Property sets and quantities, merged with those of types", m_properties,
+            runProperties);
+    command.add_option("FILE", m_properties.file, "The STEP file")->required();
+    command.add_option("--guid", m_properties.guid, "Of this object or type alone");
+  }
   void addConvert() {
     CLI::App& command = add("convert", "Read a file and write it as IFC4X3_ADD2, in SI units",
                             m_convert, runConvert);
@@ -95,6 +104,7 @@ class CommandLine {
   InfoOptions m_info;
   TreeOptions m_tree;
   GetOptions m_get;
+  PropertiesOptions m_properties;
   ConvertOptions m_convert;
   std::function<ExitCode(Console&)> m_command;
 };

@@ -12,6 +12,7 @@
 #include "Fc/Core/Kernel/FcRoot.h"
 #include "Host/Cli/AttributeValue.h"
 #include "Host/Cli/EntityLabel.h"
+#include "Host/Cli/GuidOption.h"
 #include "Host/Cli/LoadModel.h"
 #include "Host/Cli/PrintableText.h"
 #include "Host/StepFile/EntityNumbers.h"
@@ -40,12 +41,8 @@ std::optional<Key> keyOf(const GetOptions& options, Console& console) {
     refuse(console, fmt::format("{} is no number of an instance", inQuotes(options.id)));
     return std::nullopt;
   }
-  Guid guid;
-  if (guid.boSet(options.guid)) return Key{.guid = guid};
-  refuse(console, fmt::format("{} is no guid, which has 22 characters (0-9, A-Z, a-z, _, $) or 32 "
-                              "hexadecimal digits with hyphens",
-                              inQuotes(options.guid)));
-  return std::nullopt;
+  const std::optional<Guid> guid = guidFromText(options.guid, console);
+  return guid ? std::optional(Key{.guid = guid}) : std::nullopt;
 }
 
 bool matches(const step::NumberedEntity& instance, const Key& key) {

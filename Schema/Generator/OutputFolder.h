@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <set>
 #include <string>
 
 namespace qor::schema {
@@ -13,10 +14,15 @@ class OutputFolder {
 
   /// `name` is relative, with its folders: "Fc/Core/Kernel/FcProject.h". Throws std::runtime_error
   /// when it can't be written.
-  void write(const std::string& name, const std::string& text) const;
+  void write(const std::string& name, const std::string& text);
+  /// Removes the headers that an earlier run wrote and this one didn't. One that is now
+  /// hand-written would else be found in its old form by a compiler cache, which looks at the files
+  /// that it knows.
+  void removeOldHeaders() const;
 
  private:
   std::filesystem::path m_root;
+  std::set<std::filesystem::path> m_written;
 };
 
 }  // namespace qor::schema

@@ -29,7 +29,7 @@ std::set<std::string> readNames(std::istream& in) {
   return names;
 }
 
-void generate(const SchemaModel& model, const OutputFolder& out) {
+void generate(const SchemaModel& model, OutputFolder out) {
   std::set<std::string_view> groups;
   for (const Enumeration& element : model.table().enumerations)
     out.write(headerOf(model, element.name), enumerationHeader(model, element));
@@ -55,6 +55,7 @@ void generate(const SchemaModel& model, const OutputFolder& out) {
     out.write(fmt::format("Fc/Sources/{}.cpp", name), visitorSource(model, isConst));
   }
   out.write("Fc/Sources/SchemaTables.cpp", schemaTablesSource(model));
+  out.removeOldHeaders();
 }
 
 }  // namespace

@@ -10,6 +10,8 @@
 #include <vector>
 
 #include "Fc/Reflection/ClassInfo.h"
+#include "Fc/Resource/Geometry/FcCartesianPoint.h"
+#include "Fc/Resource/Geometry/FcDirection.h"
 #include "Host/StepFile/StepReader.h"
 #include "Host/StepFile/StepWriter.h"
 #include "Host/StepFile/TakeApart.h"
@@ -87,6 +89,22 @@ class SameModel {
   std::map<const fc::FcBase*, std::uint64_t> m_numbersA;
   std::map<const fc::FcBase*, std::uint64_t> m_numbersB;
 };
+
+TEST(Writing, NumbersEntitiesOfAClassInTheOrderInWhichTheyWereAdded) {
+  fc::Data data;
+  constexpr int count = 500;
+  for (int i = 0; i < count; ++i) {
+    data.create<fc::resource::geometry::FcDirection>();
+    data.create<fc::resource::geometry::FcCartesianPoint>()->setCoordinates({double(i), 0.0});
+  }
+  std::string text;
+  writeStep(data, text);
+  std::size_t at = 0;
+  for (int i = 0; i < count; ++i) {
+    at = text.find("=IFCCARTESIANPOINT((" + std::to_string(i) + ".,", at);
+    ASSERT_NE(at, std::string::npos) << i;
+  }
+}
 
 class RealModel : public testing::TestWithParam<std::filesystem::path> {};
 

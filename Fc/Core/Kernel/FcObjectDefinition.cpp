@@ -11,6 +11,8 @@
 #include "Fc/Core/ProductExtension/Pset_BuildingCommon.h"
 #include "Fc/Data.h"
 #include "Fc/Domain/Electrical/Pset_ElectricalDeviceCommon.h"
+#include "Fc/FcGenerateParams.h"
+#include "Fc/Shared/BuildingServiceElements/FcDistributionPort.h"
 
 namespace qor::fc::core::kernel {
 
@@ -18,6 +20,7 @@ using domain::electrical::Pset_ElectricalDeviceCommon;
 using productextension::FcElementQuantity;
 using productextension::FcElementType;
 using productextension::Pset_BuildingCommon;
+using shared::buildingserviceelements::FcDistributionPort;
 
 namespace {
 
@@ -37,6 +40,24 @@ std::shared_ptr<Relation> relationOf(const InverseSet<Relation>& existing, Data&
 }
 
 }  // namespace
+
+void FcObjectDefinition::doGenerate(FcGenerateParams& params) const {
+  std::vector<std::shared_ptr<const FcRoot>> parts;
+  IsDecomposedBy().forEach([&parts](const std::shared_ptr<FcRelAggregates>& relation) {
+    parts.insert(parts.end(), relation->RelatedObjects().begin(), relation->RelatedObjects().end());
+  });
+  if (!parts.empty()) params.afterwards(std::move(parts));
+}
+
+std::vector<std::shared_ptr<const FcDistributionPort>> FcObjectDefinition::getDistributionPorts()
+    const {
+  std::vector<std::shared_ptr<const FcDistributionPort>> ports;
+  IsNestedBy().forEach([&ports](const std::shared_ptr<FcRelNests>& relation) {
+    for (const auto& part : relation->RelatedObjects())
+      if (auto port = fcCast<FcDistributionPort>(part)) ports.push_back(std::move(port));
+  });
+  return ports;
+}
 
 std::shared_ptr<FcObjectDefinition> FcObjectDefinition::self() {
   return std::static_pointer_cast<FcObjectDefinition>(shared_from_this());

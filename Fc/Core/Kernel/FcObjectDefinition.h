@@ -18,6 +18,9 @@ namespace qor::fc::resource::externalreference {
 class FcClassification;
 class FcClassificationReference;
 }  // namespace qor::fc::resource::externalreference
+namespace qor::fc::shared::buildingserviceelements {
+class FcDistributionPort;
+}
 
 namespace qor::fc::core::kernel {
 
@@ -75,6 +78,10 @@ class QOR_API FcObjectDefinition : public FcObjectDefinitionAttributes {
                                              std::optional<std::string> identification,
                                              std::string name);
 
+  /// The ports that are nested in this object, in the order of their relationships.
+  virtual std::vector<std::shared_ptr<const shared::buildingserviceelements::FcDistributionPort>>
+  getDistributionPorts() const;
+
   // Property sets. An occurrence and a context have them by relationships, a type by its own list;
   // of an occurrence the sets of its type are no part. Names are compared exactly, and a set
   // without one isn't found by name. `T` is `FcPropertySetDefinition`, `FcPropertySet` or
@@ -98,6 +105,8 @@ class QOR_API FcObjectDefinition : public FcObjectDefinitionAttributes {
 
  protected:
   FcObjectDefinition() = default;
+  /// The parts that it is made of, relationship by relationship.
+  void doGenerate(FcGenerateParams& params) const override;
 
   /// False when the text is none of the enumeration's; the type is then USERDEFINED.
   bool storePredefinedType(const std::string& text);

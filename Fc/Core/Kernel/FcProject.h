@@ -16,6 +16,11 @@ class QOR_API FcProject : public FcProjectAttributes {
   void setTrueNorth(Data& data, const math::Angle& clockwiseFromY);
   /// `north` needs no length of 1. The new direction isn't listed in `data`.
   void setTrueNorth(Data& data, const math::Vector2d& north);
+
+ protected:
+  /// In a walk for one type, what its libraries declare; then its parts. Throws `qor::exception`
+  /// when something that isn't an object is declared.
+  void doGenerate(FcGenerateParams& params) const override;
 };
 
 }  // namespace qor::fc::core::kernel

@@ -7,7 +7,8 @@
 
 namespace qor::fc {
 class Data;
-}
+class FcGenerateParams;
+}  // namespace qor::fc
 
 namespace qor::fc::core::kernel {
 
@@ -26,13 +27,23 @@ class QOR_API FcRoot : public FcRootAttributes, public GuidInterface {
   /// The model that the root was last added to; null when it was added to none, or that is gone.
   std::shared_ptr<Data> data() const { return m_data.lock(); }
 
+  /// Draws the root and all below it, once in a walk.
+  void generate(FcGenerateParams& params) const;
+
  protected:
   FcRoot() = default;
   /// A copy gets its source's guid, or a fresh one where the settings say so.
   void doAssign(const FcBase& source, FcCopySettings& settings) override;
 
+  /// What a class does in a walk; nothing here. It draws itself, and leaves what is below it to
+  /// `FcGenerateParams::afterwards`, so that deep models cost no stack.
+  virtual void doGenerate(FcGenerateParams& params) const;
+  /// This root as the model holds it. Throws `std::bad_weak_ptr` when no `std::shared_ptr` does.
+  std::shared_ptr<FcRoot> sharedRoot() const;
+
  private:
   friend class qor::fc::Data;
+  friend class qor::fc::FcGenerateParams;
   std::weak_ptr<Data> m_data;
 };
 

@@ -1,14 +1,19 @@
 #include "Fc/Core/Kernel/FcTypeProduct.h"
 
+#include "Fc/FcGenerateParams.h"
+#include "Fc/OpenObject.h"
 #include "Fc/Resource/Geometry/FcRepresentationMap.h"
 #include "Fc/Resource/Representation/FcGeometricRepresentationSubContext.h"
 #include "Fc/Resource/Representation/FcRepresentation.h"
+#include "Fc/Shared/BuildingServiceElements/FcDistributionPort.h"
 
 namespace qor::fc::core::kernel {
 
+using generate::draw::TransformationGuard;
 using resource::representation::FcGeometricRepresentationContext;
 using resource::representation::FcGeometricRepresentationSubContext;
 using resource::representation::FcRepresentationContext;
+using shared::buildingserviceelements::FcDistributionPort;
 
 namespace {
 
@@ -41,6 +46,35 @@ bool FcTypeProduct::has3dGeometricContext() const {
   return getRepresentationContexts([](const FcRepresentationContext& context) {
            return dimension(context) == 3;
          }) != nullptr;
+}
+
+void FcTypeProduct::doGenerate(FcGenerateParams& params) const {
+  if (params.typeFilterSet && GlobalId() == params.typeFilterGuid &&
+      !(params.skipObjectCallback && params.skipObjectCallback(GlobalId())) &&
+      params.drawInterface())
+    drawAsObject(params);
+  FcObjectDefinition::doGenerate(params);
+}
+
+void FcTypeProduct::drawAsObject(FcGenerateParams& params) const {
+  ObjectInterface* const object = params.object(sharedRoot());
+  if (!object) return;
+  FcDrawInterface& target = *params.drawInterface();
+  const OpenObject open(params.generateInterface(), object);
+  const TransformationGuard guard(target);
+  if (RepresentationMaps() && params.isEnabled(*this))
+    for (const auto& map : *RepresentationMaps())
+      if (map) map->generate(params);
+  for (const auto& port : getDistributionPorts()) {
+    ObjectInterface* const portObject =
+        params.object(std::const_pointer_cast<FcDistributionPort>(port));
+    if (!portObject) continue;
+    const OpenObject openPort(params.generateInterface(), portObject);
+    const TransformationGuard portGuard(target);
+    if (const auto placement = port->absolutePlacement())
+      target.vTransformationMultiply(*placement, math::MatrixMultiplyOrder::left);
+    port->generate(params);
+  }
 }
 
 std::shared_ptr<const FcRepresentationContext> FcTypeProduct::getRepresentationContexts(

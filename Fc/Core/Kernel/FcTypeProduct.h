@@ -22,6 +22,13 @@ class QOR_API FcTypeProduct : public FcTypeProductAttributes {
   getRepresentationContexts(
       const std::function<bool(const resource::representation::FcRepresentationContext&)>&
           predicate) const;
+
+ protected:
+  /// Draws the type itself, its maps and ports, when it is the one that the walk is for.
+  void doGenerate(FcGenerateParams& params) const override;
+
+ private:
+  void drawAsObject(FcGenerateParams& params) const;
 };
 
 }  // namespace qor::fc::core::kernel

@@ -1,5 +1,7 @@
 #include "Fc/Resource/GeometricModel/FcCartesianPointList3D.h"
 
+#include <utility>
+
 namespace qor::fc::resource::geometricmodel {
 
 using math::Point3d;
@@ -11,6 +13,7 @@ std::vector<Point3d> FcCartesianPointList3D::points() const {
 }
 
 void FcCartesianPointList3D::setPoints(const std::vector<Point3d>& points) {
+  m_lookup.reset();
   m_CoordList.resize(points.size());
   for (std::size_t i = 0; i < points.size(); ++i)
     m_CoordList[i] = {points[i].x, points[i].y, points[i].z};
@@ -20,7 +23,23 @@ void FcCartesianPointList3D::pushBackPoint(const Point3d& point) {
   m_CoordList.push_back({point.x, point.y, point.z});
 }
 
+measure::FcPositiveInteger FcCartesianPointList3D::addPoint(const Point3d& point) {
+  if (!m_lookup) m_lookup = std::make_unique<CoordinateLookup>();
+  return static_cast<std::int64_t>(m_lookup->findOrAppend(m_CoordList, point));
+}
+
+void FcCartesianPointList3D::setCoordList(CoordinateLookup::Coordinates value) {
+  m_lookup.reset();
+  FcCartesianPointList3DAttributes::setCoordList(std::move(value));
+}
+
+bool FcCartesianPointList3D::setLocalValue(LocalValue value, const object::PropertyId& id) {
+  m_lookup.reset();
+  return FcCartesianPointList3DAttributes::setLocalValue(std::move(value), id);
+}
+
 void FcCartesianPointList3D::transform(const math::Matrix& matrix) {
+  m_lookup.reset();
   for (std::size_t i = 0; i < size(); ++i) {
     const Point3d moved = FcCartesianPointList3D::point(i) * matrix;
     m_CoordList[i] = {moved.x, moved.y, moved.z};

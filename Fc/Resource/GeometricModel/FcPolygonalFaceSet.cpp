@@ -46,7 +46,7 @@ std::optional<PolygonalFaceSetOpenGL> FcPolygonalFaceSet::createQorPolygonalFace
     return std::nullopt;
   }
   PolygonalFaceSetOpenGL result;
-  result.coordinates = points();
+  result.coordinates = m_Coordinates->points();
   result.textureCoordinates = getTextureCoordinates();
   result.faces.reserve(m_Faces.size());
   const CoordinatePositions positions(m_PnIndex, result.coordinates.size());
@@ -158,7 +158,9 @@ std::optional<std::vector<TextureCoordinate>> FcPolygonalFaceSet::getTextureCoor
 std::pair<std::shared_ptr<FcPolygonalFaceSet>, std::shared_ptr<FcIndexedPolygonalTextureMap>>
 FcPolygonalFaceSet::fromQorPolygonalFaceSet(const PolygonalFaceSetOpenGL& faceSet) {
   auto result = makeEntity<FcPolygonalFaceSet>();
-  result->setCoordinates(pointList(faceSet.coordinates));
+  auto coordinates = makeEntity<FcCartesianPointList3D>();
+  coordinates->setPoints(faceSet.coordinates);
+  result->setCoordinates(std::move(coordinates));
   std::vector<std::shared_ptr<FcIndexedPolygonalFace>> faces;
   faces.reserve(faceSet.faces.size());
   for (const Face& face : faceSet.faces) faces.push_back(modelFace(face));
@@ -167,6 +169,11 @@ FcPolygonalFaceSet::fromQorPolygonalFaceSet(const PolygonalFaceSetOpenGL& faceSe
   std::shared_ptr<FcIndexedPolygonalTextureMap> map;
   if (faceSet.textureCoordinates) map = polygonalTextureMap(result, *faceSet.textureCoordinates);
   return {std::move(result), std::move(map)};
+}
+
+FcPositiveInteger FcPolygonalFaceSet::addPoint(const math::Point3d& point) {
+  if (!m_Coordinates) m_Coordinates = makeEntity<FcCartesianPointList3D>();
+  return m_Coordinates->addPoint(point);
 }
 
 void FcPolygonalFaceSet::transform(const math::Matrix& matrix) {

@@ -56,6 +56,11 @@ class QOR_API FcPolygonalFaceSet : public FcPolygonalFaceSetAttributes {
   static std::pair<std::shared_ptr<FcPolygonalFaceSet>, std::shared_ptr<TextureMap>>
   fromQorPolygonalFaceSet(const generate::draw::PolygonalFaceSetOpenGL& faceSet);
 
+  /// The position of the point in the list of points, which is made where there is none: of the
+  /// first that is equal in x, y and z, without a tolerance, or of the point appended. Constant
+  /// time on average.
+  measure::FcPositiveInteger addPoint(const math::Point3d& point);
+
  private:
   std::optional<std::vector<FaceSetWithMaterial>> splitByColour(
       const presentationappearance::FcIndexedColourMap& map) const;

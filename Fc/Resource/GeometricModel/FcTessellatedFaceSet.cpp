@@ -1,9 +1,6 @@
 #include "Fc/Resource/GeometricModel/FcTessellatedFaceSet.h"
 
-#include <utility>
-
 #include "Fc/FcDrawParams.h"
-#include "Fc/Reflection/MakeEntity.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList3D.h"
 #include "Fc/Resource/PresentationAppearance/FcColourRgbList.h"
 #include "Fc/Resource/PresentationAppearance/FcIndexedColourMap.h"
@@ -40,24 +37,6 @@ FcTessellatedFaceSet::getTextureCoordinates() const {
 
 bool FcTessellatedFaceSet::hasCoordinates() const {
   return m_Coordinates && !m_Coordinates->CoordList().empty();
-}
-
-std::vector<math::Point3d> FcTessellatedFaceSet::points() const {
-  std::vector<math::Point3d> result;
-  result.reserve(m_Coordinates->CoordList().size());
-  for (const auto& coordinate : m_Coordinates->CoordList())
-    result.emplace_back(coordinate[0], coordinate[1], coordinate[2]);
-  return result;
-}
-
-std::shared_ptr<FcCartesianPointList3D> FcTessellatedFaceSet::pointList(
-    const std::vector<math::Point3d>& points) {
-  std::vector<std::array<measure::FcLengthMeasure, 3>> coordinates;
-  coordinates.reserve(points.size());
-  for (const math::Point3d& point : points) coordinates.push_back({point.x, point.y, point.z});
-  auto list = makeEntity<FcCartesianPointList3D>();
-  list->setCoordList(std::move(coordinates));
-  return list;
 }
 
 std::shared_ptr<FcIndexedColourMap> FcTessellatedFaceSet::usableColourMap() const {

@@ -32,11 +32,6 @@ class QOR_API FcTessellatedFaceSet : public FcTessellatedFaceSetAttributes {
   FcTessellatedFaceSet() = default;
 
   bool hasCoordinates() const;
-  /// A copy of the list of points, which must be there.
-  std::vector<math::Point3d> points() const;
-  /// A new list of points, in no model.
-  static std::shared_ptr<FcCartesianPointList3D> pointList(
-      const std::vector<math::Point3d>& points);
   /// The map of colours when it has some to give and the set has points; null otherwise.
   std::shared_ptr<presentationappearance::FcIndexedColourMap> usableColourMap() const;
   /// A new material with the surface colour of that place, from 0, in the map's list.

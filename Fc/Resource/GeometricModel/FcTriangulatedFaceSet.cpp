@@ -49,6 +49,25 @@ bool mapTriangle(const ModelTriangle& triangle, const CoordinatePositions& posit
   return false;
 }
 
+FcTriangulatedFaceSet::WithTextureMap modelSet(
+    const std::vector<Point3d>& points, std::vector<ModelTriangle> triangles,
+    const std::optional<std::vector<TextureCoordinate>>& textureCoordinates) {
+  auto result = makeEntity<FcTriangulatedFaceSet>();
+  auto coordinates = makeEntity<FcCartesianPointList3D>();
+  coordinates->setPoints(points);
+  result->setCoordinates(std::move(coordinates));
+  result->setCoordIndex(std::move(triangles));
+
+  std::shared_ptr<FcIndexedTriangleTextureMap> map;
+  if (textureCoordinates) {
+    map = makeEntity<FcIndexedTriangleTextureMap>();
+    map->setTexCoords(textureVertexList(*textureCoordinates));
+    map->setTexCoordIndex(result->CoordIndex());
+    map->setMappedTo(result);
+  }
+  return {std::move(result), std::move(map)};
+}
+
 ModelTriangle modelTriangle(std::uint32_t a, std::uint32_t b, std::uint32_t c) {
   return {std::int64_t{a} + 1, std::int64_t{b} + 1, std::int64_t{c} + 1};
 }
@@ -84,7 +103,7 @@ std::optional<TriangulatedFaceSetOpenGL> FcTriangulatedFaceSet::createQorTriangu
     return std::nullopt;
   }
   TriangulatedFaceSetOpenGL result;
-  result.setVertexData(points(), getNormals(), getTextureCoordinates());
+  result.setVertexData(m_Coordinates->points(), getNormals(), getTextureCoordinates());
   result.triangles.reserve(m_CoordIndex.size());
   const CoordinatePositions positions(m_PnIndex, result.coordinates().size());
   Triangle mapped;
@@ -113,7 +132,7 @@ std::optional<std::vector<TriangulatedFaceSetWithMaterial>> FcTriangulatedFaceSe
   }
   // As one set first: it checks that there is a normal for each point.
   generate::draw::VertexData all;
-  all.setVertexData(points(), getNormals());
+  all.setVertexData(m_Coordinates->points(), getNormals());
   const std::size_t colourCount = map.Colours()->ColourList().size();
   const CoordinatePositions positions(m_PnIndex, all.coordinates().size());
   std::vector<Triangle> triangles(m_CoordIndex.size());
@@ -162,23 +181,6 @@ std::optional<std::vector<TextureCoordinate>> FcTriangulatedFaceSet::getTextureC
   const std::size_t vertexCount = m_Coordinates->CoordList().size();
   return textureCoordinatesByVertex(*map, m_CoordIndex, CoordinatePositions(m_PnIndex, vertexCount),
                                     vertexCount);
-}
-
-FcTriangulatedFaceSet::WithTextureMap FcTriangulatedFaceSet::modelSet(
-    const std::vector<Point3d>& points, std::vector<ModelTriangle> triangles,
-    const std::optional<std::vector<TextureCoordinate>>& textureCoordinates) {
-  auto result = makeEntity<FcTriangulatedFaceSet>();
-  result->setCoordinates(pointList(points));
-  result->setCoordIndex(std::move(triangles));
-
-  std::shared_ptr<FcIndexedTriangleTextureMap> map;
-  if (textureCoordinates) {
-    map = makeEntity<FcIndexedTriangleTextureMap>();
-    map->setTexCoords(textureVertexList(*textureCoordinates));
-    map->setTexCoordIndex(result->CoordIndex());
-    map->setMappedTo(result);
-  }
-  return {std::move(result), std::move(map)};
 }
 
 FcTriangulatedFaceSet::WithTextureMap FcTriangulatedFaceSet::fromQorPolygonalFaceSet(

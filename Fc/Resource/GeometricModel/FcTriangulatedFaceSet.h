@@ -57,10 +57,6 @@ class QOR_API FcTriangulatedFaceSet : public FcTriangulatedFaceSetAttributes {
   std::optional<std::vector<math::Vector3d>> getNormals() const;
 
  private:
-  static WithTextureMap modelSet(
-      const std::vector<math::Point3d>& points,
-      std::vector<std::array<measure::FcPositiveInteger, 3>> triangles,
-      const std::optional<std::vector<generate::draw::TextureCoordinate>>& textureCoordinates);
   std::optional<std::vector<TriangulatedFaceSetWithMaterial>> splitByColour(
       const presentationappearance::FcIndexedColourMap& map) const;
 };

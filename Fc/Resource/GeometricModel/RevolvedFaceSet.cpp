@@ -8,7 +8,6 @@
 #include "Fc/Resource/GeometricModel/SweepFaces.h"
 #include "Fc/Resource/Report.h"
 #include "Qor/Math/Epsilon.h"
-#include "Qor/Math/Matrix.h"
 
 namespace qor::fc::resource::geometricmodel {
 
@@ -64,13 +63,6 @@ bool checkAgainstAxis(const RevolutionAxis& axis, const Contour& outer, double r
         "By informal proposition, the AxisLine shall not intersect the interior of the SweptArea",
         kOperation, __LINE__);
   return true;
-}
-
-Matrix turnAround(const RevolutionAxis& axis, double angle) {
-  const Vector3d toLocation{axis.location.x, axis.location.y, 0};
-  return Matrix::createTranslation(-toLocation) *
-         Matrix::createRotate({axis.direction.x, axis.direction.y, 0}, angle) *
-         Matrix::createTranslation(toLocation);
 }
 
 /// Rings and faces of a body that turns, from the bottom up.
@@ -141,6 +133,13 @@ class Revolution {
 };
 
 }  // namespace
+
+Matrix turnAround(const RevolutionAxis& axis, double angle) {
+  const Vector3d toLocation{axis.location.x, axis.location.y, 0};
+  return Matrix::createTranslation(-toLocation) *
+         Matrix::createRotate({axis.direction.x, axis.direction.y, 0}, angle) *
+         Matrix::createTranslation(toLocation);
+}
 
 double orthogonalDistanceToFurthestPointInPolygon(const RevolutionAxis& axis,
                                                   const std::vector<Point2d>& polygon) {

@@ -5,6 +5,7 @@
 #include "Qor/Draw/PolygonalFaceSetOpenGL.h"
 #include "Qor/Draw/Profile2D.h"
 #include "Qor/Math/CurveDiscretization.h"
+#include "Qor/Math/Matrix.h"
 #include "Qor/Platform/Export.h"
 
 namespace qor::fc::resource::geometricmodel {
@@ -33,6 +34,9 @@ QOR_API std::optional<generate::draw::PolygonalFaceSetOpenGL> revolvedFaceSet(
 QOR_API std::optional<generate::draw::PolygonalFaceSetOpenGL> taperedRevolvedFaceSet(
     const generate::draw::Profile2D& start, const generate::draw::Profile2D& end,
     const RevolutionAxis& axis, double angle, const math::CurveDiscretization& discretization);
+
+/// The matrix that turns points in space right-handed around the axis.
+QOR_API math::Matrix turnAround(const RevolutionAxis& axis, double angle);
 
 /// In metres, 0 for no points.
 QOR_API double orthogonalDistanceToFurthestPointInPolygon(

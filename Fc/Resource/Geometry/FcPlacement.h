@@ -4,6 +4,8 @@
 
 namespace qor::fc::resource::geometry {
 
+class FcCartesianPoint;
+
 /// IfcPlacement, Resource.Geometry: a place, to which the subclasses add directions.
 class QOR_API FcPlacement : public FcPlacementAttributes {
  public:

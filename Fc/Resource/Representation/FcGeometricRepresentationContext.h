@@ -17,6 +17,9 @@ class QOR_API FcGeometricRepresentationContext : public FcGeometricRepresentatio
   /// The model that the context was last added to; null when it was added to none, or that is gone.
   std::shared_ptr<Data> data() const { return m_data.lock(); }
 
+  /// What the host's filter says; yes without one.
+  bool generate(FcGenerateParams& params) const override;
+
  private:
   friend class qor::fc::Data;
   std::weak_ptr<Data> m_data;

@@ -11,6 +11,9 @@ namespace qor::fc::resource::topology {
 class QOR_API FcEdgeCurve : public FcEdgeCurveAttributes {
  public:
   std::shared_ptr<TopoDS_Edge> ocEdge(ocMemoizer& memoizer) const override;
+  /// The curve between the two vertices, against its direction where `SameSense` is false.
+  bool getPoints2d(std::vector<math::Point2d>& points, const FcParams& params) const override;
+  std::vector<math::Point3d> getPoints3d(const FcParams& params) const override;
 };
 
 }  // namespace qor::fc::resource::topology

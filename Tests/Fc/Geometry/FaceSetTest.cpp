@@ -1,6 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <limits>
+
 #include "Fc/FcParams.h"
 #include "Fc/Reflection/MakeEntity.h"
 #include "Fc/Resource/GeometricModel/ColourSplit.h"
@@ -285,6 +288,34 @@ TEST(PolygonalFaceSet, TellsOnceOfTextureCornersWithoutAPlace) {
   EXPECT_THAT(*set->getTextureCoordinates(), SizeIs(6));
 }
 
+TEST(PolygonalFaceSet, FindsPointsThatItHasAndAppendsOthers) {
+  auto set = makeEntity<FcPolygonalFaceSet>();
+  EXPECT_EQ(set->addPoint({1, 2, 3}).value(), 1);
+  EXPECT_EQ(set->addPoint({1, 2, 3 + 1e-15}).value(), 2) << "no tolerance";
+  EXPECT_EQ(set->addPoint({0, 0, 0}).value(), 3);
+  EXPECT_EQ(set->addPoint({-0.0, 0, -0.0}).value(), 3);
+  EXPECT_EQ(set->addPoint({1, 2, 3}).value(), 1);
+  const double none = std::numeric_limits<double>::quiet_NaN();
+  EXPECT_EQ(set->addPoint({none, 0, 0}).value(), 4);
+  EXPECT_EQ(set->addPoint({none, 0, 0}).value(), 5) << "equals nothing, not even itself";
+
+  // Whichever way the list changes meanwhile, the look-up follows.
+  set->Coordinates()->transform(Matrix::createTranslation({10, 0, 0}));
+  EXPECT_EQ(set->addPoint({11, 2, 3}).value(), 1);
+  EXPECT_EQ(set->addPoint({1, 2, 3}).value(), 6);
+  set->Coordinates()->setPoints({{7, 7, 7}, {8, 8, 8}, {7, 7, 7}});
+  EXPECT_EQ(set->addPoint({7, 7, 7}).value(), 1) << "the first of two equal ones";
+  set->Coordinates()->pushBackPoint({9, 9, 9});
+  EXPECT_EQ(set->addPoint({9, 9, 9}).value(), 4);
+}
+
+TEST(PolygonalFaceSet, FindsEachOfManyPoints) {
+  auto set = makeEntity<FcPolygonalFaceSet>();
+  for (int round = 0; round < 2; ++round)
+    for (int i = 0; i < 5000; ++i)
+      ASSERT_EQ(set->addPoint({i * 0.1, double(i % 3), -i * 1e-3}).value(), i + 1);
+}
+
 const Matrix mirrorX({-1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {10, 0, 0});
 
 TEST(TriangulatedFaceSet, DrawsItsTrianglesWithNormals) {
@@ -348,6 +379,27 @@ TEST(TriangulatedFaceSet, ComesBackFromTheModelAsItWasDrawn) {
   ASSERT_TRUE(map);
   EXPECT_EQ(set->createQorTriangulatedFaceSet(), drawn);
   EXPECT_TRUE(FcTriangulatedFaceSet::containsTriangularFace(texturedSet()));
+}
+
+TEST(FaceSetTransform, KeepsFacesLookingOutwardUnderAMirror) {
+  const auto [set, map] = FcPolygonalFaceSet::fromQorPolygonalFaceSet(texturedSet());
+  const auto before = *set->createQorPolygonalFaceSet();
+  set->transform(mirrorX);
+  const auto after = *set->createQorPolygonalFaceSet();
+  EXPECT_EQ(after.coordinates[1], Point3d(6, 0, 0));
+  EXPECT_THAT(after.faces, ElementsAre(Face{{2, 1, 0}, {{3, 4, 5}}}, Face{{5, 4, 3}}));
+  EXPECT_EQ(after.textureCoordinates, before.textureCoordinates) << "each point keeps its place";
+  const ExpectAsserts expected({"Expect Coordinates() to be set."});
+  makeEntity<FcPolygonalFaceSet>()->transform(mirrorX);
+}
+
+TEST(FaceSetTransform, MovesNormalsAsNormals) {
+  const auto set = triangulated({{1, 2, 3}});
+  set->setNormals(std::vector<std::array<measure::FcParameterValue, 3>>{{1., 1., 0.}});
+  set->transform(Matrix({-1, 0, 0}, {0, 0.5, 0}, {0, 0, 1}, {}));
+  EXPECT_THAT(set->CoordIndex(), ElementsAre(std::array<measure::FcPositiveInteger, 3>{3, 2, 1}));
+  const math::Vector3d normal = set->getNormals()->at(0);
+  EXPECT_TRUE(normal.isNear(math::Vector3d(-1, 2, 0) * (1 / std::sqrt(5.))));
 }
 
 TEST(FacesByColour, KeepsTheOrderOfFacesAndSkipsOthers) {

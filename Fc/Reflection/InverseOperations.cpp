@@ -1,43 +1,11 @@
-#include "Fc/Reflection/ValueTraits.h"
+#include "Fc/Reflection/InverseOperations.h"
+
+#include "Fc/Reflection/InverseEntries.h"
+#include "Fc/Reflection/LocalValue.h"
+#include "Fc/Reflection/ValueSink.h"
+#include "Fc/Reflection/ValueSource.h"
 
 namespace qor::fc {
-
-bool rejectNext(ValueSource& source, Rejection reason, const TypeOperations& expected) {
-  source.rejected(reason, {}, expected);
-  source.skip();
-  return false;
-}
-
-bool skipNull(ValueSource& source) {
-  const ValueSource::Kind kind = source.next();
-  if (kind != ValueSource::Kind::null && kind != ValueSource::Kind::derived) return false;
-  source.skip();
-  return true;
-}
-
-bool ValueTraits<Guid>::read(Guid& m, ValueSource& source, const TypeOperations& self) {
-  if (source.next() != ValueSource::Kind::text)
-    return rejectNext(source, Rejection::wrongKind, self);
-  std::string text;
-  source.takeText(text);
-  if (text.size() == 22 && m.boSet(text)) return true;
-  source.rejected(Rejection::outOfRange, text, self);
-  return false;
-}
-
-void ValueTraits<Guid>::write(const Guid& m, ValueSink& sink) {
-  char text[22];
-  m.toCharacters(text);
-  sink.text({text, sizeof text});
-}
-
-bool ValueTraits<std::vector<std::uint8_t>>::read(Bytes& m, ValueSource& source,
-                                                  const TypeOperations& self) {
-  if (source.next() != ValueSource::Kind::binary)
-    return rejectNext(source, Rejection::wrongKind, self);
-  source.takeBinary(m);
-  return true;
-}
 
 namespace {
 

@@ -1,0 +1,55 @@
+#include "Fc/Core/Kernel/FcProduct.h"
+
+#include "Fc/FcGenerateParams.h"
+#include "Fc/OpenObject.h"
+#include "Fc/Resource/GeometricConstraint/FcObjectPlacement.h"
+#include "Fc/Resource/Representation/FcProductRepresentation.h"
+#include "Qor/Assert/Assert.h"
+#include "Qor/Assert/Exception.h"
+
+namespace qor::fc::core::kernel {
+
+using generate::draw::TransformationGuard;
+using math::MatrixMultiplyOrder;
+
+void FcProduct::doGenerate(FcGenerateParams& params) const {
+  if (!params.skipObjectCallback || !params.skipObjectCallback(GlobalId())) {
+    if (params.drawInterface()) drawAsObject(params);
+    params.handleRepresentationState(*this);
+  }
+  FcObjectDefinition::doGenerate(params);
+}
+
+std::optional<math::Matrix> FcProduct::absolutePlacement() const {
+  if (!ObjectPlacement()) return math::Matrix();
+  try {
+    return ObjectPlacement()->placementGet(false);
+  } catch (const qor::exception& problem) {
+    if (Assert::isEnabled())
+      Assert::addAssert({.message = std::string(ifcName()) + " " + GlobalId().toString(false) +
+                                    " has no computable placement (" +
+                                    ObjectPlacement()->ifcName() + "): " + problem.what(),
+                         .function = "qor::fc::core::kernel::FcProduct::absolutePlacement",
+                         .source = "FcProduct",
+                         .line = __LINE__});
+    return {};
+  }
+}
+
+void FcProduct::drawAsObject(FcGenerateParams& params) const {
+  ObjectInterface* const object = params.object(sharedRoot());
+  if (!object) return;
+  const auto placement = absolutePlacement();
+  FcDrawInterface& target = *params.drawInterface();
+  const OpenObject open(params.generateInterface(), object);
+  const TransformationGuard guard(target);
+  if (ObjectPlacement() && placement)
+    target.vTransformationMultiply(*placement, MatrixMultiplyOrder::left);
+  if (params.isEnabled(*this)) {
+    if (Representation() && placement) Representation()->generate(params);
+  } else if (params.disabledProductCallback) {
+    params.disabledProductCallback(params, *this);
+  }
+}
+
+}  // namespace qor::fc::core::kernel

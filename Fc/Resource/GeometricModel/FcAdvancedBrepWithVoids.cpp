@@ -1,0 +1,18 @@
+#include "Fc/Resource/GeometricModel/FcAdvancedBrepWithVoids.h"
+
+#include "Fc/Resource/Report.h"
+#include "Fc/Resource/Topology/FcClosedShell.h"
+
+namespace qor::fc::resource::geometricmodel {
+
+void FcAdvancedBrepWithVoids::draw(const FcDrawParams& params) const {
+  report("Not implemented for FcAdvancedBrepWithVoids, voids will not be drawn",
+         "qor::fc::resource::geometricmodel::FcAdvancedBrepWithVoids::draw", __LINE__);
+  FcAdvancedBrepWithVoidsAttributes::draw(params);
+}
+
+void FcAdvancedBrepWithVoids::transform(const math::Matrix& matrix) {
+  transformWithVoids(m_Voids, matrix);
+}
+
+}  // namespace qor::fc::resource::geometricmodel

@@ -1,0 +1,72 @@
+#include "Fc/Resource/GeometricModel/FcExtrudedAreaSolidTapered.h"
+
+#include <utility>
+
+#include "Fc/FcDrawParams.h"
+#include "Fc/FcParams.h"
+#include "Fc/Resource/GeometricModel/ExtrudedFaceSet.h"
+#include "Fc/Resource/GeometricModel/TaperedProfiles.h"
+#include "Fc/Resource/Geometry/FcDirection.h"
+#include "Fc/Resource/Profile/FcProfileDef.h"
+#include "Fc/Resource/Report.h"
+
+namespace qor::fc::resource::geometricmodel {
+
+using generate::draw::PolygonalFaceSetOpenGL;
+using generate::draw::Profile2D;
+using math::Vector3d;
+
+namespace {
+
+constexpr const char* kDraw = "qor::fc::resource::geometricmodel::FcExtrudedAreaSolidTapered::draw";
+
+}  // namespace
+
+bool FcExtrudedAreaSolidTapered::isReadyToDraw(const char* operation) const {
+  if (!hasDepth("Depth should be a positive distance", operation) || !hasSweptArea(operation))
+    return false;
+  if (!EndSweptArea()) {
+    report("End swept area should exist", operation, __LINE__);
+    return false;
+  }
+  return hasDirection(operation);
+}
+
+void FcExtrudedAreaSolidTapered::draw(const FcDrawParams& params) const {
+  if (!isReadyToDraw(kDraw)) return;
+  auto profiles = taperedProfiles(*SweptArea(), *EndSweptArea(), FcParams(params));
+  if (!profiles) return;
+  const generate::draw::TransformationGuard guard(params);
+  applyPosition(params);
+  const Vector3d extrusion = ExtrudedDirection()->vector().normalized() * Depth();
+  for (std::size_t i = 0; i < profiles->start.size(); ++i) {
+    Profile2D& start = profiles->start[i];
+    Profile2D& end = profiles->end[i];
+    if (!profilesPair(start, end, kDraw) || start.empty() || start.contours().front().empty())
+      continue;
+    for (PolygonalFaceSetOpenGL& set : faceSetFromExtrudedTapered(start, end, extrusion))
+      params->polygonalFaceSet(std::move(set));
+  }
+}
+
+std::vector<PolygonalFaceSetOpenGL> FcExtrudedAreaSolidTapered::faceSetFromExtrudedTapered(
+    Profile2D& start, Profile2D& end, const Vector3d& extrusion) {
+  return taperedExtrudedFaceSets(start, end, extrusion);
+}
+
+std::optional<math::Extent> FcExtrudedAreaSolidTapered::boundingBox(const FcParams& params) const {
+  if (!isReadyToDraw("qor::fc::resource::geometricmodel::FcExtrudedAreaSolidTapered::boundingBox"))
+    return std::nullopt;
+  const auto start = SweptArea()->planarBox(params);
+  const auto end = EndSweptArea()->planarBox(params);
+  if (!start || !end) return std::nullopt;
+  return boxOfExtruded(start->uniteWith(*end));
+}
+
+void FcExtrudedAreaSolidTapered::transformProfiles(const math::Matrix2d& matrix) {
+  if (EndSweptArea()) EndSweptArea()->transform2d(matrix);
+  if (EndSweptArea() != SweptArea())
+    FcExtrudedAreaSolidTaperedAttributes::transformProfiles(matrix);
+}
+
+}  // namespace qor::fc::resource::geometricmodel

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Fc/Resource/GeometricModel/FcRevolvedAreaSolidAttributes.h"
+#include "Fc/Resource/GeometricModel/RevolvedFaceSet.h"
+
+namespace qor::fc::resource::geometricmodel {
+
+/// IfcRevolvedAreaSolid, Resource.Geometric Model: a profile turned right-handed around an axis in
+/// its plane by `Angle`, in radians, up to a full turn.
+class QOR_API FcRevolvedAreaSolid : public FcRevolvedAreaSolidAttributes {
+ public:
+  /// One face set for each area of the profile.
+  void draw(const FcDrawParams& params) const override;
+  /// Moves, turns, and scales equally in all directions; asserts, and no change, for a mirror and
+  /// for other scales.
+  void transform(const math::Matrix& matrix) override;
+  std::optional<math::Extent> boundingBox(const FcParams& params) const override;
+  /// A solid for each area of the profile; a null shape for one that fails, with an assert.
+  /// Nothing, with an assert, without a profile and an axis in its plane.
+  std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const override;
+
+ protected:
+  /// `Axis` in the plane of the profile, direction of length 1; asserts where it isn't there or
+  /// leaves the plane.
+  std::optional<RevolutionAxis> axisInPlane(const char* operation) const;
+  bool hasSweptArea(const char* operation) const;
+  /// The box, in the frame around this solid, around `planarBox` turned in quarters up to the
+  /// angle.
+  math::Extent boundingBoxFromProfileExtent(const math::Extent2d& planarBox,
+                                            const RevolutionAxis& axis) const;
+
+ private:
+  bool hasAngle(const char* operation) const;
+  bool scale(double factor, const char* operation);
+};
+
+}  // namespace qor::fc::resource::geometricmodel

@@ -1,0 +1,99 @@
+#include "Fc/Resource/Geometry/FcMappedItem.h"
+
+#include <cstdint>
+#include <string>
+
+#include "Fc/FcDrawParams.h"
+#include "Fc/Resource/Geometry/FcCartesianTransformationOperator.h"
+#include "Fc/Resource/Geometry/FcRepresentationMap.h"
+#include "Fc/Resource/Geometry/MapNesting.h"
+#include "Qor/Assert/Assert.h"
+
+namespace qor::fc::resource::geometry {
+
+using generate::draw::BlockInterface;
+using generate::draw::TransformationGuard;
+using math::MatrixMultiplyOrder;
+
+namespace {
+
+void assertCircular(const char* operation) {
+  if (Assert::isEnabled())
+    Assert::addAssert({.message = "Circular dependency in mapped item",
+                       .function = operation,
+                       .source = "FcMappedItem",
+                       .line = __LINE__});
+}
+
+class OpenBlock {
+ public:
+  OpenBlock(BlockInterface& target, const std::string& name)
+      : m_target(target), m_isKnown(target.startBlock(name) != 0) {}
+  OpenBlock(const OpenBlock&) = delete;
+  OpenBlock& operator=(const OpenBlock&) = delete;
+  ~OpenBlock() { m_target.stopBlock(); }
+
+  bool isKnown() const { return m_isKnown; }
+
+ private:
+  BlockInterface& m_target;
+  bool m_isKnown;
+};
+
+class Raised {
+ public:
+  explicit Raised(std::atomic<bool>& flag) : m_flag(flag), m_wasUp(flag.exchange(true)) {}
+  Raised(const Raised&) = delete;
+  Raised& operator=(const Raised&) = delete;
+  ~Raised() {
+    if (!m_wasUp) m_flag.exchange(false);
+  }
+
+  bool wasUp() const { return m_wasUp; }
+
+ private:
+  std::atomic<bool>& m_flag;
+  bool m_wasUp;
+};
+
+}  // namespace
+
+void FcMappedItem::draw(const FcDrawParams& params) const {
+  const Raised drawing(m_drawing);
+  if (drawing.wasUp()) return assertCircular("qor::fc::resource::geometry::FcMappedItem::draw");
+  if (!MappingSource()) return;
+  const MapNesting nesting(*MappingSource());
+  if (!nesting.isAllowed())
+    return assertCircular("qor::fc::resource::geometry::FcMappedItem::draw");
+  if (!MappingTarget()) return drawMap(params);
+  FcDrawInterface& target = params;
+  const TransformationGuard guard(target);
+  target.vTransformationMultiply(MappingTarget()->getTransformation(), MatrixMultiplyOrder::left);
+  drawMap(params);
+}
+
+void FcMappedItem::drawMap(const FcDrawParams& params) const {
+  BlockInterface* const blocks = params->blockInterface();
+  if (!blocks) return MappingSource()->draw(params);
+  const OpenBlock block(*blocks,
+                        std::to_string(reinterpret_cast<std::uintptr_t>(MappingSource().get())));
+  if (!block.isKnown()) MappingSource()->draw(params);
+}
+
+void FcMappedItem::transform(const math::Matrix& matrix) {
+  if (MappingTarget()) MappingTarget()->transform(matrix);
+}
+
+std::optional<math::Extent> FcMappedItem::boundingBox(const FcParams& params) const {
+  if (!MappingSource() || !MappingTarget()) return {};
+  const MapNesting nesting(*MappingSource());
+  if (!nesting.isAllowed()) {
+    assertCircular("qor::fc::resource::geometry::FcMappedItem::boundingBox");
+    return {};
+  }
+  const auto box = MappingSource()->boundingBox(params);
+  if (!box) return {};
+  return box->transformExtent(MappingTarget()->getTransformation());
+}
+
+}  // namespace qor::fc::resource::geometry

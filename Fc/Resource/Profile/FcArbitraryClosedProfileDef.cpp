@@ -1,0 +1,41 @@
+#include "Fc/Resource/Profile/FcArbitraryClosedProfileDef.h"
+
+#include <utility>
+
+#include "Fc/FcParams.h"
+#include "Fc/Resource/Geometry/FcCurve.h"
+#include "Fc/Resource/Profile/CurveAsIndexedPolyCurve.h"
+#include "Fc/Resource/Report.h"
+
+namespace qor::fc::resource::profile {
+
+using generate::draw::Profile2D;
+
+std::vector<std::shared_ptr<geometry::FcIndexedPolyCurve>>
+FcArbitraryClosedProfileDef::getAsIndexedPolyCurves() const {
+  std::vector<std::shared_ptr<geometry::FcIndexedPolyCurve>> result;
+  if (auto curve = curveAsIndexedPolyCurve(OuterCurve())) result.push_back(std::move(curve));
+  return result;
+}
+
+std::vector<Profile2D> FcArbitraryClosedProfileDef::closedProfile(const FcParams& params) const {
+  std::vector<Profile2D> result;
+  if (!OuterCurve()) return result;
+  auto ring = OuterCurve()->closedCurve2dGet(params);
+  if (ring) result.emplace_back(std::vector<Profile2D::Contour>{std::move(*ring)});
+  return result;
+}
+
+void FcArbitraryClosedProfileDef::transform2d(const math::Matrix2d& matrix) {
+  if (OuterCurve()) OuterCurve()->transform(matrix.toMatrix3d());
+}
+
+std::optional<math::Extent2d> FcArbitraryClosedProfileDef::doGetPlanarBox(
+    const FcParams& params) const {
+  if (OuterCurve()) return OuterCurve()->planarBox(params);
+  report("Expect OuterCurve() to be set.",
+         "qor::fc::resource::profile::FcArbitraryClosedProfileDef::doGetPlanarBox", __LINE__);
+  return std::nullopt;
+}
+
+}  // namespace qor::fc::resource::profile

@@ -1,0 +1,14 @@
+#include "Fc/Resource/Representation/FcRepresentationContext.h"
+
+#include "Fc/NotImplemented.h"
+
+namespace qor::fc::resource::representation {
+
+bool FcRepresentationContext::generate(FcGenerateParams& /*params*/) const {
+  assertNotImplemented(
+      "FcRepresentationContext::generate(FcGenerateParams &) not implemented for class: ", *this,
+      "FcRepresentationContext::generate");
+  return true;
+}
+
+}  // namespace qor::fc::resource::representation

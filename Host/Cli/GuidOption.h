@@ -1,0 +1,22 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "Fc/Core/Kernel/FcRoot.h"
+#include "Host/Cli/Console.h"
+#include "Host/StepFile/StepReader.h"
+
+namespace qor::host::cli {
+
+/// A guid as a command line gives it, in 22 characters or 32 digits with hyphens. Empty, after a
+/// line that says why, for any other text.
+std::optional<Guid> guidFromText(const std::string& text, Console& console);
+
+/// The first entity with that guid in the order of the file. Null, after a line that says why, for
+/// none.
+std::shared_ptr<fc::core::kernel::FcRoot> findRoot(const step::ReadResult& model, const Guid& guid,
+                                                   const std::string& file, Console& console);
+
+}  // namespace qor::host::cli

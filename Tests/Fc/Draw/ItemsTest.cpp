@@ -1,0 +1,263 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "Fc/ComplexGeometry/FcClip.h"
+#include "Fc/Factory.h"
+#include "Fc/FcDrawInterfaceWrapper.h"
+#include "Fc/FcParams.h"
+#include "Fc/NotImplemented.h"
+#include "Fc/Resource/GeometricModel/FcAdvancedBrepWithVoids.h"
+#include "Fc/Resource/GeometricModel/FcBooleanClippingResult.h"
+#include "Fc/Resource/GeometricModel/FcBoundingBox.h"
+#include "Fc/Resource/GeometricModel/FcCsgSolid.h"
+#include "Fc/Resource/GeometricModel/FcExtrudedAreaSolidTapered.h"
+#include "Fc/Resource/GeometricModel/FcGeometricCurveSet.h"
+#include "Fc/Resource/GeometricModel/FcSectionedSurface.h"
+#include "Fc/Resource/GeometricModel/FcTriangulatedIrregularNetwork.h"
+#include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
+#include "Fc/Resource/Geometry/FcCartesianPoint.h"
+#include "Fc/Resource/Geometry/FcCartesianTransformationOperator3D.h"
+#include "Fc/Resource/PresentationDefinition/FcTextLiteralWithExtent.h"
+#include "Fc/Resource/PresentationOrganization/FcLightSourceSpot.h"
+#include "Fc/Utilities/DrawForDebug.h"
+#include "Tests/Fc/Draw/Drawing.h"
+#include "Tests/Support/ExpectAsserts.h"
+
+namespace qor::fc {
+namespace {
+
+using namespace resource::geometricmodel;
+using namespace resource::geometry;
+using math::CurveDiscretization;
+using math::Extent;
+using math::Matrix;
+using resource::presentationdefinition::FcTextLiteralWithExtent;
+using test::drawn;
+using test::ExpectAsserts;
+using test::shapesOf;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+const FcParams fine{CurveDiscretization(0.001, 12, 72)};
+constexpr const char* circular = "Circular dependency in mapped item";
+
+class Items : public testing::Test {
+ protected:
+  std::shared_ptr<FcMappedItem> moved(const test::SmallModel::Map& map, double x) {
+    auto item = model.mapped(map);
+    auto place = model.make<FcCartesianTransformationOperator3D>();
+    place->setLocalOrigin(makePoint(math::Point3d(x, 0, 0)));
+    place->setScale(2.0);
+    item->setMappingTarget(place);
+    return item;
+  }
+
+  test::SmallModel model;
+};
+
+TEST_F(Items, PutAMapToItsPlace) {
+  const auto map = model.map({model.line(1)});
+  map->setMappingOrigin(std::make_shared<FcAxis2Placement3D>(Matrix::createTranslation({0, 5, 0})));
+  const auto item = moved(map, 100);
+  test::RecordingTarget target;
+  EXPECT_THAT(shapesOf(drawn(item, target)), ElementsAre("polyline (102 10 0) (104 10 0)"));
+  EXPECT_EQ(target.transformationGet(), Matrix());
+  EXPECT_EQ(item->boundingBox(fine), Extent({102, 10, 0}, {104, 10, 0}));
+  item->transform(Matrix::createTranslation({0, 0, 1}));
+  EXPECT_EQ(item->boundingBox(fine), Extent({102, 10, 1}, {104, 10, 1}));
+}
+
+TEST_F(Items, FillABlockOnceAndPlaceItOften) {
+  const auto map = model.map({model.line()});
+  test::RecordingBlockTarget target;
+  drawn(moved(map, 1), target);
+  EXPECT_THAT(shapesOf(drawn(moved(map, 2), target)),
+              ElementsAre("block", "polyline (1 0 0) (3 0 0)", "end", "block again", "end"));
+}
+
+TEST_F(Items, CutAMapThatLiesWithinItself) {
+  const auto map = model.map({model.line()});
+  const auto first = model.mapped(map), second = model.mapped(map);
+  map->MappedRepresentation()->setItems({model.line(), first, second, model.line(2)});
+  const auto outer = model.mapped(map);
+  {
+    const ExpectAsserts expected({circular, circular});
+    EXPECT_THAT(shapesOf(drawn(outer)),
+                ElementsAre("polyline (0 0 0) (1 0 0)", "polyline (2 0 0) (3 0 0)"));
+  }
+  {
+    const ExpectAsserts expected({circular, circular});
+    EXPECT_EQ(drawn(first).size(), 3U);  // the same again: no flag stays behind
+  }
+  const ExpectAsserts expected({circular});
+  EXPECT_EQ(outer->boundingBox(fine), std::nullopt);
+}
+
+TEST_F(Items, CutMapsThatLieTooDeepInEachOther) {
+  test::SmallModel::Item item = model.line();
+  for (int i = 0; i < 100000; ++i) item = model.mapped(model.map({model.line(i), item}));
+  const ExpectAsserts expected({circular});
+  EXPECT_EQ(shapesOf(drawn(item)).size(), 256U);
+}
+
+TEST_F(Items, StandForWhatTheyConsistOf) {
+  const auto set = model.make<FcGeometricCurveSet>();
+  set->setElements(
+      {FcGeometricSetSelect(std::static_pointer_cast<FcCurve>(model.line())),
+       FcGeometricSetSelect(),
+       FcGeometricSetSelect(std::shared_ptr<FcPoint>(makePoint(math::Point3d(7, 8, 9))))});
+  set->transform(Matrix::createTranslation({0, 0, 1}));
+  EXPECT_THAT(shapesOf(drawn(set)), ElementsAre("polyline (0 0 1) (1 0 1)", "polyline (7 8 10)"));
+  EXPECT_EQ(set->boundingBox(fine), Extent({0, 0, 1}, {7, 8, 10}));
+
+  const auto text = model.make<FcTextLiteralWithExtent>();
+  text->setLiteral("Room 12");
+  text->setPlacement(std::make_shared<FcAxis2Placement3D>(Matrix::createTranslation({1, 2, 3})));
+  text->transform(Matrix::createTranslation({1, 0, 0}));
+  EXPECT_THAT(shapesOf(drawn(text)), ElementsAre("text Room 12 (2 2 3)"));
+
+  const auto box = model.make<FcBoundingBox>();
+  box->setCorner(makePoint(math::Point3d(1, 1, 1)));
+  box->setXDim(2.0);
+  box->setYDim(3.0);
+  box->setZDim(4.0);
+  box->transform(Matrix::createZRotate(std::acos(-1) / 2));
+  EXPECT_THAT(shapesOf(drawn(box)), IsEmpty());
+  const auto turned = box->boundingBox(fine);
+  ASSERT_TRUE(turned);
+  EXPECT_NEAR(turned->minimum().x, -4, 1e-12);
+  EXPECT_NEAR(turned->maximum().y, 3, 1e-12);
+
+  const ExpectAsserts expected(
+      {"Not implemented for FcAdvancedBrepWithVoids, voids will not be drawn",
+       "Outer should exist"});
+  EXPECT_THAT(shapesOf(drawn(model.make<FcAdvancedBrepWithVoids>())), IsEmpty());
+  EXPECT_THAT(shapesOf(drawn(model.make<FcCsgSolid>())), IsEmpty());
+}
+
+// Every class of items can be asked everything while it is empty, and every base form names it.
+TEST_F(Items, AnswerForEveryClassWhileTheyAreEmpty) {
+  std::size_t classes = 0, silent = 0;
+  std::vector<std::string> reports;
+  const auto previous =
+      Assert::setHandler([&](const AssertInfo& info) { reports.push_back(info.message); });
+  for (const ClassInfo* info : Factory::classes()) {
+    if (info->isAbstract() || !FcRepresentationItem::record.contains(info->classId)) continue;
+    const auto item = std::static_pointer_cast<FcRepresentationItem>(info->create());
+    reports.clear();
+    EXPECT_THAT(shapesOf(drawn(item)), testing::SizeIs(testing::Le(1U))) << info->name.text;
+    item->boundingBox(fine);
+    item->representationGet();
+    for (const std::string& report : reports)
+      if (report.find(" not implemented for: ") != std::string::npos) {
+        EXPECT_TRUE(report.ends_with(std::string("::Fc") + (info->name.text + 3))) << report;
+      }
+    silent += reports.empty();
+    ++classes;
+  }
+  Assert::setHandler(previous);
+  EXPECT_GT(classes, 100U);
+  EXPECT_LT(silent, classes / 4);
+}
+
+TEST(ItemNames, AreThoseOfTheClassesInTheSource) {
+  EXPECT_EQ(runTimeTypeName(FcSectionedSurface()),
+            "class qor::fc::resource::geometricmodel::FcSectionedSurface");
+  EXPECT_EQ(runTimeTypeName(FcTextLiteralWithExtent()),
+            "class qor::fc::resource::presentationdefinition::FcTextLiteralWithExtent");
+}
+
+TEST(Representations, SayWhatTheirItemsAre) {
+  const auto numbers = [](const FcRepresentationItem& item) {
+    const auto found = item.representationGet();
+    return found.empty()
+               ? std::pair(-1, -1)
+               : std::pair(static_cast<int>(*found.identifier), static_cast<int>(*found.type));
+  };
+  EXPECT_EQ(numbers(FcCartesianPoint()), std::pair(2, 1));
+  EXPECT_EQ(numbers(FcPolyline()), std::pair(2, 3));
+  EXPECT_EQ(numbers(FcGeometricSet()), std::pair(2, 12));
+  EXPECT_EQ(numbers(FcGeometricCurveSet()), std::pair(2, 13));
+  EXPECT_EQ(numbers(FcTriangulatedIrregularNetwork()), std::pair(7, 16));
+  EXPECT_EQ(numbers(FcExtrudedAreaSolid()), std::pair(7, 18));
+  EXPECT_EQ(numbers(FcExtrudedAreaSolidTapered()), std::pair(7, 19));
+  EXPECT_EQ(numbers(FcBooleanClippingResult()), std::pair(7, 22));
+  EXPECT_EQ(numbers(resource::presentationorganization::FcLightSourceSpot()), std::pair(10, 26));
+  EXPECT_EQ(numbers(FcMappedItem()), std::pair(7, 27));
+  EXPECT_EQ(numbers(FcBoundingBox()), std::pair(-1, -1));
+}
+
+TEST_F(Items, UniteTheirBoxesUnlessOneHasNone) {
+  const auto shape = model.shape("Body", {model.line(), model.line(4)});
+  EXPECT_EQ(shape->boundingBox(fine), Extent({0, 0, 0}, {5, 0, 0}));
+  EXPECT_FALSE(model.shape("Body", {})->boundingBox(fine).value().isValid());
+  shape->insertItems(model.make<FcBooleanResult>());
+  const ExpectAsserts expected(
+      {"boundingBox() not implemented for class: class "
+       "qor::fc::resource::geometricmodel::FcBooleanResult"});
+  EXPECT_EQ(shape->boundingBox(fine), std::nullopt);
+}
+
+TEST(Clipping, NestsLikeAStack) {
+  FcClip clip;
+  const FcClip::ClipObject object{std::make_shared<FcPolyline>(), Matrix()};
+  FcClip::ClippingItemsWorker outer(clip);
+  outer.addClipObject(object);
+  {
+    FcClip::ClippingItemsWorker inner(clip);
+    inner.addClipObject(object);
+    inner.addClipObject(object);
+    {
+      const FcClip::RestoreClipping uncut(clip);
+      EXPECT_FALSE(clip.isClipping());
+      FcClip::ClippingItemsWorker within(clip);
+      within.addClipObject(object);
+    }
+    EXPECT_EQ(clip.clipObjects().size(), 3U);
+  }
+  EXPECT_EQ(clip.clipObjects().size(), 1U);
+}
+
+TEST(Parameters, OwnTheirDiscretizationAndKeepTheFlag) {
+  test::RecordingTarget target(CurveDiscretization(0.5, 3, 7));
+  FcDrawInterfaceWrapper wrapper(target);
+  FcDrawParams draw(wrapper);
+  draw.skipExpensiveClipping = true;
+  FcParams params{FcDrawParams(draw, wrapper)};
+  EXPECT_TRUE(params.skipExpensiveClipping);
+  EXPECT_EQ(params.curveDiscretization().maxSegmentsOfFullCircle(), 7U);
+  const FcParams other(params, CurveDiscretization(0.5, 3, 9));
+  EXPECT_TRUE(other.skipExpensiveClipping);
+  params.curveDiscretization().setMinMaxSegmentsOfFullCircle(4, 5);
+  EXPECT_EQ(target.curveDiscretization().maxSegmentsOfFullCircle(), 7U);
+  EXPECT_FALSE(
+      FcParams(static_cast<generate::draw::DrawInterfaceBase&>(target)).skipExpensiveClipping);
+  FcParams copy(other);
+  copy = params;
+  EXPECT_EQ(copy.curveDiscretization().maxSegmentsOfFullCircle(), 5U);
+}
+
+TEST_F(Items, HandAPolylineThroughTheWrapperAsItIs) {
+  test::RecordingTarget target;
+  FcDrawInterfaceWrapper wrapper(target);
+  const std::vector<math::Point3d> points(1000000);
+  wrapper.vPolyline(points);
+  EXPECT_EQ(target.lastPoints, points.data());
+}
+
+TEST_F(Items, ShowForDebuggingWhatHasSomethingToShow) {
+  test::RecordingTarget target;
+  FcDrawInterfaceWrapper wrapper(target);
+  const FcDrawParams params(wrapper);
+  Assert::setEnabled(false);
+  utilities::drawForDebug(params, *model.shape("Body", {model.line(), nullptr}), 0.1);
+  utilities::drawForDebug(params, FcAxis2Placement3D(Matrix()), 0.1);
+  utilities::drawForDebug(params, *model.storey, 0.1);
+  Assert::setEnabled(true);
+  EXPECT_THAT(target.callsOf("material"),
+              ElementsAre("material 1 0 0", "material 0 1 0", "material 0 0 1"));
+  EXPECT_EQ(target.callsOf("polyline").size(), 1U);
+}
+
+}  // namespace
+}  // namespace qor::fc

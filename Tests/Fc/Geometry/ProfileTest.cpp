@@ -1,0 +1,320 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <numbers>
+#include <numeric>
+
+#include "Fc/FcParams.h"
+#include "Fc/NotImplemented.h"
+#include "Fc/Resource/GeometricModel/FcCartesianPointList2D.h"
+#include "Fc/Resource/Geometry/FcIndexedPolyCurve.h"
+#include "Fc/Resource/Geometry/FcPolyline.h"
+#include "Fc/Resource/Profile/FcArbitraryProfileDefWithVoids.h"
+#include "Fc/Resource/Profile/FcCenterLineProfileDef.h"
+#include "Fc/Resource/Profile/FcCircleHollowProfileDef.h"
+#include "Fc/Resource/Profile/FcCompositeProfileDef.h"
+#include "Fc/Resource/Profile/FcMirroredProfileDef.h"
+#include "Fc/Resource/Profile/FcRectangleProfileDef.h"
+#include "Qor/Draw/PolygonOrientation.h"
+#include "Qor/Math/Polygon.h"
+#include "Tests/Fc/Geometry/ProfileCases.h"
+#include "Tests/Support/ExpectAsserts.h"
+
+namespace qor::fc::resource::profile {
+namespace {
+
+using fc::test::Dimensions;
+using fc::test::makeProfile;
+using fc::test::planarPosition;
+using fc::test::ProfileCase;
+using generate::draw::Profile2D;
+using math::Extent2d;
+using math::Matrix2d;
+using math::Point2d;
+using math::Polygon2d;
+using qor::test::ExpectAsserts;
+using std::numbers::pi;
+
+const FcParams kParams{fc::test::sixtyFour()};
+
+double signedArea(const std::vector<Profile2D>& profiles) {
+  double area = 0;
+  for (const Profile2D& profile : profiles)
+    for (const auto& contour : profile.contours()) area += Polygon2d(contour).signedArea();
+  return area;
+}
+
+double side(const Point2d& a, const Point2d& b, const Point2d& p) { return (b - a).cross(p - a); }
+
+/// No two edges of all contours cross or touch, but for neighbours at their common point.
+bool crossesItself(const Profile2D& profile) {
+  std::vector<std::pair<Point2d, Point2d>> edges;
+  for (const auto& contour : profile.contours())
+    for (std::size_t i = 0; i < contour.size(); ++i)
+      edges.emplace_back(contour[i], contour[(i + 1) % contour.size()]);
+  for (std::size_t i = 0; i < edges.size(); ++i)
+    for (std::size_t j = 0; j < i; ++j) {
+      const auto& [a, b] = edges[i];
+      const auto& [c, d] = edges[j];
+      if (b == c || a == d) continue;
+      if (side(a, b, c) * side(a, b, d) <= 0 && side(c, d, a) * side(c, d, b) <= 0) {
+        const bool collinear = side(a, b, c) == 0 && side(a, b, d) == 0;
+        if (!collinear) return true;
+      }
+    }
+  return false;
+}
+
+std::shared_ptr<geometry::FcPolyline> polyline(const std::vector<Point2d>& points, bool closed) {
+  auto result = std::make_shared<geometry::FcPolyline>();
+  for (const Point2d& point : points) result->pushBackPoints(geometry::makePoint(point));
+  if (closed) result->pushBackPoints(result->Points().front());
+  return result;
+}
+
+TEST(Profiles, HaveTheAreaOfTheClosedFormulaInBothSensesAndDoNotCrossThemselves) {
+  const ExpectAsserts none;
+  for (const ProfileCase& shape : fc::test::profileCases())
+    for (const double scale : {0.01, 1.0, 40.0})
+      for (const auto& position : {std::shared_ptr<geometry::FcAxis2Placement2D>(),
+                                   planarPosition(7, -3, 0), planarPosition(-20, 30, 2)}) {
+        SCOPED_TRACE(testing::Message() << shape.ifcName << " times " << scale);
+        const auto profile = std::static_pointer_cast<FcParameterizedProfileDef>(
+            makeProfile(shape.ifcName, shape.dimensions, scale));
+        profile->setPosition(position);
+        const auto areas = profile->closedProfile(kParams);
+        ASSERT_EQ(areas.size(), 1u);
+        const double expected = shape.area(fc::test::piOfSixtyFour()) * scale * scale;
+        EXPECT_NEAR(signedArea(areas), expected, 1e-9 * expected + 1e-13);
+        EXPECT_NEAR(signedArea(profile->reversedClosedProfile(kParams)), -expected,
+                    1e-9 * expected + 1e-13);
+        EXPECT_FALSE(crossesItself(areas[0]));
+        for (const bool ccw : {true, false}) {
+          const auto enforced = profile->closedProfileWithEnforcedOrientation(kParams, ccw);
+          const auto& contours = enforced.at(0).contours();
+          for (std::size_t i = 0; i < contours.size(); ++i)
+            EXPECT_EQ(generate::draw::isCounterClockwisePolygon(contours[i]), ccw == (i == 0));
+        }
+      }
+}
+
+TEST(Profiles, AreMovedAndTurnedByTheirPosition) {
+  for (const ProfileCase& shape : fc::test::profileCases()) {
+    if (std::string(shape.ifcName) == "IfcTrapeziumProfileDef") continue;  // is moved alone
+    const auto profile = std::static_pointer_cast<FcParameterizedProfileDef>(
+        makeProfile(shape.ifcName, shape.dimensions));
+    const auto plain = profile->closedProfile(kParams).at(0).contours();
+    profile->setPosition(planarPosition(5, 6, pi / 3));
+    const auto placed = profile->closedProfile(kParams).at(0).contours();
+    const Matrix2d frame = Matrix2d::createRotate(pi / 3) * Matrix2d::createTranslation({5, 6});
+    ASSERT_EQ(plain.size(), placed.size());
+    for (std::size_t c = 0; c < plain.size(); ++c) {
+      ASSERT_EQ(plain[c].size(), placed[c].size()) << shape.ifcName;
+      for (std::size_t i = 0; i < plain[c].size(); ++i)
+        EXPECT_LT((plain[c][i] * frame).distance(placed[c][i]), 1e-9) << shape.ifcName;
+    }
+  }
+}
+
+TEST(Profiles, AsCurvesSpanTheSameAreaWhereTheyKeepTheirFillets) {
+  for (const ProfileCase& shape : fc::test::profileCases()) {
+    const std::string name = shape.ifcName;
+    if (name == "IfcEllipseProfileDef" || name == "IfcTrapeziumProfileDef") {
+      const auto profile = makeProfile(name, shape.dimensions);
+      const ExpectAsserts expected(
+          {"generateIndexedPolycurve() not implemented for class: " + runTimeTypeName(*profile)});
+      EXPECT_EQ(profile->getAsIndexedPolyCurves().size(), 1u);
+      continue;
+    }
+    if (name == "IfcRoundedRectangleProfileDef" || shape.dimensions.size() == 5) continue;
+    double area = 0;
+    for (const auto& curve : makeProfile(name, shape.dimensions)->getAsIndexedPolyCurves()) {
+      const auto points = curve->curve2d(kParams, {}, {}, false);
+      ASSERT_TRUE(points);
+      const double ring = Polygon2d(*points).signedArea();
+      area += area == 0 ? ring : -ring;
+    }
+    EXPECT_NEAR(area, shape.area(fc::test::piOfSixtyFour()), 1e-9) << name;
+  }
+}
+
+TEST(Profiles, HaveSoftEdgesAlongTheirArcs) {
+  const auto sharp = makeProfile("IfcIShapeProfileDef", {{"OverallWidth", 1},
+                                                         {"OverallDepth", 2},
+                                                         {"WebThickness", 0.1},
+                                                         {"FlangeThickness", 0.2}})
+                         ->closedProfile(kParams);
+  EXPECT_EQ(sharp.at(0).contours().at(0).size(), 12u);
+  const auto soft = makeProfile("IfcIShapeProfileDef", {{"OverallWidth", 1},
+                                                        {"OverallDepth", 2},
+                                                        {"WebThickness", 0.1},
+                                                        {"FlangeThickness", 0.2},
+                                                        {"FilletRadius", 0.1}})
+                        ->closedProfile(kParams);
+  const auto& contour = soft.at(0).contours().at(0);
+  EXPECT_EQ(contour.size(), 8 + 4 * 17u);
+  std::size_t flagged = 0;
+  for (std::size_t i = 0; i < contour.size(); ++i) flagged += soft[0].isSoft(0, i) ? 1 : 0;
+  EXPECT_EQ(flagged, 4 * 16u);
+  EXPECT_TRUE(makeProfile("IfcCircleProfileDef", {{"Radius", 1}})
+                  ->closedProfile(kParams)
+                  .at(0)
+                  .isSoft(0, 5));
+}
+
+struct BoxCase {
+  const char* ifcName;
+  Dimensions dimensions;
+  double xHalf, yHalf;
+};
+
+TEST(Profiles, HaveTheBoxOfTheirDimensionsAroundTheirPosition) {
+  const ExpectAsserts none;
+  const BoxCase boxes[] = {
+      {"IfcRectangleProfileDef", {{"XDim", 2}, {"YDim", 1}}, 1, 0.5},
+      {"IfcIShapeProfileDef", {{"OverallWidth", 1}, {"OverallDepth", 2}}, 0.5, 1},
+      {"IfcLShapeProfileDef", {{"Depth", 2}, {"Width", 1}}, 0.5, 1},
+      {"IfcLShapeProfileDef", {{"Depth", 2}}, 1, 1},
+      {"IfcTShapeProfileDef", {{"Depth", 2}, {"FlangeWidth", 1}}, 0.5, 1},
+      {"IfcZShapeProfileDef", {{"Depth", 2}, {"FlangeWidth", 1}, {"WebThickness", 0.2}}, 0.9, 1},
+      {"IfcCShapeProfileDef", {{"Depth", 2}, {"Width", 1}}, 0.5, 1},
+  };
+  for (const BoxCase& box : boxes) {
+    const auto profile = makeProfile(box.ifcName, box.dimensions);
+    std::static_pointer_cast<FcParameterizedProfileDef>(profile)->setPosition(
+        planarPosition(3, 4, 1));
+    EXPECT_EQ(profile->planarBox(kParams),
+              Extent2d({3 - box.xHalf, 4 - box.yHalf}, {3 + box.xHalf, 4 + box.yHalf}))
+        << box.ifcName;
+  }
+}
+
+TEST(Profiles, WithoutABoxOfTheirOwnReportItAndGiveThatOfTheirPoints) {
+  const auto circle = makeProfile("IfcCircleProfileDef", {{"Radius", 2}});
+  const ExpectAsserts expected(
+      {"doGetPlanarBox(const qor::fc::FcParams&) not implemented for class: class "
+       "qor::fc::resource::profile::FcCircleProfileDef"});
+  const auto box = circle->planarBox(kParams);
+  ASSERT_TRUE(box);
+  EXPECT_TRUE(box->maximum().isNear({2, 2}));
+}
+
+TEST(ArbitraryProfile, TakesClosedCurvesAlone) {
+  const auto profile = std::make_shared<FcArbitraryProfileDefWithVoids>();
+  profile->setOuterCurve(polyline({{0, 0}, {0, 4}, {4, 4}, {4, 0}}, true));
+  profile->setInnerCurves({polyline({{1, 1}, {2, 1}, {2, 2}}, true),
+                           polyline({{1, 3}, {2, 3}, {2, 3.5}}, false), nullptr});
+  const auto areas = profile->closedProfileWithEnforcedOrientation(kParams, true);
+  ASSERT_EQ(areas.at(0).contours().size(), 3u - 1);
+  EXPECT_DOUBLE_EQ(signedArea(areas), 15.5);
+  EXPECT_EQ(profile->planarBox(kParams), Extent2d({0, 0}, {4, 4}));
+
+  profile->transform2d(Matrix2d::createScale(2, 2));
+  EXPECT_DOUBLE_EQ(signedArea(profile->closedProfileWithEnforcedOrientation(kParams, true)), 62);
+}
+
+TEST(ArbitraryProfile, WithoutAClosedOuterCurveIsEmpty) {
+  const auto profile = std::make_shared<FcArbitraryProfileDefWithVoids>();
+  const ExpectAsserts expected(
+      {"Expected OuterCurve() to return a closed curve.", "Expect OuterCurve() to be set."});
+  EXPECT_TRUE(profile->closedProfile(kParams).empty());
+  EXPECT_FALSE(profile->planarBox(kParams));
+}
+
+TEST(DerivedProfile, MirroredIsTurnedToTheSenseAskedFor) {
+  const auto parent = std::make_shared<FcArbitraryClosedProfileDef>();
+  parent->setOuterCurve(polyline({{1, 0}, {3, 0}, {3, 1}}, true));
+  const auto mirrored = std::make_shared<FcMirroredProfileDef>();
+  EXPECT_TRUE(mirrored->closedProfile(kParams).empty());
+  mirrored->setParentProfile(parent);
+  EXPECT_DOUBLE_EQ(signedArea(mirrored->closedProfile(kParams)), -1);
+  const auto enforced = mirrored->closedProfileWithEnforcedOrientation(kParams, true);
+  EXPECT_DOUBLE_EQ(signedArea(enforced), 1);
+  EXPECT_EQ(enforced.at(0).contours().at(0), (std::vector<Point2d>{{-3, 1}, {-3, 0}, {-1, 0}}));
+}
+
+TEST(CompositeProfile, GathersItsMembersAndEndsWhereItContainsItself) {
+  const auto composite = std::make_shared<FcCompositeProfileDef>();
+  const auto rectangle = makeProfile("IfcRectangleProfileDef", {{"XDim", 2}, {"YDim", 1}});
+  const auto derived = std::make_shared<FcMirroredProfileDef>();
+  derived->setParentProfile(composite);
+  composite->setProfiles({rectangle, nullptr, derived});
+  const ExpectAsserts expected({"Circular dependency in profile"});
+  EXPECT_EQ(composite->closedProfile(kParams).size(), 1u);
+  derived->setParentProfile(nullptr);  // or they would keep each other alive
+}
+
+TEST(CenterLineProfile, IsTwiceAsWideAsItsThickness) {
+  const auto profile = std::make_shared<FcCenterLineProfileDef>();
+  {
+    const ExpectAsserts expected({"Expected FcCenterLineProfileDef to have a Curve"});
+    EXPECT_TRUE(profile->closedProfile(kParams).empty());
+  }
+  profile->setCurve(polyline({{0, 0}, {5, 0}}, false));
+  {
+    const ExpectAsserts expected(
+        {"Expected FcCenterLineProfileDef::Thickness to be a positive number"});
+    EXPECT_TRUE(profile->closedProfile(kParams).empty());
+  }
+  profile->setThickness(1.0);
+  EXPECT_DOUBLE_EQ(signedArea(profile->closedProfile(kParams)), 10);
+}
+
+TEST(CircleHollowProfile, IsADiskWhereTheWallLeavesNoRoom) {
+  const ExpectAsserts expected(
+      {"By formal proposition, the wall thickness must be strictly smaller than the radius"});
+  const auto tube = makeProfile("IfcCircleHollowProfileDef", {{"Radius", 1}, {"WallThickness", 1}});
+  EXPECT_EQ(tube->closedProfile(kParams).at(0).contours().size(), 1u);
+}
+
+TEST(RectangleProfile, TakesRotationIntoItsPositionAndScaleIntoItsDimensions) {
+  FcRectangleProfileDef profile;
+  profile.setXDim(2.0);
+  profile.setYDim(1.0);
+  profile.transform2d({});
+  EXPECT_FALSE(profile.Position());
+  profile.transform2d(Matrix2d({0, 3}, {-2, 0}, {1, 1}));
+  ASSERT_TRUE(profile.Position());
+  EXPECT_NEAR(profile.XDim(), 6, 1e-12);
+  EXPECT_NEAR(profile.YDim(), 2, 1e-12);
+  EXPECT_TRUE(profile.validPosition().x().isNear({0, 1}));
+  EXPECT_TRUE(profile.validPosition().origin().isNear({1, 1}));
+}
+
+/// Zero, negative, huge and missing numbers in each place, one after the other.
+TEST(Profiles, WithBadDimensionsReportThemAndStayFinite) {
+  const bool enabled = Assert::isEnabled();
+  Assert::setEnabled(false);
+  const double bad[] = {0,
+                        -1,
+                        1e9,
+                        1e-12,
+                        std::numeric_limits<double>::quiet_NaN(),
+                        std::numeric_limits<double>::infinity()};
+  for (const ProfileCase& shape : fc::test::profileCases())
+    for (std::size_t i = 0; i < shape.dimensions.size(); ++i)
+      for (const double value : bad) {
+        Dimensions dimensions = shape.dimensions;
+        dimensions[i].second = value;
+        const auto profile = makeProfile(shape.ifcName, dimensions);
+        profile->planarBox(kParams);
+        for (const Profile2D& area : profile->closedProfileWithEnforcedOrientation(kParams, true))
+          for (const auto& contour : area.contours())
+            for (const Point2d& point : contour)
+              EXPECT_TRUE(std::isfinite(point.x) && std::isfinite(point.y)) << shape.ifcName;
+      }
+  Assert::setEnabled(enabled);
+}
+
+TEST(Profiles, TellWhichFilletDoesNotFit) {
+  const ExpectAsserts expected(
+      {"By formal proposition, InnerFilletRadius must not be larger than YDim / 2 - WallThickness",
+       "Assertion failed: Expect only to be called if roundingRadius <= yDimHalf"});
+  makeProfile("IfcRectangleHollowProfileDef",
+              {{"XDim", 4}, {"YDim", 1}, {"WallThickness", 0.1}, {"InnerFilletRadius", 0.5}})
+      ->closedProfile(kParams);
+}
+
+}  // namespace
+}  // namespace qor::fc::resource::profile
