@@ -10,6 +10,7 @@
 #include "Fc/Reflection/EnumInfo.h"
 #include "Fc/Reflection/InverseEntries.h"
 #include "Fc/Reflection/Links.h"
+#include "Fc/Reflection/NumberOf.h"
 #include "Fc/Resource/Measure/MeasureQuantities.h"
 #include "Fc/ValueAttributes.h"
 
@@ -32,13 +33,6 @@ const unit::QuantityBase* quantityOf(const AttributeInfo* attribute) {
   if (!attribute || !attribute->aggregates.empty() || !attribute->typeName.starts_with("Ifc"))
     return nullptr;
   return resource::measure::quantityOfMeasure(attribute->typeName.substr(3));
-}
-
-std::optional<double> numberOf(const LocalValue& value) {
-  if (const auto* real = std::get_if<double>(&value.value)) return *real;
-  if (const auto* integer = std::get_if<std::int64_t>(&value.value))
-    return static_cast<double>(*integer);
-  return std::nullopt;
 }
 
 void linkAll(FcBase& holder, const ClassInfo& info) {

@@ -6,6 +6,7 @@
 #include "Fc/FcBase.h"
 #include "Fc/Reflection/ClassInfo.h"
 #include "Fc/Reflection/EntityComparison.h"
+#include "Fc/Reflection/NumberOf.h"
 #include "Fc/Reflection/ValueSink.h"
 #include "Fc/Reflection/ValueSource.h"
 
@@ -120,11 +121,7 @@ std::optional<double> SelectBase::number(const SelectInfo& info) const {
   if (alternative.nested)
     return at(info).select(const_cast<void*>(value(info)))->number(*alternative.nested);
   if (alternative.isEntity()) return std::nullopt;
-  const LocalValue current = at(info).type->getLocalValue(value(info));
-  if (const auto* real = std::get_if<double>(&current.value)) return *real;
-  if (const auto* integer = std::get_if<std::int64_t>(&current.value))
-    return static_cast<double>(*integer);
-  return std::nullopt;
+  return numberOf(at(info).type->getLocalValue(value(info)));
 }
 
 bool SelectBase::setNumber(const SelectInfo& info, double number) {

@@ -10,11 +10,14 @@
 
 #include "Host/Cli/AssertLines.h"
 #include "Host/Cli/ConvertCommand.h"
+#include "Host/Cli/DrawCommand.h"
 #include "Host/Cli/GetCommand.h"
 #include "Host/Cli/InfoCommand.h"
 #include "Host/Cli/LoadModel.h"
+#include "Host/Cli/MeasureCommand.h"
 #include "Host/Cli/PrintableText.h"
 #include "Host/Cli/PropertiesCommand.h"
+#include "Host/Cli/StatusCommand.h"
 #include "Host/Cli/TreeCommand.h"
 
 namespace qor::host::cli {
@@ -33,6 +36,9 @@ class CommandLine {
     addGet();
     addProperties();
     addConvert();
+    addDraw();
+    addMeasure();
+    addStatus();
   }
   CommandLine(const CommandLine&) = delete;  // the parser points at the options
   CommandLine& operator=(const CommandLine&) = delete;
@@ -91,6 +97,38 @@ class CommandLine {
                      "Leave numbers and units as they are; else the output is in SI units");
   }
 
+  void addDrawing(CLI::App& command, DrawingOptions& options) {
+    command.add_option("FILE", options.file, "The STEP file")->required();
+    command.add_option("--context", options.context,
+                       "Draw the representations with this identifier alone: Axis, FootPrint ...");
+    command.add_option("--id", options.id, "Draw one entity alone, 12 for #12");
+    command.add_option("--chord", options.chord,
+                       "Millimetres between a circle and its segments; 2 if not given");
+    command.add_option("--segments", options.segments,
+                       "Segments of a circle, at least and at most; 16,72 if not given");
+    command.add_option("--status", options.status, "File of a draw status");
+  }
+  void addDraw() {
+    CLI::App& command = add("draw", "A mesh or a picture of a model", m_draw, runDraw);
+    addDrawing(command, m_draw);
+    command.add_option("-o", m_draw.outputs, "A file to write: .glb, .obj, .png or .svg")
+        ->allow_extra_args(false);
+    command.add_flag("--trace", m_draw.trace, "Print each call that a draw target gets");
+    command.add_option("--view", m_draw.view, "Of pictures: plan, front, side or iso");
+    command.add_option("--size", m_draw.size, "Pixels of a .png, such as 1600x1200");
+  }
+  void addMeasure() {
+    addDrawing(add("measure", "Box, area and volume of each product", m_measure, runMeasure),
+               m_measure);
+  }
+  void addStatus() {
+    CLI::App& command = add("status", "What is hidden when a model is drawn", m_status, runStatus);
+    command.add_option("FILE", m_status.file, "The STEP file")->required();
+    command.add_option("--status", m_status.status, "File of a draw status to begin with");
+    command.add_option("--disable", m_status.disable, "Classes and guids to hide");
+    command.add_option("--write", m_status.write, "Store the draw status as XML");
+  }
+
   /// Help and version are errors of the parser that end well.
   ExitCode finish(const CLI::ParseError& error, Console& console) {
     if (error.get_exit_code() != 0)
@@ -100,12 +138,15 @@ class CommandLine {
     return ExitCode::success;
   }
 
-  CLI::App m_app{"Looks into IFC models in STEP files and converts them.", "fctool"};
+  CLI::App m_app{"Looks into IFC models in STEP files, draws and converts them.", "fctool"};
   InfoOptions m_info;
   TreeOptions m_tree;
   GetOptions m_get;
   PropertiesOptions m_properties;
   ConvertOptions m_convert;
+  DrawOptions m_draw;
+  MeasureOptions m_measure;
+  StatusOptions m_status;
   std::function<ExitCode(Console&)> m_command;
 };
 

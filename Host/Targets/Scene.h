@@ -11,6 +11,10 @@
 #include "Qor/Math/Matrix.h"
 #include "Qor/Math/Point.h"
 
+namespace qor::fc {
+class FcBase;
+}
+
 namespace qor::host::targets {
 
 /// How a surface or a line looks; numbers from 0 to 1.
@@ -60,7 +64,8 @@ struct SceneInstance {
   MaterialIndex material;  ///< stands for `inheritedMaterial` in the block
 };
 
-/// What is drawn in one frame, in metres.
+/// What is drawn in one frame, in metres. Coordinates are finite; texts are UTF-8 without control
+/// characters.
 struct SceneContent {
   Mesh mesh;
   std::vector<SceneLine> lines;
@@ -74,10 +79,11 @@ struct SceneContent {
 
 /// Something that has a name in the model: a product, or what it hangs on.
 struct SceneObject {
-  std::string className{};  ///< "IFCWALL"
-  std::string guid{};       ///< of 22 characters
+  const fc::FcBase* entity = nullptr;  ///< not owned; null when it was no entity
+  std::string className{};             ///< "IFCWALL"
+  std::string guid{};                  ///< of 22 characters
   std::string name{};
-  std::optional<std::size_t> parent{};  ///< index in the scene's `objects`
+  std::optional<std::size_t> parent{};  ///< index in the scene's `objects`; no cycles
   math::Matrix frame{};                 ///< into project coordinates
   SceneContent content{};               ///< in that frame
 };

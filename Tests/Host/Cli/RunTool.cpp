@@ -11,7 +11,7 @@
 
 namespace qor::test {
 
-ToolRun runTool(std::initializer_list<std::string> arguments, bool showProgress) {
+ToolRun runTool(const std::vector<std::string>& arguments, bool showProgress) {
   std::vector<const char*> argv{"fctool"};
   for (const std::string& argument : arguments) argv.push_back(argument.c_str());
   std::ostringstream out;

@@ -1,9 +1,9 @@
 #pragma once
 
 #include <filesystem>
-#include <initializer_list>
 #include <nlohmann/json.hpp>
 #include <string>
+#include <vector>
 
 #include "Host/Cli/Console.h"
 
@@ -19,7 +19,7 @@ struct ToolRun {
 };
 
 /// Runs `fctool` in this process: `runTool({"info", file})`.
-ToolRun runTool(std::initializer_list<std::string> arguments, bool showProgress = false);
+ToolRun runTool(const std::vector<std::string>& arguments, bool showProgress = false);
 
 /// The sample model of the repository.
 std::string sampleFile();

@@ -1,0 +1,180 @@
+#include "Host/Cli/DrawCommand.h"
+
+#include <fmt/format.h>
+
+#include <charconv>
+#include <fstream>
+#include <functional>
+#include <ostream>
+#include <utility>
+
+#include "Host/Cli/EntityLabel.h"
+#include "Host/Cli/LoadModel.h"
+#include "Host/Cli/PrintableText.h"
+#include "Host/Cli/SceneTree.h"
+#include "Host/StepFile/EntityNumbers.h"
+#include "Host/Targets/GltfWriter.h"
+#include "Host/Targets/ObjWriter.h"
+#include "Host/Targets/RecordingTarget.h"
+#include "Host/Targets/ScenePicture.h"
+#include "Host/Targets/SceneTarget.h"
+#include "Host/Targets/SvgWriter.h"
+#include "Qor/Image/Png.h"
+
+namespace qor::host::cli {
+
+namespace {
+
+using targets::Scene;
+using targets::View;
+
+/// What was asked for, understood.
+struct Plan {
+  math::CurveDiscretization discretization;
+  View view;
+  std::size_t width;
+  std::size_t height;
+};
+
+std::optional<std::pair<std::size_t, std::size_t>> sizeOf(const std::string& text) {
+  constexpr std::size_t most = 10000;
+  std::pair<std::size_t, std::size_t> size{};
+  const char* end = text.data() + text.size();
+  const auto [middle, error] = std::from_chars(text.data(), end, size.first);
+  if (error != std::errc() || middle == end || *middle != 'x') return std::nullopt;
+  const auto [last, secondError] = std::from_chars(middle + 1, end, size.second);
+  if (secondError != std::errc() || last != end) return std::nullopt;
+  const bool sound =
+      std::min(size.first, size.second) > 0 && std::max(size.first, size.second) <= most;
+  return sound ? std::optional(size) : std::nullopt;
+}
+
+std::optional<Plan> planOf(const DrawOptions& options, Console& console) {
+  const auto discretization = discretizationOf(options, console);
+  if (!discretization) return std::nullopt;
+  const auto view = targets::viewFromText(options.view);
+  const auto size = sizeOf(options.size);
+  for (const auto& output : options.outputs) {
+    const auto ending = output.extension();
+    if (ending == ".glb" || ending == ".obj" || ending == ".png" || ending == ".svg") continue;
+    refuse(console,
+           fmt::format("{} ends in none of .glb, .obj, .png, .svg", inQuotes(output.string())));
+    return std::nullopt;
+  }
+  if (!view)
+    refuse(console, fmt::format("{} is none of plan, front, side, iso", inQuotes(options.view)));
+  else if (!size)
+    refuse(console, fmt::format("{} is no size of a picture, such as 1600x1200, each side up to "
+                                "10000",
+                                inQuotes(options.size)));
+  else
+    return Plan{*discretization, *view, size->first, size->second};
+  return std::nullopt;
+}
+
+/// Writes one file; false, after a line that says why, when it can't be written whole.
+bool writeFile(const std::filesystem::path& path, Console& console,
+               const std::function<bool(std::ostream&)>& write) {
+  std::ofstream stream(path, std::ios::binary);
+  if (stream && write(stream) && stream.flush()) return true;
+  refuse(console, fmt::format("can't write {}", inQuotes(path.string())));
+  return false;
+}
+
+bool writeObjFiles(const std::filesystem::path& path, const Scene& scene, Console& console) {
+  std::filesystem::path materialPath = path;
+  materialPath.replace_extension(".mtl");
+  return writeFile(path, console, [&](std::ostream& out) {
+    return writeFile(materialPath, console, [&](std::ostream& materials) {
+      targets::writeObj(scene, materialPath.filename().string(), out, materials);
+      return true;
+    });
+  });
+}
+
+bool writeScene(const std::filesystem::path& path, const Scene& scene, const Plan& plan,
+                const std::string& title, Console& console) {
+  if (path.extension() == ".obj") return writeObjFiles(path, scene, console);
+  return writeFile(path, console, [&](std::ostream& out) {
+    if (path.extension() == ".glb") return targets::writeGlb(scene, out);
+    if (path.extension() == ".svg")
+      targets::writeSvg(scene, plan.view, title, out);
+    else
+      out << image::toPng(targets::pictureOf(scene, plan.view, plan.width, plan.height));
+    return true;
+  });
+}
+
+/// What a scene holds, a block once.
+struct Counts {
+  explicit Counts(const Scene& scene) : blocks(scene.blocks.size()) {
+    for (const targets::SceneObject& object : scene.objects) {
+      objects += object.content.isEmpty() ? 0 : 1;
+      add(object.content);
+    }
+    for (const targets::SceneContent& block : scene.blocks) add(block);
+  }
+  void add(const targets::SceneContent& content) {
+    triangles += content.mesh.triangles.size() / 3;
+    lines += content.lines.size();
+    texts += content.texts.size();
+  }
+
+  std::size_t objects = 0, blocks, triangles = 0, lines = 0, texts = 0;
+};
+
+void print(const DrawOptions& options, const Scene& scene, std::ostream& out) {
+  const Counts counts(scene);
+  if (options.json) {
+    nlohmann::ordered_json json{{"file", options.file.string()}, {"objects", counts.objects},
+                                {"blocks", counts.blocks},       {"triangles", counts.triangles},
+                                {"lines", counts.lines},         {"texts", counts.texts}};
+    json["outputs"] = nlohmann::ordered_json::array();
+    for (const auto& output : options.outputs) json["outputs"].push_back(output.string());
+    out << toText(json);
+    return;
+  }
+  out << fmt::format("{} objects, {} shared blocks, {} triangles, {} lines, {} texts\n",
+                     counts.objects, counts.blocks, counts.triangles, counts.lines, counts.texts);
+  for (const auto& output : options.outputs) out << fmt::format("{}\n", printable(output.string()));
+}
+
+std::string titleOf(const DrawOptions& options) {
+  std::string title = options.file.filename().string();
+  if (!options.context.empty()) title += ", " + options.context;
+  return title + ", " + options.view;
+}
+
+ExitCode trace(const DrawOptions& options, const step::ReadResult& model, const Plan& plan,
+               const fc::DrawStatus& status, RepresentationChoice* choice, Console& console) {
+  targets::RecordingTarget target(plan.discretization, console.out);
+  const bool drawn = drawModel(model, options, status, choice, target, console);
+  return drawn ? exitCodeOf(model) : ExitCode::impossible;
+}
+
+}  // namespace
+
+ExitCode runDraw(const DrawOptions& options, Console& console) {
+  const auto plan = planOf(options, console);
+  if (!plan) return ExitCode::impossible;
+  const auto model = loadModel(options.file, console);
+  if (!model) return ExitCode::impossible;
+  const auto status = readDrawStatus(*model->data, options.status, console);
+  if (!status) return ExitCode::impossible;
+  RepresentationChoice chosen(options.context);
+  RepresentationChoice* choice = options.context.empty() ? nullptr : &chosen;
+  if (options.trace) return trace(options, *model, *plan, *status, choice, console);
+
+  targets::SceneTarget target(plan->discretization);
+  if (!drawModel(*model, options, *status, choice, target, console)) return ExitCode::impossible;
+  Scene scene = target.takeScene();
+  step::EntityNumbers numbers(*model->data, model->instances);
+  arrangeAsTree(scene, *model->data,
+                [&](const fc::FcBase& entity) { return numbers.numberOf(entity); });
+  for (const auto& output : options.outputs)
+    if (!writeScene(output, scene, *plan, titleOf(options), console)) return ExitCode::impossible;
+  print(options, scene, console.out);
+  return exitCodeOf(*model);
+}
+
+}  // namespace qor::host::cli

@@ -1,0 +1,204 @@
+#include "Host/Cli/ModelDrawing.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <charconv>
+#include <fstream>
+#include <functional>
+#include <memory>
+#include <string_view>
+#include <utility>
+#include <variant>
+
+#include "Fc/ComplexGeometry/FcThreadedComplexGeometryProcessor.h"
+#include "Fc/Core/Kernel/FcProduct.h"
+#include "Fc/Core/Kernel/FcProject.h"
+#include "Fc/Document/Document.h"
+#include "Fc/FcDrawInterfaceWrapper.h"
+#include "Fc/FcGenerateParams.h"
+#include "Fc/Resource/Geometry/FcRepresentationItem.h"
+#include "Fc/Resource/Geometry/FcRepresentationMap.h"
+#include "Fc/Resource/Representation/FcProductRepresentation.h"
+#include "Fc/Resource/Representation/FcRepresentation.h"
+#include "Host/Cli/LoadModel.h"
+#include "Host/Cli/PrintableText.h"
+#include "Host/Cli/ProgressBar.h"
+#include "Host/StepFile/Progress.h"
+#include "Qor/Math/Epsilon.h"
+
+namespace qor::host::cli {
+
+namespace {
+
+using fc::core::kernel::FcProduct;
+using fc::core::kernel::FcRoot;
+using fc::resource::geometry::FcRepresentationItem;
+using fc::resource::geometry::FcRepresentationMap;
+using fc::resource::representation::FcGeometricRepresentationContext;
+using fc::resource::representation::FcProductRepresentation;
+using fc::resource::representation::FcRepresentation;
+
+template <class Number>
+std::optional<Number> numberOf(std::string_view text) {
+  Number number{};
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  const bool whole = error == std::errc() && end == text.data() + text.size();
+  return whole ? std::optional(number) : std::nullopt;
+}
+
+/// The entity with the number that is asked for; null, after a line that says why, for none.
+std::shared_ptr<fc::FcBase> findEntity(const step::ReadResult& model, const std::string& id,
+                                       Console& console) {
+  const auto number =
+      numberOf<std::uint64_t>(std::string_view(id).substr(id.starts_with('#') ? 1 : 0));
+  if (!number) {
+    refuse(console, fmt::format("{} is no number of an instance", inQuotes(id)));
+    return nullptr;
+  }
+  for (const step::NumberedEntity& instance : model.instances)
+    if (instance.number == *number && instance.entity) return instance.entity;
+  refuse(console, fmt::format("the file has no instance #{}", *number));
+  return nullptr;
+}
+
+/// Installs a processor for what needs the solid modeller, unless there is one, for as long as it
+/// lives.
+class ProcessorScope {
+ public:
+  ProcessorScope() : m_isOurs(!fc::getCurrentComplexGeometryProcessor()) {
+    if (m_isOurs)
+      fc::setCurrentComplexGeometryProcessor(
+          std::make_unique<fc::FcThreadedComplexGeometryProcessor>());
+  }
+  ProcessorScope(const ProcessorScope&) = delete;
+  ProcessorScope& operator=(const ProcessorScope&) = delete;
+  ~ProcessorScope() {
+    if (m_isOurs) fc::setCurrentComplexGeometryProcessor(nullptr);
+  }
+
+ private:
+  bool m_isOurs;
+};
+
+/// One walk over a model into one target.
+class Drawing {
+ public:
+  Drawing(const std::shared_ptr<fc::Data>& data, const fc::DrawStatus& status,
+          RepresentationChoice* choice, generate::draw::DrawInterface& target,
+          const std::function<void(double)>& tell)
+      : m_document(data),
+        m_target(target),
+        m_wrapper(target),
+        m_params(m_wrapper, m_document, status, *data, choice, nullptr, nullptr),
+        m_progress(tell, data->entities<FcProduct>().size()) {
+    m_params.skipObjectCallback = [this](const Guid&) {
+      m_progress.advance(m_done++);
+      return false;
+    };
+  }
+
+  /// False for an entity that can't be drawn.
+  bool draw(const std::shared_ptr<fc::FcBase>& entity) {
+    if (const auto root = fc::fcCast<FcRoot>(entity)) {
+      root->generate(m_params);
+      return true;
+    }
+    const fc::FcDrawParams params(m_wrapper);
+    if (const auto item = fc::fcCast<FcRepresentationItem>(entity))
+      return drawPart(*entity, [&] {
+        m_wrapper.drawConstRepresentationItem(item, params,
+                                              generate::draw::SurfaceDrawType::Surface);
+      });
+    if (const auto representation = fc::fcCast<FcRepresentation>(entity))
+      return drawPart(*entity, [&] { representation->draw(params); });
+    if (const auto map = fc::fcCast<FcRepresentationMap>(entity))
+      return drawPart(*entity, [&] { map->draw(params); });
+    if (const auto shape = fc::fcCast<FcProductRepresentation>(entity))
+      return drawPart(*entity, [&] { shape->generate(m_params); });
+    return false;
+  }
+
+ private:
+  /// What has no object of its own is drawn as one.
+  template <class Draw>
+  bool drawPart(const fc::FcBase& entity, const Draw& drawIt) {
+    m_target.startObject(&entity);
+    drawIt();
+    m_target.stopObject();
+    return true;
+  }
+
+  fc::document::Document m_document;
+  generate::draw::DrawInterface& m_target;
+  fc::FcDrawInterfaceWrapper m_wrapper;
+  fc::FcGenerateParams m_params;
+  step::Progress m_progress;
+  std::size_t m_done = 0;
+};
+
+fc::DrawStatus withAllContexts(const fc::DrawStatus& status) {
+  fc::DrawStatus::StateSet disabled = status.getDisabledStates();
+  std::erase_if(disabled, [](const fc::DrawStatus::StateKey& key) {
+    return std::holds_alternative<const FcGeometricRepresentationContext*>(key);
+  });
+  fc::DrawStatus result;
+  result.setDisabledStates(std::move(disabled));
+  return result;
+}
+
+}  // namespace
+
+std::optional<math::CurveDiscretization> discretizationOf(const DrawingOptions& options,
+                                                          Console& console) {
+  const std::string_view text = options.segments;
+  const std::size_t comma = std::min(text.find(','), text.size());
+  const auto least = numberOf<std::size_t>(text.substr(0, comma));
+  const auto most = numberOf<std::size_t>(text.substr(std::min(comma + 1, text.size())));
+  if (!least || !most || *least < 3 || *most < *least || *most > 100000) {
+    refuse(console, fmt::format("{} is no least and most number of segments, such as 16,72",
+                                inQuotes(options.segments)));
+    return std::nullopt;
+  }
+  if (!(options.chord > 0)) {
+    refuse(console, fmt::format("a chord of {} mm isn't above 0", options.chord));
+    return std::nullopt;
+  }
+  return math::CurveDiscretization(options.chord / 1000, *least, *most);
+}
+
+std::optional<fc::DrawStatus> readDrawStatus(const fc::Data& data,
+                                             const std::filesystem::path& file, Console& console) {
+  if (file.empty()) return fc::DrawStatus::createDefaultForProject(data);
+  std::ifstream stream(file, std::ios::binary);
+  auto status = stream ? fc::DrawStatus::deserialize(data, stream, file.string()) : std::nullopt;
+  if (!status)
+    refuse(console, fmt::format("can't read a draw status from {}", inQuotes(file.string())));
+  return status;
+}
+
+bool drawModel(const step::ReadResult& model, const DrawingOptions& options,
+               const fc::DrawStatus& status, RepresentationChoice* choice,
+               generate::draw::DrawInterface& target, Console& console) {
+  std::shared_ptr<fc::FcBase> start;
+  if (!options.id.empty()) {
+    start = findEntity(model, options.id, console);
+    if (!start) return false;
+  } else if (!(start = model.data->project())) {
+    refuse(console, fmt::format("{} has no project to draw; --id draws one entity",
+                                inQuotes(options.file.string())));
+    return false;
+  }
+  const ProcessorScope processor;
+  const math::EpsilonSave tolerances;
+  math::Epsilon::current().set(1000.0, false);
+  ProgressBar bar("Drawing", console);
+  const fc::DrawStatus all = choice ? withAllContexts(status) : fc::DrawStatus();
+  Drawing drawing(model.data, choice ? all : status, choice, target, bar.callback());
+  if (drawing.draw(start)) return true;
+  refuse(console,
+         fmt::format("{} {} is nothing that can be drawn", options.id, start->ifcNameUpper()));
+  return false;
+}
+
+}  // namespace qor::host::cli

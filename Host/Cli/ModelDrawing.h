@@ -1,0 +1,43 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include "Fc/Tree/DrawStatus.h"
+#include "Host/Cli/Console.h"
+#include "Host/Cli/RepresentationChoice.h"
+#include "Host/StepFile/StepReader.h"
+#include "Qor/Draw/DrawInterface.h"
+#include "Qor/Math/CurveDiscretization.h"
+
+namespace qor::host::cli {
+
+/// What a person asks of a drawing, whatever it is for.
+struct DrawingOptions {
+  std::filesystem::path file{};
+  std::string context{};           ///< identifier of representations; empty for what is normal
+  std::string id{};                ///< number of one entity to draw; empty for the project
+  double chord = 2;                ///< millimetres between a circle and its segments
+  std::string segments = "16,72";  ///< of a full circle, at least and at most
+  std::filesystem::path status{};  ///< file of a draw status; empty for the default one
+};
+
+/// How finely curves are drawn; nothing, after a line that says why, when it can't be understood.
+std::optional<math::CurveDiscretization> discretizationOf(const DrawingOptions& options,
+                                                          Console& console);
+
+/// A stored draw status, or the default one; nothing, after a line that says why, when the file
+/// can't be read.
+std::optional<fc::DrawStatus> readDrawStatus(const fc::Data& data,
+                                             const std::filesystem::path& file, Console& console);
+
+/// Draws the project, or the one entity that is asked for, into a target, with a progress bar.
+/// `choice` may be null: then the draw status decides which representations are drawn; otherwise
+/// the choice does, whatever contexts the status hides. False, after a line that says why, when
+/// there is nothing to start from.
+bool drawModel(const step::ReadResult& model, const DrawingOptions& options,
+               const fc::DrawStatus& status, RepresentationChoice* choice,
+               generate::draw::DrawInterface& target, Console& console);
+
+}  // namespace qor::host::cli

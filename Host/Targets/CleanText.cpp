@@ -1,0 +1,56 @@
+#include "Host/Targets/CleanText.h"
+
+#include <optional>
+
+#include "Qor/String/Utf8.h"
+
+namespace qor::host::targets {
+
+namespace {
+
+/// What XML can't hold at all, not even as a reference, among the control characters and beyond.
+bool isUnwelcome(char32_t c) {
+  return c < 0x20 || (c >= 0x7F && c < 0xA0) || c == 0xFFFE || c == 0xFFFF;
+}
+
+}  // namespace
+
+std::string cleanText(std::string_view text) {
+  std::string out;
+  out.reserve(text.size());
+  while (!text.empty()) {
+    const std::optional<Utf8CodePoint> next = firstCodePoint(text);
+    const std::size_t length = next ? next->length : 1;
+    if (!next)
+      appendUtf8(out, 0xFFFD);
+    else if (isUnwelcome(next->value))
+      out += ' ';
+    else
+      out += text.substr(0, length);
+    text.remove_prefix(length);
+  }
+  return out;
+}
+
+std::string xmlText(std::string_view text) {
+  std::string out;
+  for (const char c : cleanText(text)) switch (c) {
+      case '&':
+        out += "&amp;";
+        break;
+      case '<':
+        out += "&lt;";
+        break;
+      case '>':
+        out += "&gt;";
+        break;
+      case '"':
+        out += "&quot;";
+        break;
+      default:
+        out += c;
+    }
+  return out;
+}
+
+}  // namespace qor::host::targets

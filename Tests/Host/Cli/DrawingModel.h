@@ -1,0 +1,48 @@
+#pragma once
+
+namespace qor::test {
+
+/// A wall of 2 x 1 x 3 m, half transparent red, on a site far from the origin: its body is a closed
+/// tessellation, its axis a line of 2 m. Hidden by default: an opening of the same shape. An item
+/// on its own, #40, is a triangle.
+constexpr const char* drawingModel = R"(
+#1=IFCPROJECT('0000000000000000000001',$,'Project',$,$,$,$,(#2),#3);
+#2=IFCGEOMETRICREPRESENTATIONCONTEXT($,'Model',3,1.E-5,#4,$);
+#3=IFCUNITASSIGNMENT((#5));
+#4=IFCAXIS2PLACEMENT3D(#6,$,$);
+#5=IFCSIUNIT(*,.LENGTHUNIT.,$,.METRE.);
+#6=IFCCARTESIANPOINT((0.,0.,0.));
+#7=IFCGEOMETRICREPRESENTATIONSUBCONTEXT('Body','Model',*,*,*,*,#2,$,.MODEL_VIEW.,$);
+#8=IFCGEOMETRICREPRESENTATIONSUBCONTEXT('Axis','Model',*,*,*,*,#2,$,.GRAPH_VIEW.,$);
+#10=IFCSITE('0000000000000000000002',$,'Site',$,$,#11,$,$,.ELEMENT.,$,$,$,$,$);
+#11=IFCLOCALPLACEMENT($,#12);
+#12=IFCAXIS2PLACEMENT3D(#14,$,$);
+#13=IFCRELAGGREGATES('0000000000000000000003',$,$,$,#1,(#10));
+#14=IFCCARTESIANPOINT((100000.,200000.,0.));
+#20=IFCWALL('0000000000000000000004',$,'Wall',$,$,#21,#22,$,$);
+#21=IFCLOCALPLACEMENT(#11,#23);
+#22=IFCPRODUCTDEFINITIONSHAPE($,$,(#24,#25));
+#23=IFCAXIS2PLACEMENT3D(#19,$,$);
+#19=IFCCARTESIANPOINT((1.,2.,3.));
+#24=IFCSHAPEREPRESENTATION(#7,'Body','Tessellation',(#26));
+#26=IFCTRIANGULATEDFACESET(#27,$,.T.,((1,3,2),(2,3,4),(5,6,7),(6,8,7),(1,2,5),(2,6,5),(2,4,6),
+  (4,8,6),(4,3,8),(3,7,8),(3,1,7),(1,5,7)),$);
+#27=IFCCARTESIANPOINTLIST3D(((0.,0.,0.),(2.,0.,0.),(0.,1.,0.),(2.,1.,0.),(0.,0.,3.),(2.,0.,3.),
+  (0.,1.,3.),(2.,1.,3.)),$);
+#25=IFCSHAPEREPRESENTATION(#8,'Axis','Curve2D',(#28));
+#28=IFCPOLYLINE((#29,#30));
+#29=IFCCARTESIANPOINT((0.,0.5));
+#30=IFCCARTESIANPOINT((2.,0.5));
+#31=IFCRELCONTAINEDINSPATIALSTRUCTURE('0000000000000000000005',$,$,$,(#20),#10);
+#32=IFCSTYLEDITEM(#26,(#33),$);
+#33=IFCSURFACESTYLE($,.BOTH.,(#34));
+#34=IFCSURFACESTYLESHADING(#35,0.5);
+#35=IFCCOLOURRGB($,1.,0.,0.);
+#36=IFCOPENINGELEMENT('0000000000000000000006',$,'Opening',$,$,#21,#37,$,.OPENING.);
+#37=IFCPRODUCTDEFINITIONSHAPE($,$,(#24));
+#38=IFCRELAGGREGATES('0000000000000000000007',$,$,$,#20,(#36));
+#40=IFCTRIANGULATEDFACESET(#41,$,.F.,((1,2,3)),$);
+#41=IFCCARTESIANPOINTLIST3D(((0.,0.,0.),(3.,0.,0.),(0.,4.,0.)),$);
+)";
+
+}  // namespace qor::test

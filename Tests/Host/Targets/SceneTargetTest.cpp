@@ -1,0 +1,214 @@
+#include "Host/Targets/SceneTarget.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <sstream>
+
+#include "Fc/Reflection/MakeEntity.h"
+#include "Fc/Shared/BuildingElements/FcWall.h"
+#include "Host/Targets/MeshMeasure.h"
+#include "Host/Targets/RecordingTarget.h"
+#include "Tests/Support/ExpectAsserts.h"
+
+namespace qor::host::targets {
+namespace {
+
+using fc::shared::buildingelements::FcWall;
+using generate::draw::Color;
+using generate::draw::Material;
+using generate::draw::PolygonalFaceSetOpenGL;
+using generate::draw::TriangulatedFaceSetOpenGL;
+using math::Matrix;
+using math::Point3d;
+using test::ExpectAsserts;
+constexpr auto left = math::MatrixMultiplyOrder::left;
+
+const math::CurveDiscretization discretization(0.002, 16, 72);
+
+std::shared_ptr<const Material> material(const Color& colour, std::optional<float> opacity = {}) {
+  auto result = std::make_shared<Material>();
+  result->setSurfaceColor(colour);
+  result->setOpacity(opacity);
+  return result;
+}
+
+/// A cube from the origin on.
+PolygonalFaceSetOpenGL cube(double size) {
+  PolygonalFaceSetOpenGL set;
+  for (const double z : {0.0, size})
+    for (const double y : {0.0, size})
+      for (const double x : {0.0, size}) set.coordinates.emplace_back(x, y, z);
+  set.faces = {{{0, 2, 3, 1}}, {{4, 5, 7, 6}}, {{0, 1, 5, 4}},
+               {{1, 3, 7, 5}}, {{3, 2, 6, 7}}, {{2, 0, 4, 6}}};
+  return set;
+}
+
+/// What the first object draws, in project coordinates.
+MeshMeasure measureOf(const Scene& scene) {
+  std::vector<Point3d> points;
+  std::vector<std::uint32_t> triangles;
+  scene.forEachContent(scene.objects.at(0),
+                       [&](const SceneContent& content, const Matrix& frame, MaterialIndex) {
+                         const auto base = static_cast<std::uint32_t>(points.size());
+                         for (const Point3d& p : content.mesh.points) points.push_back(p * frame);
+                         for (const auto i : content.mesh.triangles) triangles.push_back(base + i);
+                       });
+  return measureMesh(points, triangles);
+}
+
+TEST(SceneTarget, KeepsContentInTheFrameOfTheObject) {
+  SceneTarget target(discretization);
+  const auto wall = fc::makeEntity<FcWall>();
+  wall->setGlobalId(*[] {
+    auto guid = std::make_unique<Guid>();
+    guid->boSet("2O2Fr$t4X7Zf8NOew3FNr2");
+    return guid;
+  }());
+  wall->setName("South\nwall");
+  target.startObject(wall.get());
+  target.vTransformationMultiply(Matrix::createTranslation({1e6, 2, 3}), left);
+  target.vTransformationMultiply(Matrix::createTranslation({0.5, 0, 0}), left);
+  target.polygonalFaceSet(cube(1));
+  target.vPolyline({{0, 0, 0}, {1, 0, 0}});
+  target.vTextLiteral("text", 4);
+  target.stopObject();
+  const Scene scene = target.takeScene();
+  ASSERT_EQ(scene.objects.size(), 1u);
+  const SceneObject& object = scene.objects[0];
+  EXPECT_EQ(object.entity, wall.get());
+  EXPECT_EQ(object.className + object.guid + object.name,
+            "IFCWALL2O2Fr$t4X7Zf8NOew3FNr2South wall");
+  EXPECT_EQ(object.frame.origin(), Point3d(1e6, 2, 3));
+  EXPECT_EQ(object.content.lines[0].points[1], Point3d(1.5, 0, 0));
+  EXPECT_EQ(object.content.texts[0].frame.origin(), Point3d(0.5, 0, 0));
+  EXPECT_EQ(measureOf(scene).box, math::Extent({1e6 + 0.5, 2, 3}, {1e6 + 1.5, 3, 4}));
+}
+
+TEST(SceneTarget, TurnsFacesOutwardInMirroredFrames) {
+  for (const double mirror : {1.0, -1.0}) {
+    SceneTarget target(discretization);
+    target.startObject(nullptr);
+    target.vTransformationMultiply({}, left);
+    target.vTransformationMultiply(Matrix::createScale(mirror, 1, 2), left);
+    target.polygonalFaceSet(cube(1));
+    target.stopObject();
+    const MeshMeasure measure = measureOf(target.takeScene());
+    EXPECT_NEAR(measure.volume, 2, 1e-12);
+    EXPECT_TRUE(measure.closed);
+  }
+}
+
+TEST(SceneTarget, JoinsRangesOfOneLook) {
+  SceneTarget target(discretization);
+  target.polygonalFaceSet(cube(1));
+  target.setMaterial(material({1, 0, 0}));
+  target.polygonalFaceSet(cube(1));
+  target.setMaterial(material({1, 0, 0}));
+  target.polygonalFaceSet(cube(1));
+  target.setMaterial(material({1, 0, 0}, 0.25f));
+  target.polygonalFaceSet(cube(1));
+  const Scene scene = target.takeScene();
+  const Mesh& mesh = scene.objects.at(0).content.mesh;
+  ASSERT_EQ(mesh.ranges.size(), 3u);
+  EXPECT_EQ(mesh.ranges[1].count, 24u);
+  EXPECT_EQ(scene.materials[mesh.ranges[0].material], SceneMaterial());
+  EXPECT_EQ(scene.materials[mesh.ranges[2].material], (SceneMaterial{1, 0, 0, 0.25f}));
+}
+
+/// Draws what is in a block the first time; `inner` frames it.
+template <class Draw>
+void drawBlock(SceneTarget& target, const char* name, const Matrix& frame, Draw&& draw) {
+  const generate::draw::TransformationGuard guard(target);
+  target.vTransformationMultiply(frame, left);
+  if (target.startBlock(name) == 0) draw();
+  target.stopBlock();
+}
+
+TEST(SceneTarget, SharesBlocksWithTheLookOfEachUse) {
+  SceneTarget target(discretization);
+  target.startObject(nullptr);
+  target.vTransformationMultiply(Matrix::createTranslation({0, 0, 5}), left);
+  const auto red = material({1, 0, 0}), green = material({0, 1, 0}), blue = material({0, 0, 1});
+  for (const auto& look : {red, green}) {
+    target.setMaterial(look);
+    const double x = look == red ? 0 : 10;
+    drawBlock(target, "outer", Matrix::createTranslation({x, 0, 0}), [&] {
+      target.polygonalFaceSet(cube(1));
+      drawBlock(target, "inner", Matrix::createTranslation({0, 2, 0}), [&] {
+        target.polygonalFaceSet(cube(1));
+        target.setMaterial(blue);
+        target.polygonalFaceSet(cube(0.5));
+      });
+    });
+    EXPECT_EQ(target.getMaterial(), look) << "a block leaves the look as it was";
+  }
+  target.stopObject();
+  const Scene scene = target.takeScene();
+  ASSERT_EQ(scene.blocks.size(), 2u);
+  ASSERT_EQ(scene.objects[0].content.instances.size(), 2u);
+  std::vector<std::pair<Point3d, std::vector<SceneMaterial>>> seen;
+  scene.forEachContent(scene.objects[0], [&](const SceneContent& content, const Matrix& frame,
+                                             MaterialIndex inherited) {
+    if (content.mesh.triangles.empty()) return;
+    auto& [origin, looks] = seen.emplace_back(frame.origin(), std::vector<SceneMaterial>());
+    for (const MeshRange& range : content.mesh.ranges)
+      looks.push_back(
+          scene.materials[range.material == inheritedMaterial ? inherited : range.material]);
+  });
+  const SceneMaterial r{1, 0, 0, 1}, g{0, 1, 0, 1}, b{0, 0, 1, 1};
+  const decltype(seen) expected{
+      {{0, 0, 5}, {r}}, {{0, 2, 5}, {r, b}}, {{10, 0, 5}, {g}}, {{10, 2, 5}, {g, b}}};
+  EXPECT_EQ(seen, expected);
+}
+
+TEST(SceneTarget, LeavesOutWhatIsNoPlaceInAModel) {
+  const char* lost = "Coordinates that are no place in a model, left out";
+  const ExpectAsserts asserts({lost, lost, lost, "Illegal index in face"});
+  SceneTarget target(discretization);
+  PolygonalFaceSetOpenGL set = cube(1);
+  set.coordinates[7].x = std::nan("");
+  set.faces.push_back({{0, 1, 99}});
+  target.polygonalFaceSet(std::move(set));
+  TriangulatedFaceSetOpenGL triangles;
+  triangles.setVertexData({{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {1e300, 0, 0}});
+  triangles.triangles = {{0, 1, 2}, {0, 1, 3}};
+  target.triangulatedFaceSet(std::move(triangles));
+  target.vPolyline({{0, 0, 0}, {INFINITY, 0, 0}, {2, 0, 0}});
+  const Scene scene = target.takeScene();
+  const MeshMeasure measure = measureOf(scene);
+  EXPECT_EQ(measure.triangles, 7u);
+  EXPECT_EQ(scene.objects[0].content.lines[0].points.size(), 2u);
+  EXPECT_EQ(scene.box(), math::Extent({0, 0, 0}, {2, 1, 1}));
+}
+
+TEST(RecordingTarget, WritesEachCallAsALine) {
+  std::ostringstream out;
+  RecordingTarget target(discretization, out);
+  const auto wall = fc::makeEntity<FcWall>();
+  wall->setName("W\xC3\xA4nd");
+  target.startObject(wall.get());
+  target.vTransformationMultiply(Matrix::createTranslation({1, 2, 3}), left);
+  target.setMaterial(material({0.5f, 0, 1}));
+  EXPECT_EQ(target.startBlock("0x1234"), 0u);
+  target.polygonalFaceSet(cube(2));
+  target.stopBlock();
+  EXPECT_NE(target.startBlock("0x1234"), 0u);
+  target.stopBlock();
+  target.vPolyline({{0, 0, 0}, {0.1, -0.0, 1e-12}});
+  target.stopObject();
+  EXPECT_EQ(out.str(),
+            "startObject IFCWALL 'W\xC3\xA4nd' 0000000000000000000000\n"
+            "  vTransformationMultiply left x (1 0 0) y (0 1 0) z (0 0 1) origin (1 2 3)\n"
+            "  setMaterial (0.5 0 1) opacity 1\n"
+            "  startBlock 1\n"
+            "    polygonalFaceSet 8 points, 6 faces, from (0 0 0) to (2 2 2)\n"
+            "  stopBlock\n"
+            "  startBlock 1 again\n"
+            "  stopBlock\n"
+            "  vPolyline 2 points (0 0 0) (0.1 0 1e-12)\n"
+            "stopObject\n");
+}
+
+}  // namespace
+}  // namespace qor::host::targets
