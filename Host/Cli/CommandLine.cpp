@@ -10,7 +10,9 @@
 
 #include "Host/Cli/AssertLines.h"
 #include "Host/Cli/ConvertCommand.h"
+#include "Host/Cli/DiffCommand.h"
 #include "Host/Cli/DrawCommand.h"
+#include "Host/Cli/ExtractCommand.h"
 #include "Host/Cli/GetCommand.h"
 #include "Host/Cli/InfoCommand.h"
 #include "Host/Cli/LoadModel.h"
@@ -35,6 +37,8 @@ class CommandLine {
     addTree();
     addGet();
     addProperties();
+    addExtract();
+    addDiff();
     addConvert();
     addDraw();
     addMeasure();
@@ -87,6 +91,20 @@ class CommandLine {
             runProperties);
     command.add_option("FILE", m_properties.file, "The STEP file")->required();
     command.add_option("--guid", m_properties.guid, "Of this object or type alone");
+  }
+  void addExtract() {
+    CLI::App& command =
+        add("extract", "Write some objects with what they need", m_extract, runExtract);
+    command.add_option("FILE", m_extract.input, "The STEP file to read")->required();
+    command.add_option("--guid", m_extract.guids, "The objects to write")->required();
+    command.add_option("-o,--output", m_extract.output, "The file to write; replaced at once")
+        ->required();
+  }
+  void addDiff() {
+    CLI::App& command =
+        add("diff", "What is new, gone and changed in the second of two files", m_diff, runDiff);
+    command.add_option("A", m_diff.before, "The STEP file to compare with")->required();
+    command.add_option("B", m_diff.after, "The STEP file to look into")->required();
   }
   void addConvert() {
     CLI::App& command = add("convert", "Read a file and write it as IFC4X3_ADD2, in SI units",
@@ -145,6 +163,8 @@ class CommandLine {
   TreeOptions m_tree;
   GetOptions m_get;
   PropertiesOptions m_properties;
+  ExtractOptions m_extract;
+  DiffOptions m_diff;
   ConvertOptions m_convert;
   DrawOptions m_draw;
   MeasureOptions m_measure;

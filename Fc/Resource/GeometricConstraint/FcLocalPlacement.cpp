@@ -11,7 +11,8 @@ using math::Matrix;
 
 namespace {
 
-const FcObjectPlacement* next(const FcObjectPlacement* placement) {
+/// The placement that this one is relative to; null for none.
+const FcObjectPlacement* baseOf(const FcObjectPlacement* placement) {
   return placement ? placement->PlacementRelTo().get() : nullptr;
 }
 
@@ -21,11 +22,11 @@ const FcObjectPlacement* next(const FcObjectPlacement* placement) {
 const FcObjectPlacement* closingPlacement(const FcObjectPlacement* start) {
   const FcObjectPlacement *slow = start, *fast = start;
   do {
-    slow = next(slow);
-    fast = next(next(fast));
+    slow = baseOf(slow);
+    fast = baseOf(baseOf(fast));
     if (!fast) return nullptr;
   } while (slow != fast);
-  for (slow = start; slow != fast; fast = next(fast)) slow = next(slow);
+  for (slow = start; slow != fast; fast = baseOf(fast)) slow = baseOf(slow);
   return slow;
 }
 
@@ -33,7 +34,7 @@ const FcObjectPlacement* closingPlacement(const FcObjectPlacement* start) {
 std::string placedObject(const FcObjectPlacement& placement) {
   for (const auto& product : placement.PlacesObject().lockAll()) {
     std::string text =
-        std::string(" of ") + product->ifcNameUpper() + " " + product->GlobalId().toString(true);
+        std::string(" of ") + product->ifcNameUpper() + " " + product->GlobalId().toString(false);
     if (product->Name()) text += " (" + *product->Name() + ")";
     return text;
   }
@@ -58,7 +59,7 @@ Matrix FcLocalPlacement::placementGet(bool relativeOnly) const {
   const FcObjectPlacement* closing = closingPlacement(this);
   if (closing) reportCycle(*this, *closing);
   bool closed = closing == this;
-  for (const FcObjectPlacement* base = next(this); base; base = next(base)) {
+  for (const FcObjectPlacement* base = baseOf(this); base; base = baseOf(base)) {
     if (base == closing && closed) break;
     closed = closed || base == closing;
     const auto* local = fcCast<FcLocalPlacement>(base);

@@ -5,6 +5,7 @@
 
 #include "Fc/Resource/GeometricModel/FaceSetWithMaterial.h"
 #include "Fc/Resource/GeometricModel/FcPolygonalFaceSetAttributes.h"
+#include "Fc/Resource/GeometricModel/SweepFaces.h"
 
 namespace qor::fc::resource::presentationappearance {
 class FcIndexedPolygonalTextureMap;
@@ -48,6 +49,22 @@ class QOR_API FcPolygonalFaceSet : public FcPolygonalFaceSetAttributes {
   /// first that is equal in x, y and z, without a tolerance, or of the point appended. Constant
   /// time on average.
   measure::FcPositiveInteger addPoint(const math::Point3d& point);
+
+  // What bodies swept from a profile are built of: the functions of these names in `SweepFaces.h`.
+  static std::vector<math::Point3d> getPointsInProfileForGeneratingFaceSet(
+      const generate::draw::Profile2D& profile, std::size_t stations, bool reverse) {
+    return geometricmodel::getPointsInProfileForGeneratingFaceSet(profile, stations, reverse);
+  }
+  static SweptFace generateBottomFace(const generate::draw::Profile2D& profile) {
+    return geometricmodel::generateBottomFace(profile);
+  }
+  static SweptFace generateTopFace(const SweptFace& bottom, std::uint32_t offset, bool hasVoids) {
+    return geometricmodel::generateTopFace(bottom, offset, hasVoids);
+  }
+  static void addIndexedFacesForSides(const generate::draw::Profile2D& profile, std::size_t n,
+                                      std::size_t& counter, SweptFaces& hard, SweptFaces* soft) {
+    geometricmodel::addIndexedFacesForSides(profile, n, counter, hard, soft);
+  }
 
  private:
   std::optional<std::vector<FaceSetWithMaterial>> splitByColour(

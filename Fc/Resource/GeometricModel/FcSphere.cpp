@@ -26,6 +26,7 @@ generate::draw::TriangulatedFaceSetOpenGL FcSphere::getFaceSet(
 
 std::optional<math::Extent> FcSphere::boundingBox(const FcParams& /*params*/) const {
   const double r = m_Radius;
+  if (!(r > 0)) return std::nullopt;
   return placedBox({{-r, -r, -r}, {r, r, r}});
 }
 

@@ -15,6 +15,7 @@ class QOR_API FcSphere : public FcSphereAttributes {
   void draw(const FcDrawParams& params) const override;
   /// The radius follows a uniform scaling; nothing changes under another one.
   void transform(const math::Matrix& matrix) override;
+  /// Empty for a radius that isn't positive.
   std::optional<math::Extent> boundingBox(const FcParams& params) const override;
 
   /// In the sphere's frame, with as many bands of latitude as a full circle has segments. Empty for

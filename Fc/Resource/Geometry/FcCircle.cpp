@@ -37,7 +37,7 @@ std::optional<ConicArc> arcBetween(const Matrix& position, const FcCurve::Trim& 
   };
   const auto from = trimAngle(trim1, angleOfPoint), to = trimAngle(trim2, angleOfPoint);
   if (!from || !to) return {};
-  const bool apart = !trim1 || std::abs(*from - *to) > math::Epsilon::current().angle;
+  const bool apart = !trim1 || !(std::abs(*from - *to) <= math::Epsilon::current().angle);
   if (!expectThat(apart,
                   "By informal proposition on IfcTrimmedCurve, trimming points/parameters for a "
                   "FcCircle should not be equal.",

@@ -33,7 +33,7 @@ std::vector<Point2d> FcEllipse::localPoints(const FcParams& params, const Trim& 
   };
   const auto from = trimAngle(trim1, angleOfPoint), to = trimAngle(trim2, angleOfPoint);
   if (!from || !to) return {};
-  if (!expectThat(!trim1 || std::abs(*from - *to) > math::Epsilon::current().angle,
+  if (!expectThat(!trim1 || !(std::abs(*from - *to) <= math::Epsilon::current().angle),
                   "By formal proposition on IfcTrimmedCurve, trimming points/parameters for a "
                   "FcCircle should not be equal.",
                   operation, __LINE__))

@@ -15,7 +15,7 @@ void FcVector::setVector(const Vector3d& vector, std::size_t dimension) {
   const double length = vector.length();
   setMagnitude(length);
   if (!(length > 0)) return;
-  const Vector3d unit = vector * (1 / length);
+  const Vector3d unit(vector.x / length, vector.y / length, vector.z / length);
   if (!Orientation()) setOrientation(makeDirection(unit));
   if (dimension == 2)
     Orientation()->setVector(Vector2d(unit.x, unit.y));

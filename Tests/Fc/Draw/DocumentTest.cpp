@@ -65,7 +65,8 @@ TEST(Documents, DrawWhatTheirStatusSays) {
   test::SmallModel model;
   model.give(*model.storey, {model.shape("Body", {model.line()})});
   Document document(model.data);
-  document.drawStatus().setEnabled(std::type_index(typeid(*model.storey)), false);
+  document.drawStatus().setEnabled(
+      std::type_index(typeid(core::productextension::FcBuildingStorey)), false);
   test::RecordingTarget target;
   document.generate(target);
   EXPECT_THAT(target.calls, ElementsAre("start IfcBuildingStorey Storey", "stop"));
