@@ -132,6 +132,8 @@ class CommandLine {
     command.add_option("-o", m_draw.outputs, "A file to write: .glb, .obj, .png or .svg")
         ->allow_extra_args(false);
     command.add_flag("--trace", m_draw.trace, "Print each call that a draw target gets");
+    command.add_flag("--spaces", m_draw.spaces, "Show spaces too, which cover what is in them");
+    command.add_flag("--openings", m_draw.openings, "Show openings too, as bodies");
     command.add_option("--view", m_draw.view, "Of pictures: plan, front, side or iso");
     command.add_option("--size", m_draw.size, "Pixels of a .png, such as 1600x1200");
   }
