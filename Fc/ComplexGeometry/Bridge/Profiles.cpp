@@ -15,7 +15,7 @@
 #include "Fc/FcParams.h"
 #include "Fc/HelperFunctionsOC.h"
 #include "Fc/NotImplemented.h"
-include "Fc/Resource/Geometry/FcBoundedCurve.h"
+#include "Fc/Resource/Geometry/FcBoundedCurve.h"
 #include "Fc/Resource/Profile/FcArbitraryOpenProfileDef.h"
 #include "Fc/Resource/Profile/FcArbitraryProfileDefWithVoids.h"
 #include "Fc/Resource/Profile/FcCenterLineProfileDef.h"
