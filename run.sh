@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Builds fctool and runs it on a model: what is in it, its tree, the model written back to out/, and a mesh and a picture
-# of it there.
+# Builds fctool and runs it on a model: what is in it, its tree, its properties, the model written back to out/, and a mesh
+# and a picture of it there.
 #   ./run.sh              on the small model that the repository carries
 #   ./run.sh model.ifc    on yours
 # Exits as fctool does: 0, 1 (the file has problems, all reported) or 2 (it can't be done).
@@ -35,6 +35,7 @@ mkdir -p "$root/out"
 written=$root/out/$(basename "$model")
 fctool info "$model"
 fctool tree "$model"
+fctool properties "$model"
 fctool convert "$model" "$written"
 fctool draw "$model" -o "${written%.*}.glb" -o "${written%.*}.png"
 exit "$worst"

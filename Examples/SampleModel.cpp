@@ -30,10 +30,12 @@
 #include "Fc/Core/Kernel/FcProject.h"
 #include "Fc/Core/Kernel/FcPropertySet.h"
 #include "Fc/Core/Kernel/FcRelAggregates.h"
+#include "Fc/Core/Kernel/FcRelAssociatesClassification.h"
 #include "Fc/Core/Kernel/FcRelDefinesByProperties.h"
 #include "Fc/Core/Kernel/FcRelDefinesByType.h"
 #include "Fc/Core/ProductExtension/FcBuilding.h"
 #include "Fc/Core/ProductExtension/FcBuildingStorey.h"
+#include "Fc/Core/ProductExtension/FcElementQuantity.h"
 #include "Fc/Core/ProductExtension/FcOpeningElement.h"
 #include "Fc/Core/ProductExtension/FcRelContainedInSpatialStructure.h"
 #include "Fc/Core/ProductExtension/FcRelFillsElement.h"
@@ -41,13 +43,19 @@
 #include "Fc/Core/ProductExtension/FcSite.h"
 #include "Fc/Core/ProductExtension/FcSpace.h"
 #include "Fc/Data.h"
+#include "Fc/Resource/ExternalReference/FcClassification.h"
+#include "Fc/Resource/ExternalReference/FcClassificationReference.h"
 #include "Fc/Resource/GeometricConstraint/FcLocalPlacement.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
 #include "Fc/Resource/Geometry/FcDirection.h"
+#include "Fc/Resource/Measure/FcDerivedUnit.h"
+#include "Fc/Resource/Measure/FcDerivedUnitElement.h"
 #include "Fc/Resource/Measure/FcSIUnit.h"
 #include "Fc/Resource/Measure/FcUnitAssignment.h"
 #include "Fc/Resource/Property/FcPropertySingleValue.h"
+#include "Fc/Resource/Quantity/FcQuantityArea.h"
+#include "Fc/Resource/Quantity/FcQuantityLength.h"
 #include "Fc/Resource/Representation/FcGeometricRepresentationSubContext.h"
 #include "Fc/Shared/BuildingElements/FcDoor.h"
 #include "Fc/Shared/BuildingElements/FcSlab.h"
@@ -61,10 +69,12 @@ namespace {
 using namespace qor;
 using namespace qor::fc::core::kernel;
 using namespace qor::fc::core::productextension;
+using namespace qor::fc::resource::externalreference;
 using namespace qor::fc::resource::geometricconstraint;
 using namespace qor::fc::resource::geometry;
 using namespace qor::fc::resource::measure;
 using namespace qor::fc::resource::property;
+using namespace qor::fc::resource::quantity;
 using namespace qor::fc::resource::representation;
 using namespace qor::fc::shared::buildingelements;
 
@@ -90,8 +100,12 @@ class SampleHouse {
     aggregate(ground, {room});
     furnishGround(ground);
     furnishUpper(upper);
-    createWallType();
+    const auto wallType = createWallType();
     describeWalls();
+    describe(*wallType);
+    measure(walls<FcWall>().front());
+    classifyWalls();
+    addThermalUnits(*project->UnitsInContext());
   }
 
   host::step::WriteResult write(const std::string& path) const {
@@ -145,11 +159,27 @@ class SampleHouse {
     units->insertUnits(createUnit(FcUnitEnum::PLANEANGLEUNIT, FcSIUnitName::RADIAN));
     return units;
   }
-  FcUnit createUnit(FcUnitEnum type, FcSIUnitName name) {
+  std::shared_ptr<FcNamedUnit> createUnit(FcUnitEnum type, FcSIUnitName name) {
     auto unit = create<FcSIUnit>();
     unit->setUnitType(type);
     unit->setName(name);
-    return FcUnit(std::static_pointer_cast<FcNamedUnit>(unit));
+    return unit;
+  }
+
+  /// A unit that is made of others: watt per square metre and kelvin.
+  void addThermalUnits(FcUnitAssignment& units) {
+    auto transmittance = create<FcDerivedUnit>();
+    transmittance->setUnitType(FcDerivedUnitEnum::THERMALTRANSMITTANCEUNIT);
+    const auto add = [&](std::shared_ptr<FcNamedUnit> unit, int exponent) {
+      auto element = create<FcDerivedUnitElement>();
+      element->setUnit(std::move(unit));
+      element->setExponent(exponent);
+      transmittance->insertElements(element);
+    };
+    add(createUnit(FcUnitEnum::POWERUNIT, FcSIUnitName::WATT), 1);
+    add(units.Units().front().NamedUnit(), -2);
+    add(createUnit(FcUnitEnum::THERMODYNAMICTEMPERATUREUNIT, FcSIUnitName::KELVIN), -1);
+    units.insertUnits(transmittance);
   }
 
   /// The frame of all shapes, and below it the context for bodies.
@@ -293,12 +323,13 @@ class SampleHouse {
   }
 
   /// One type for all walls of the model.
-  void createWallType() {
+  std::shared_ptr<FcWallType> createWallType() {
     auto type = createRoot<FcWallType>("Brick 240");
     type->setPredefinedType(FcWallTypeEnum::SOLIDWALL);
     auto relation = createRoot<FcRelDefinesByType>();
     relation->setRelatingType(type);
     relation->setRelatedObjects(walls<FcObject>());
+    return type;
   }
 
   void describeWalls() {
@@ -311,6 +342,14 @@ class SampleHouse {
     relation->setRelatedObjects(walls<FcObjectDefinition>());
     relation->setRelatingPropertyDefinition(std::static_pointer_cast<FcPropertySetDefinition>(set));
   }
+  /// A type holds its sets itself. What an occurrence says in a set of the same name comes first.
+  void describe(FcWallType& type) {
+    auto set = createRoot<FcPropertySet>("Pset_WallCommon");
+    set->setHasProperties(
+        {createProperty("LoadBearing", FcBoolean(true)),
+         createProperty("ThermalTransmittance", FcThermalTransmittanceMeasure(0.28))});
+    type.insertHasPropertySets(set);
+  }
   std::shared_ptr<FcProperty> createProperty(const std::string& name, FcValue value) {
     auto property = create<FcPropertySingleValue>();
     property->setName(name);
@@ -318,8 +357,35 @@ class SampleHouse {
     return property;
   }
 
-  /// All walls, as a list that an attribute takes. `m_data->entities<FcWall>()` finds them too, in
-  /// no fixed order; here it is the order in which they were made.
+  /// What the wall measures, as quantities for those who only count.
+  void measure(const std::shared_ptr<FcWall>& wall) {
+    auto set = createRoot<FcElementQuantity>("Qto_WallBaseQuantities");
+    auto length = create<FcQuantityLength>();
+    length->setName("Length");
+    length->setLengthValue(8.0);
+    auto area = create<FcQuantityArea>();
+    area->setName("GrossSideArea");
+    area->setAreaValue(22.4);
+    set->setQuantities({length, area});
+    auto relation = createRoot<FcRelDefinesByProperties>();
+    relation->setRelatedObjects({wall});
+    relation->setRelatingPropertyDefinition(std::static_pointer_cast<FcPropertySetDefinition>(set));
+  }
+
+  /// The place of the walls in a classification that others read too.
+  void classifyWalls() {
+    auto system = create<FcClassification>();
+    system->setName("DIN 276");
+    auto code = create<FcClassificationReference>();
+    code->setIdentification("331");
+    code->setName("Load-bearing exterior walls");
+    code->setReferencedSource(system);
+    auto relation = createRoot<FcRelAssociatesClassification>();
+    for (const auto& wall : walls<FcObjectDefinition>()) relation->insertRelatedObjects(wall);
+    relation->setRelatingClassification(code);
+  }
+
+  /// All walls, as a list that an attribute takes. `m_data->entities<FcWall>()` finds them too.
   template <class T>
   std::vector<std::shared_ptr<T>> walls() const {
     std::vector<std::shared_ptr<T>> found;

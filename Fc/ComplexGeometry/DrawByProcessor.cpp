@@ -20,9 +20,8 @@ void drawByProcessor(const resource::geometry::FcRepresentationItem& item,
                      __LINE__);
     return;
   }
-  const auto result = processor->processAndCast<FcPolygonalFaceSetResult>(FcExplicitGeometryTask(
-      FcParams(params), std::static_pointer_cast<const resource::geometry::FcRepresentationItem>(
-                            item.shared_from_this())));
+  const auto result = processor->processAndCast<FcPolygonalFaceSetResult>(
+      FcExplicitGeometryTask(FcParams(params), item));
   if (!result) return;
   for (auto& faceSet : result->takeFaceSets()) params->polygonalFaceSet(std::move(faceSet));
 }

@@ -4,6 +4,7 @@
 #include <BRepTools.hxx>
 #include <BRepTools_WireExplorer.hxx>
 #include <BRep_Tool.hxx>
+#include <Geom_Line.hxx>
 #include <Geom_Plane.hxx>
 #include <Poly_PolygonOnTriangulation.hxx>
 #include <Poly_Triangulation.hxx>
@@ -41,6 +42,82 @@ void reportFace(const char* message, int line) {
                    line);
 }
 
+using Face = PolygonalFaceSetOpenGL::Face;
+
+bool isPlanar(const TopoDS_Face& face) {
+  TopLoc_Location location;
+  return !opencascade::handle<Geom_Plane>::DownCast(BRep_Tool::Surface(face, location)).IsNull();
+}
+
+bool isStraight(const TopoDS_Edge& edge) {
+  TopLoc_Location location;
+  double first, last;
+  return !opencascade::handle<Geom_Line>::DownCast(BRep_Tool::Curve(edge, location, first, last))
+              .IsNull();
+}
+
+// The points along a wire, one after the other, each once: `appendEdge` puts those of an edge, but
+// its last, behind the others. Empty when the edges of the wire don't follow one another.
+template <class AppendEdge>
+std::optional<Ring> ringAlong(const TopoDS_Wire& wire, const TopoDS_Face& face,
+                              const AppendEdge& appendEdge) {
+  Ring ring;
+  int edgeCount = 0;
+  for (BRepTools_WireExplorer edges(wire, face); edges.More(); edges.Next(), ++edgeCount)
+    if (!appendEdge(edges, ring)) return {};
+  if (edgeCount != wire.NbChildren()) return {};
+  while (ring.size() > 1 && ring.front() == ring.back()) ring.pop_back();
+  if (ring.size() < 3) return {};
+  return ring;
+}
+
+void appendTo(Ring& ring, std::uint32_t index) {
+  if (ring.empty() || ring.back() != index) ring.push_back(index);
+}
+
+// A planar face as a polygon. Empty when its wires aren't those of a sound face.
+template <class AppendEdge>
+std::optional<Face> polygonOf(const TopoDS_Face& face, const AppendEdge& appendEdge) {
+  const TopoDS_Wire outer = BRepTools::OuterWire(face);
+  if (outer.IsNull()) {
+    reportFace("There is a Face which has no outer Wire.", __LINE__);
+    return {};
+  }
+  Face polygon;
+  for (TopoDS_Iterator part(face); part.More(); part.Next()) {
+    if (part.Value().ShapeType() != TopAbs_WIRE) return {};
+    auto ring = ringAlong(TopoDS::Wire(part.Value()), face, appendEdge);
+    if (!ring) return {};
+    if (part.Value().IsSame(outer))
+      polygon.outer = std::move(*ring);
+    else
+      polygon.holes.push_back(std::move(*ring));
+  }
+  if (polygon.outer.empty()) return {};
+  return polygon;
+}
+
+// The set of a shape whose faces are all planar and whose edges are all straight: it needs no mesh.
+// Empty for any other shape.
+std::optional<PolygonalFaceSetOpenGL> faceSetOfPolyhedron(const TopoDS_Shape& shape) {
+  PolygonalFaceSetOpenGL set;
+  PointMerger points(set.coordinates);
+  const auto appendEdge = [&points](const BRepTools_WireExplorer& edges, Ring& ring) {
+    if (!isStraight(edges.Current())) return false;
+    const gp_Pnt point = BRep_Tool::Pnt(edges.CurrentVertex());
+    appendTo(ring, points.indexOf({point.X(), point.Y(), point.Z()}));
+    return true;
+  };
+  for (TopExp_Explorer faces(shape, TopAbs_FACE); faces.More(); faces.Next()) {
+    const TopoDS_Face& face = TopoDS::Face(faces.Current());
+    if (!isPlanar(face)) return {};
+    auto polygon = polygonOf(face, appendEdge);
+    if (!polygon) return {};
+    set.faces.push_back(std::move(*polygon));
+  }
+  return set;
+}
+
 /// One meshed face on its way into a set.
 class MeshedFace {
  public:
@@ -48,32 +125,14 @@ class MeshedFace {
       : m_face(face), m_points(points), m_mesh(BRep_Tool::Triangulation(face, m_location)) {}
 
   bool hasMesh() const { return !m_mesh.IsNull(); }
-  bool isPlanar() const {
-    return !opencascade::handle<Geom_Plane>::DownCast(BRep_Tool::Surface(m_face)).IsNull();
+
+  std::optional<Face> polygon() {
+    return polygonOf(m_face, [this](const BRepTools_WireExplorer& edges, Ring& ring) {
+      return appendEdge(edges.Current(), ring);
+    });
   }
 
-  // Empty when the wires don't run along the mesh as those of a sound face do.
-  std::optional<PolygonalFaceSetOpenGL::Face> polygon() {
-    const TopoDS_Wire outer = BRepTools::OuterWire(m_face);
-    if (outer.IsNull()) {
-      reportFace("There is a Face which has no outer Wire.", __LINE__);
-      return {};
-    }
-    PolygonalFaceSetOpenGL::Face polygon;
-    for (TopoDS_Iterator part(m_face); part.More(); part.Next()) {
-      if (part.Value().ShapeType() != TopAbs_WIRE) return {};
-      auto ring = ringAlong(TopoDS::Wire(part.Value()));
-      if (!ring) return {};
-      if (part.Value().IsSame(outer))
-        polygon.outer = std::move(*ring);
-      else
-        polygon.holes.push_back(std::move(*ring));
-    }
-    if (polygon.outer.empty()) return {};
-    return polygon;
-  }
-
-  void addTriangles(std::vector<PolygonalFaceSetOpenGL::Face>& faces) {
+  void addTriangles(std::vector<Face>& faces) {
     const bool reversed = m_face.Orientation() == TopAbs_REVERSED;
     for (int i = 1; i <= m_mesh->NbTriangles(); ++i) {
       int a, b, c;
@@ -91,27 +150,13 @@ class MeshedFace {
     return m_points.indexOf({point.X(), point.Y(), point.Z()});
   }
 
-  // The nodes along the edges of a wire, one after the other, each once.
-  std::optional<Ring> ringAlong(const TopoDS_Wire& wire) {
-    Ring ring;
-    int edgeCount = 0;
-    for (BRepTools_WireExplorer edges(wire, m_face); edges.More(); edges.Next(), ++edgeCount)
-      if (!appendEdge(edges.Current(), ring)) return {};
-    if (edgeCount != wire.NbChildren()) return {};
-    while (ring.size() > 1 && ring.front() == ring.back()) ring.pop_back();
-    if (ring.size() < 3) return {};
-    return ring;
-  }
-
-  // Its last node is the first one of the next edge.
+  // False for an edge that isn't part of the mesh.
   bool appendEdge(const TopoDS_Edge& edge, Ring& ring) {
     const auto nodes = BRep_Tool::PolygonOnTriangulation(edge, m_mesh, m_location);
     if (nodes.IsNull()) return false;
     const bool reversed = edge.Orientation() == TopAbs_REVERSED;
-    for (int i = 1; i < nodes->NbNodes(); ++i) {
-      const std::uint32_t index = indexOf(nodes->Node(reversed ? nodes->NbNodes() + 1 - i : i));
-      if (ring.empty() || ring.back() != index) ring.push_back(index);
-    }
+    for (int i = 1; i < nodes->NbNodes(); ++i)
+      appendTo(ring, indexOf(nodes->Node(reversed ? nodes->NbNodes() + 1 - i : i)));
     return true;
   }
 
@@ -121,21 +166,29 @@ class MeshedFace {
   opencascade::handle<Poly_Triangulation> m_mesh;
 };
 
-PolygonalFaceSetOpenGL faceSetOf(const TopoDS_Shape& shape) {
+PolygonalFaceSetOpenGL faceSetOfMesh(const TopoDS_Shape& shape) {
   PolygonalFaceSetOpenGL set;
   PointMerger points(set.coordinates);
   for (TopExp_Explorer faces(shape, TopAbs_FACE); faces.More(); faces.Next()) {
-    MeshedFace face(TopoDS::Face(faces.Current()), points);
-    if (!face.hasMesh()) {
+    const TopoDS_Face& face = TopoDS::Face(faces.Current());
+    MeshedFace meshed(face, points);
+    if (!meshed.hasMesh()) {
       reportFace("Face didn't have triangulation.", __LINE__);
       continue;
     }
-    if (auto polygon = face.isPlanar() ? face.polygon() : std::nullopt)
+    if (auto polygon = isPlanar(face) ? meshed.polygon() : std::nullopt)
       set.faces.push_back(std::move(*polygon));
     else
-      face.addTriangles(set.faces);
+      meshed.addTriangles(set.faces);
   }
   return set;
+}
+
+PolygonalFaceSetOpenGL faceSetOf(const TopoDS_Shape& shape, double deflection) {
+  if (auto set = faceSetOfPolyhedron(shape)) return std::move(*set);
+  // The mesher works at once when it is made with its numbers.
+  const BRepMesh_IncrementalMesh mesh(shape, deflection, false, kAngularDeflection, false);
+  return faceSetOfMesh(shape);
 }
 
 }  // namespace
@@ -149,9 +202,7 @@ std::vector<PolygonalFaceSetOpenGL> faceSetsFromShapes(
       continue;
     guardOpenCascade(
         [&] {
-          // The mesher works at once when it is made with its numbers.
-          const BRepMesh_IncrementalMesh mesh(shape, deflection, false, kAngularDeflection, false);
-          PolygonalFaceSetOpenGL set = faceSetOf(shape);
+          PolygonalFaceSetOpenGL set = faceSetOf(shape, deflection);
           if (!set.faces.empty()) sets.push_back(std::move(set));
         },
         "OpenCascade could not mesh a shape.");

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "Qor/Draw/PolygonalFaceSetOpenGL.h"
 #include "Qor/Math/Matrix.h"
 #include "Qor/Platform/Export.h"
 
@@ -15,6 +16,7 @@ class FcRepresentationItem;
 namespace qor::fc {
 
 class FcDrawParams;
+class FcParams;
 
 /// What a draw target cuts out of the items that it draws: the bodies of the openings of the
 /// element that is being drawn. Items are added by a `ClippingItemsWorker`, which takes them away
@@ -36,10 +38,15 @@ class QOR_API FcClip {
   /// The item is to be cut before it is drawn.
   bool isClipping() const { return !m_drawingClipped && !m_clipObjects.empty(); }
 
-  /// Draws what the clip objects leave of the item. Without a processor of complex geometry that is
-  /// nothing.
+  /// Draws what the clip objects leave of the item, in the target's present frame. Without a
+  /// processor of complex geometry that is nothing.
   void drawItemClipped(const std::shared_ptr<const resource::geometry::FcRepresentationItem>& item,
                        const FcDrawParams& params);
+  /// What the clip objects of `clip` leave of the item, whose frame is `itemMatrix`, as face sets
+  /// in that frame. None without a processor.
+  static std::vector<generate::draw::PolygonalFaceSetOpenGL> getClippedItems(
+      const std::shared_ptr<const resource::geometry::FcRepresentationItem>& item,
+      const math::Matrix& itemMatrix, const FcParams& params, const FcClip& clip);
 
  private:
   std::vector<ClipObject> m_clipObjects;

@@ -9,9 +9,9 @@
 
 namespace qor::fc {
 
-FcExplicitGeometryTask::FcExplicitGeometryTask(
-    FcParams params, const std::shared_ptr<const resource::geometry::FcRepresentationItem>& item)
-    : FcComplexGeometryTask(std::move(params)), m_item(copyOfItem(*item)) {}
+FcExplicitGeometryTask::FcExplicitGeometryTask(FcParams params,
+                                               const resource::geometry::FcRepresentationItem& item)
+    : FcComplexGeometryTask(std::move(params)), m_item(copyOfItem(item)) {}
 
 FcExplicitGeometryTask::~FcExplicitGeometryTask() = default;
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <utility>
 
 #include "Fc/ComplexGeometry/FcComplexGeometryTask.h"
 
@@ -14,9 +15,11 @@ class FcRepresentationItem;
 /// so that it may be queued.
 class QOR_API FcExplicitGeometryTask : public FcComplexGeometryTask {
  public:
+  FcExplicitGeometryTask(FcParams params, const resource::geometry::FcRepresentationItem& item);
   /// `item` isn't null.
   FcExplicitGeometryTask(
-      FcParams params, const std::shared_ptr<const resource::geometry::FcRepresentationItem>& item);
+      FcParams params, const std::shared_ptr<const resource::geometry::FcRepresentationItem>& item)
+      : FcExplicitGeometryTask(std::move(params), *item) {}
   ~FcExplicitGeometryTask() override;
 
   /// An `FcPolygonalFaceSetResult`, without face sets where the item has no shape.

@@ -10,7 +10,9 @@
 
 #include "Host/Cli/AssertLines.h"
 #include "Host/Cli/ConvertCommand.h"
+#include "Host/Cli/DiffCommand.h"
 #include "Host/Cli/DrawCommand.h"
+#include "Host/Cli/ExtractCommand.h"
 #include "Host/Cli/GetCommand.h"
 #include "Host/Cli/InfoCommand.h"
 #include "Host/Cli/LoadModel.h"
@@ -35,6 +37,8 @@ class CommandLine {
     addTree();
     addGet();
     addProperties();
+    addExtract();
+    addDiff();
     addConvert();
     addDraw();
     addMeasure();
@@ -88,6 +92,20 @@ class CommandLine {
     command.add_option("FILE", m_properties.file, "The STEP file")->required();
     command.add_option("--guid", m_properties.guid, "Of this object or type alone");
   }
+  void addExtract() {
+    CLI::App& command =
+        add("extract", "Write some objects with what they need", m_extract, runExtract);
+    command.add_option("FILE", m_extract.input, "The STEP file to read")->required();
+    command.add_option("--guid", m_extract.guids, "The objects to write")->required();
+    command.add_option("-o,--output", m_extract.output, "The file to write; replaced at once")
+        ->required();
+  }
+  void addDiff() {
+    CLI::App& command =
+        add("diff", "What is new, gone and changed in the second of two files", m_diff, runDiff);
+    command.add_option("A", m_diff.before, "The STEP file to compare with")->required();
+    command.add_option("B", m_diff.after, "The STEP file to look into")->required();
+  }
   void addConvert() {
     CLI::App& command = add("convert", "Read a file and write it as IFC4X3_ADD2, in SI units",
                             m_convert, runConvert);
@@ -114,6 +132,8 @@ class CommandLine {
     command.add_option("-o", m_draw.outputs, "A file to write: .glb, .obj, .png or .svg")
         ->allow_extra_args(false);
     command.add_flag("--trace", m_draw.trace, "Print each call that a draw target gets");
+    command.add_flag("--spaces", m_draw.spaces, "Show spaces too, which cover what is in them");
+    command.add_flag("--openings", m_draw.openings, "Show openings too, as bodies");
     command.add_option("--view", m_draw.view, "Of pictures: plan, front, side or iso");
     command.add_option("--size", m_draw.size, "Pixels of a .png, such as 1600x1200");
   }
@@ -143,6 +163,8 @@ class CommandLine {
   TreeOptions m_tree;
   GetOptions m_get;
   PropertiesOptions m_properties;
+  ExtractOptions m_extract;
+  DiffOptions m_diff;
   ConvertOptions m_convert;
   DrawOptions m_draw;
   MeasureOptions m_measure;

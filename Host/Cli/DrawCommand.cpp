@@ -2,12 +2,17 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <charconv>
 #include <fstream>
 #include <functional>
 #include <ostream>
+#include <typeindex>
+#include <typeinfo>
 #include <utility>
 
+#include "Fc/Core/ProductExtension/FcOpeningElement.h"
+#include "Fc/Core/ProductExtension/FcSpace.h"
 #include "Host/Cli/EntityLabel.h"
 #include "Host/Cli/LoadModel.h"
 #include "Host/Cli/PrintableText.h"
@@ -145,6 +150,16 @@ std::string titleOf(const DrawOptions& options) {
   return title + ", " + options.view;
 }
 
+/// Shows and hides spaces and openings as they are asked for.
+void choose(const DrawOptions& options, fc::DrawStatus& status) {
+  using namespace fc::core::productextension;
+  const auto show = [&](const std::type_info& type, bool isShown) {
+    status.setEnabled(fc::DrawStatus::StateKey(std::type_index(type)), isShown);
+  };
+  if (options.status.empty() && options.id.empty()) show(typeid(FcSpace), options.spaces);
+  if (options.openings) show(typeid(FcOpeningElement), true);
+}
+
 ExitCode trace(const DrawOptions& options, const step::ReadResult& model, const Plan& plan,
                const fc::DrawStatus& status, RepresentationChoice* choice, Console& console) {
   targets::RecordingTarget target(plan.discretization, console.out);
@@ -159,8 +174,9 @@ ExitCode runDraw(const DrawOptions& options, Console& console) {
   if (!plan) return ExitCode::impossible;
   const auto model = loadModel(options.file, console);
   if (!model) return ExitCode::impossible;
-  const auto status = readDrawStatus(*model->data, options.status, console);
+  auto status = readDrawStatus(*model->data, options.status, console);
   if (!status) return ExitCode::impossible;
+  choose(options, *status);
   RepresentationChoice chosen(options.context);
   RepresentationChoice* choice = options.context.empty() ? nullptr : &chosen;
   if (options.trace) return trace(options, *model, *plan, *status, choice, console);

@@ -7,13 +7,14 @@
 #include <fstream>
 #include <functional>
 #include <memory>
+#include <ostream>
 #include <string_view>
 #include <utility>
 #include <variant>
+#include <vector>
 
 #include "Fc/ComplexGeometry/FcThreadedComplexGeometryProcessor.h"
 #include "Fc/Core/Kernel/FcProduct.h"
-#include "Fc/Core/Kernel/FcProject.h"
 #include "Fc/Document/Document.h"
 #include "Fc/FcDrawInterfaceWrapper.h"
 #include "Fc/FcGenerateParams.h"
@@ -22,8 +23,10 @@
 #include "Fc/Resource/Representation/FcProductRepresentation.h"
 #include "Fc/Resource/Representation/FcRepresentation.h"
 #include "Host/Cli/LoadModel.h"
+#include "Host/Cli/ModelTree.h"
 #include "Host/Cli/PrintableText.h"
 #include "Host/Cli/ProgressBar.h"
+#include "Host/StepFile/EntityNumbers.h"
 #include "Host/StepFile/Progress.h"
 #include "Qor/Math/Epsilon.h"
 
@@ -80,6 +83,24 @@ class ProcessorScope {
  private:
   bool m_isOurs;
 };
+
+/// What is drawn when nothing is asked for: the project, and what it doesn't lead to, of which a
+/// line tells.
+std::vector<std::shared_ptr<fc::FcBase>> allRoots(const step::ReadResult& model, Console& console) {
+  std::vector<std::shared_ptr<fc::FcBase>> roots;
+  std::size_t outside = 0;
+  step::EntityNumbers numbers(*model.data, model.instances);
+  const auto numberOf = [&](const fc::FcBase& entity) { return numbers.numberOf(entity); };
+  walkModelTree(*model.data, numberOf, [&](const TreeNode& node) {
+    if (node.depth == 0) roots.push_back(node.object);
+    outside += node.relation == TreeRelation::outside ? 1 : 0;
+    return true;
+  });
+  if (outside > 0)
+    console.err << fmt::format(
+        "fctool: no project leads to {} of the products; they are drawn all the same\n", outside);
+  return roots;
+}
 
 /// One walk over a model into one target.
 class Drawing {
@@ -180,12 +201,15 @@ std::optional<fc::DrawStatus> readDrawStatus(const fc::Data& data,
 bool drawModel(const step::ReadResult& model, const DrawingOptions& options,
                const fc::DrawStatus& status, RepresentationChoice* choice,
                generate::draw::DrawInterface& target, Console& console) {
-  std::shared_ptr<fc::FcBase> start;
-  if (!options.id.empty()) {
-    start = findEntity(model, options.id, console);
-    if (!start) return false;
-  } else if (!(start = model.data->project())) {
-    refuse(console, fmt::format("{} has no project to draw; --id draws one entity",
+  std::vector<std::shared_ptr<fc::FcBase>> roots;
+  if (options.id.empty())
+    roots = allRoots(model, console);
+  else if (auto entity = findEntity(model, options.id, console))
+    roots = {std::move(entity)};
+  else
+    return false;
+  if (roots.empty()) {
+    refuse(console, fmt::format("{} has no product to draw; --id draws any one entity",
                                 inQuotes(options.file.string())));
     return false;
   }
@@ -195,10 +219,13 @@ bool drawModel(const step::ReadResult& model, const DrawingOptions& options,
   ProgressBar bar("Drawing", console);
   const fc::DrawStatus all = choice ? withAllContexts(status) : fc::DrawStatus();
   Drawing drawing(model.data, choice ? all : status, choice, target, bar.callback());
-  if (drawing.draw(start)) return true;
-  refuse(console,
-         fmt::format("{} {} is nothing that can be drawn", options.id, start->ifcNameUpper()));
-  return false;
+  for (const auto& root : roots) {
+    if (drawing.draw(root)) continue;
+    refuse(console,
+           fmt::format("{} {} is nothing that can be drawn", options.id, root->ifcNameUpper()));
+    return false;
+  }
+  return true;
 }
 
 }  // namespace qor::host::cli

@@ -17,7 +17,7 @@ namespace qor::host::cli {
 struct DrawingOptions {
   std::filesystem::path file{};
   std::string context{};           ///< identifier of representations; empty for what is normal
-  std::string id{};                ///< number of one entity to draw; empty for the project
+  std::string id{};                ///< number of one entity to draw; empty for all
   double chord = 2;                ///< millimetres between a circle and its segments
   std::string segments = "16,72";  ///< of a full circle, at least and at most
   std::filesystem::path status{};  ///< file of a draw status; empty for the default one
@@ -32,10 +32,10 @@ std::optional<math::CurveDiscretization> discretizationOf(const DrawingOptions& 
 std::optional<fc::DrawStatus> readDrawStatus(const fc::Data& data,
                                              const std::filesystem::path& file, Console& console);
 
-/// Draws the project, or the one entity that is asked for, into a target, with a progress bar.
-/// `choice` may be null: then the draw status decides which representations are drawn; otherwise
-/// the choice does, whatever contexts the status hides. False, after a line that says why, when
-/// there is nothing to start from.
+/// Draws all projects and the products that none leads to, or the one entity that is asked for,
+/// into a target, with a progress bar. `choice` may be null: then the draw status decides which
+/// representations are drawn; otherwise the choice does, whatever contexts the status hides. False,
+/// after a line that says why, when there is nothing to start from.
 bool drawModel(const step::ReadResult& model, const DrawingOptions& options,
                const fc::DrawStatus& status, RepresentationChoice* choice,
                generate::draw::DrawInterface& target, Console& console);

@@ -151,11 +151,12 @@ class JsonOutput : public Output {
 /// All that has properties in a model, and in the end what was left over.
 class Walk {
  public:
-  Walk(const step::ReadResult& model, std::ostream& out, Output& output)
-      : m_model(model), m_out(out), m_output(output) {}
+  Walk(const step::ReadResult& model, const NumberOf& numberOf, std::ostream& out, Output& output)
+      : m_model(model), m_numberOf(numberOf), m_out(out), m_output(output) {}
 
   void run() {
-    forEach<FcObjectDefinition>([&](const auto& object) { return propertySetsOf(*object); });
+    forEach<FcObjectDefinition>(
+        [&](const auto& object) { return propertySetsOf(*object, m_numberOf); });
     forEachExtended();
     putRest();
   }
@@ -211,6 +212,7 @@ class Walk {
   }
 
   const step::ReadResult& m_model;
+  const NumberOf& m_numberOf;
   std::ostream& m_out;
   Output& m_output;
   std::unordered_set<const fc::FcBase*> m_shown;
@@ -242,9 +244,9 @@ ExitCode runProperties(const PropertiesOptions& options, Console& console) {
   else
     output = std::make_unique<TextOutput>(numberOf, console.out);
   if (object)
-    output->put({object, propertySetsOf(*object)});
+    output->put({object, propertySetsOf(*object, numberOf)});
   else
-    Walk(*model, console.out, *output).run();
+    Walk(*model, numberOf, console.out, *output).run();
   return exitCodeOf(*model);
 }
 

@@ -74,27 +74,32 @@ std::string nameOf(const fc::FcBase& property) {
   return quantity ? quantity->Name() : std::string();
 }
 
-/// The merged set holds copies: those of the object's own members, in their order, and behind them
-/// those of the type's. What is wanted are the members themselves.
+/// The merged set holds copies. What is wanted are the members themselves: the object's own, and
+/// behind them those of its type that the merged set has too.
 PropertyTable merged(const Set& own, const Set& ofType, const FcProduct& product,
                      const FcTypeProduct* type) {
   const auto [set, keptAlive] = fc::utilities::detail::getMergedPset(*own->Name(), &product, type);
   PropertyTable table{own, {}};
   const Entities ownMembers = membersOf(own.get());
   append(table.rows, ownMembers, false);
+  std::unordered_set<std::string> names;
+  for (const Entity& member : ownMembers) names.insert(nameOf(*member));
   Entities added;
-  const Entities all = membersOf(set.get());
-  for (std::size_t i = ownMembers.size(); i < all.size(); ++i) {
-    const std::string name = nameOf(*all[i]);
-    for (const Entity& member : membersOf(ofType.get()))
-      if (nameOf(*member) == name) added.push_back(member);
+  for (const Entity& member : membersOf(ofType.get())) {
+    const std::string name = nameOf(*member);
+    if (!names.contains(name) && set->hasPropertyOrQuantity(name)) added.push_back(member);
   }
   append(table.rows, added, true);
   return table;
 }
 
-std::vector<Set> setsOf(const FcObjectDefinition* object) {
-  return object ? object->getPropertySetDefinitions<FcPropertySetDefinition>() : std::vector<Set>();
+/// In the order of their numbers: relationships stand in none.
+std::vector<Set> setsOf(const FcObjectDefinition* object, const NumberOf& numberOf) {
+  if (!object) return {};
+  std::vector<Set> sets = object->getPropertySetDefinitions<FcPropertySetDefinition>();
+  std::stable_sort(sets.begin(), sets.end(),
+                   [&](const Set& a, const Set& b) { return numberOf(*a) < numberOf(*b); });
+  return sets;
 }
 
 }  // namespace
@@ -111,24 +116,25 @@ PropertyTable tableOf(const Entity& set) {
   return table;
 }
 
-std::vector<PropertyTable> propertySetsOf(const FcObjectDefinition& object) {
+std::vector<PropertyTable> propertySetsOf(const FcObjectDefinition& object,
+                                          const NumberOf& numberOf) {
   const auto* product = fc::fcCast<FcProduct>(&object);
   const auto typeObject = product ? product->getTypeObject() : nullptr;
   const auto* type = fc::fcCast<FcTypeProduct>(typeObject.get());
 
   std::unordered_map<std::string, Set> ofType;  // the first of each name
-  for (const Set& set : setsOf(type))
+  for (const Set& set : setsOf(type, numberOf))
     if (set->Name()) ofType.try_emplace(*set->Name(), set);
 
   std::vector<PropertyTable> tables;
   std::unordered_set<std::string> names;
-  for (const Set& set : setsOf(&object)) {
+  for (const Set& set : setsOf(&object, numberOf)) {
     const bool isFirst = set->Name() && names.insert(*set->Name()).second;
     const auto same = isFirst ? ofType.find(*set->Name()) : ofType.end();
     tables.push_back(same == ofType.end() ? tableOf(set)
                                           : merged(set, same->second, *product, type));
   }
-  for (const Set& set : setsOf(type)) {
+  for (const Set& set : setsOf(type, numberOf)) {
     const bool isMerged =
         set->Name() && names.contains(*set->Name()) && ofType.at(*set->Name()) == set;
     if (isMerged) continue;

@@ -10,6 +10,7 @@
 #include "Fc/Core/Kernel/FcPropertySetDefinition.h"
 #include "Fc/Data.h"
 #include "Fc/Resource/Property/FcExtendedProperties.h"
+#include "Host/Cli/AttributeValue.h"
 
 namespace qor::host::cli {
 
@@ -26,10 +27,11 @@ struct PropertyTable {
   std::vector<PropertyRow> rows;
 };
 
-/// The sets of an object in the order of their relationships, each merged with the set of the same
+/// The sets of an object in the order of their numbers, each merged with the set of the same
 /// name of its type, then those that the type alone has. A set without a name, or with one that
 /// came before, stands for itself.
-std::vector<PropertyTable> propertySetsOf(const fc::core::kernel::FcObjectDefinition& object);
+std::vector<PropertyTable> propertySetsOf(const fc::core::kernel::FcObjectDefinition& object,
+                                          const NumberOf& numberOf);
 
 /// A set by itself. A predefined one has no rows: its attributes are its properties.
 PropertyTable tableOf(const std::shared_ptr<const fc::FcBase>& set);

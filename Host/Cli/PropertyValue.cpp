@@ -10,11 +10,10 @@
 #include <variant>
 #include <vector>
 
-#include "Fc/Resource/Measure/FcDerivedUnit.h"
 #include "Fc/Resource/Measure/FcMeasureValue.h"
-#include "Fc/Resource/Measure/FcSIUnit.h"
 #include "Fc/Resource/Measure/FcUnit.h"
 #include "Fc/Resource/Measure/FcValue.h"
+#include "Fc/Resource/Measure/MeasureQuantities.h"
 #include "Fc/Resource/Property/FcPropertyBoundedValue.h"
 #include "Fc/Resource/Property/FcPropertyEnumeratedValue.h"
 #include "Fc/Resource/Property/FcPropertyListValue.h"
@@ -25,6 +24,8 @@
 #include "Host/Cli/EntityLabel.h"
 #include "Host/Cli/PrintableText.h"
 #include "Host/Cli/UnitWords.h"
+#include "Host/StepFile/Units/Measures.h"
+#include "Host/StepFile/Units/UnitSizes.h"
 
 namespace qor::host::cli {
 
@@ -34,24 +35,62 @@ using fc::resource::quantity::FcPhysicalSimpleQuantity;
 
 namespace {
 
-std::string numberText(double number) { return fmt::format("{}", number); }
+std::string upperCase(std::string_view text) {
+  std::string upper(text);
+  std::transform(upper.begin(), upper.end(), upper.begin(), [](char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+  });
+  return upper;
+}
 
-/// Where the value is in no SI unit, but in one that its property names, that unit.
-std::string ownUnitWords(const FcUnit& unit) {
-  return unit.isSet() ? " " + printable(unitWords(unit)) : std::string();
+/// "m^2 kg s^-3"
+std::string siSymbol(const step::Dimensions& dimensions) {
+  constexpr const char* symbols[] = {"m", "kg", "s", "A", "K", "mol", "cd"};
+  std::string text;
+  for (std::size_t i = 0; i < dimensions.exponents.size(); ++i) {
+    const int exponent = dimensions.exponents[i];
+    if (exponent == 0) continue;
+    text += fmt::format("{}{}", text.empty() ? "" : " ", symbols[i]);
+    if (exponent != 1) text += fmt::format("^{}", exponent);
+  }
+  return text;
+}
+
+/// An SI number of that type, "IfcLengthMeasure".
+std::string siText(double number, std::string_view type) {
+  if (const auto* quantity = quantityOfMeasure(type.substr(3)))
+    return quantity->createPresentation(number)->toString();
+  const step::MeasureId id = step::measureOfType(upperCase(type));
+  const auto& dimensions = step::measures()[id].dimensions;
+  const std::string symbol = dimensions ? siSymbol(*dimensions) : std::string();
+  return fmt::format("{}{}{}", number, symbol.empty() ? "" : " ", symbol);
+}
+
+/// A unit beside a value that isn't the SI's: the value is no measure, or the unit has no size.
+bool isOther(const FcUnit& unit, std::string_view type) {
+  if (!unit.isSet()) return false;
+  step::UnitSizes sizes([](const fc::FcBase&, std::string_view, const std::string&) {});
+  const auto size = sizes.of(unit.getEntity());
+  return !size || !size->toSi.isIdentity() ||
+         step::measureOfType(upperCase(type)) == step::measure::none;
+}
+
+std::string numberText(double number, std::string_view type, const FcUnit& unit) {
+  if (isOther(unit, type)) return fmt::format("{} {}", number, printable(unitWords(unit)));
+  return type.ends_with("Measure") ? siText(number, type) : fmt::format("{}", number);
 }
 
 std::string valueText(const FcValue& value, const FcUnit& unit) {
   if (!value.isSet()) return "-";
   const fc::LocalValue local = value.getLocalValue();
   if (const auto* number = std::get_if<double>(&local.value))
-    return numberText(*number) + ownUnitWords(unit);
+    return numberText(*number, local.typeName.value_or(""), unit);
   if (const auto* text = std::get_if<std::string>(&local.value))
     return text->empty() ? "''" : printable(*text);
   if (const auto* logical = std::get_if<LogicalValue>(&local.value);
       logical && *logical == LogicalValue::Unknown)
     return "unknown";
-  return printable(value.getAsString(false).value_or("?")) + ownUnitWords(unit);
+  return printable(value.getAsString(false).value_or("?"));
 }
 
 std::string listText(const std::optional<std::vector<FcValue>>& values, const FcUnit& unit) {
@@ -95,9 +134,9 @@ std::string quantityText(const FcPhysicalSimpleQuantity& quantity) {
   const fc::LocalValue value = attribute.type->getLocalValue(attribute.of(quantity));
   const FcUnit unit = quantity.Unit() ? FcUnit(quantity.Unit()) : FcUnit();
   if (const auto* number = std::get_if<double>(&value.value))
-    return numberText(*number) + ownUnitWords(unit);
+    return numberText(*number, attribute.typeName, unit);
   const auto* count = std::get_if<std::int64_t>(&value.value);
-  return count ? fmt::format("{}", *count) + ownUnitWords(unit) : "-";
+  return count ? numberText(static_cast<double>(*count), "", unit) : "-";
 }
 
 constexpr std::array valueAttributes{

@@ -10,6 +10,7 @@
 #include "Fc/Reflection/SelectInfo.h"
 #include "Host/StepFile/Numbers.h"
 #include "Host/StepFile/TextCodec.h"
+#include "Qor/DateTime/DateTimeFormat.h"
 
 namespace qor::host::step {
 
@@ -215,6 +216,7 @@ void ParameterSource::takeText(std::string& out) {
   m_at = m_string.next;
   if (m_string.plain) {
     out.assign(content);
+    checkDate(out);
     return;
   }
   const TextDefects defects = decodeText(content, out);
@@ -226,6 +228,15 @@ void ParameterSource::takeText(std::string& out) {
   if (defects.noCharacter)
     reportText(ProblemKind::badEscape,
                "has an escape that means no character, {}; U+FFFD stands for it.");
+}
+
+// It stays, so that nothing is lost. An empty text is how some files say that there is no date.
+void ParameterSource::checkDate(const std::string& text) {
+  if (m_dateForm == 0 || text.empty() || DateTimeFormat(m_dateForm).fromString(text)) return;
+  report(ProblemKind::badDate, [this] {
+    return fmt::format("is {}, which is no date{}; kept as it stands.", quote(m_value),
+                       m_dateForm == DateTimeFormat::isoDateTime ? " with a time" : "");
+  });
 }
 
 // A number or an enumerator where a text belongs.
@@ -359,20 +370,21 @@ void ParameterSource::resume() {
 std::string_view ParameterSource::openTyped() {
   m_conversion = Conversion::none;
   if (m_addsType) {
-    lookUpUnit(m_attribute->type);
+    useType(m_attribute->type);
     return m_attribute->type;
   }
   const char* name = m_at;
   while (isNameChar(*m_at)) ++m_at;
   const std::string_view upperName(name, static_cast<std::size_t>(m_at - name));
   m_at = m_scanner.skipSpace(m_at) + 1;
-  lookUpUnit(upperName);
+  useType(upperName);
   if (upperName == m_integralType) m_conversion = Conversion::toInteger;
   return upperName;
 }
 
 // In a select each value tells its own type.
-void ParameterSource::lookUpUnit(std::string_view upperName) {
+void ParameterSource::useType(std::string_view upperName) {
+  m_dateForm = dateFormOfType(upperName);
   if (m_units && m_attribute->measure == measure::byType)
     m_unit = m_units->find(measureOfType(upperName));
 }

@@ -40,6 +40,7 @@ class ParameterSource final : public fc::ValueSource {
     m_position = position;
     m_conversion = attribute.conversion;
     m_unit = m_units ? m_units->find(attribute.measure) : nullptr;
+    m_dateForm = attribute.dateForm;
   }
   /// From now on numbers are converted from these units, each by the measure of its attribute; null
   /// to take them as they are. Must outlive this.
@@ -86,7 +87,8 @@ class ParameterSource final : public fc::ValueSource {
   bool unwrap();
   void resume();
   void giveUp();
-  void lookUpUnit(std::string_view upperName);
+  void useType(std::string_view upperName);
+  void checkDate(const std::string& text);
   std::string quote(const char* value) const;
   std::string attributePrefix() const;
   std::string_view expectedType() const;
@@ -128,6 +130,8 @@ class ParameterSource final : public fc::ValueSource {
   const ModelUnits* m_units = nullptr;
   /// Of the numbers that come next; null where they are SI.
   const UnitConversion* m_unit = nullptr;
+  /// Of the text that comes next; see `FileAttribute`.
+  int m_dateForm = 0;
 };
 
 }  // namespace qor::host::step

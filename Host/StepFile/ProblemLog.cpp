@@ -46,6 +46,8 @@ const char* nameOf(ProblemKind kind) {
       return "outOfRange";
     case ProblemKind::unit:
       return "unit";
+    case ProblemKind::badDate:
+      return "badDate";
     case ProblemKind::noPlace:
       return "noPlace";
     case ProblemKind::further:

@@ -33,6 +33,7 @@ enum class ProblemKind : std::uint8_t {
   wrongCount,         ///< more or fewer numbers than belong there
   outOfRange,         ///< a number too large, a guid that is none
   unit,               ///< a unit that contradicts itself or others, or has no size
+  badDate,            ///< a text that is no date, where one belongs
   noPlace,            ///< a value of an older schema that has no place in IFC4X3_ADD2
   further,            ///< what came when the log was full
 };

@@ -10,6 +10,7 @@
 #include "Fc/Reflection/ValueTraits.h"
 #include "Host/StepFile/NumberMap.h"
 #include "Host/StepFile/OlderSchemas.h"
+#include "Qor/DateTime/DateTimeFormat.h"
 #include "Qor/String/IgnoreCase.h"
 
 namespace qor::host::step {
@@ -178,6 +179,11 @@ std::optional<SchemaVersion> schemaVersionFromName(std::string_view name) {
   return std::nullopt;
 }
 
+int dateFormOfType(std::string_view upperName) {
+  if (upperName == "IFCDATE") return DateTimeFormat::isoDate;
+  return upperName == "IFCDATETIME" ? DateTimeFormat::isoDateTime : 0;
+}
+
 SchemaMap::SchemaMap(SchemaVersion version)
     : m_version(version), m_names(Names::of(version)), m_classes(m_names.entries().size()) {}
 
@@ -206,8 +212,13 @@ FileClass SchemaMap::make(std::size_t position) const {
     if (!isMapped) result.attributes.push_back(currentAttribute(info, attribute, isCurrent()));
     if (isMandatoryEnumeration(attribute)) result.enumerations.push_back(&attribute);
   });
-  for (FileAttribute& attribute : result.attributes)
-    if (attribute.attribute) attribute.measure = measureOfAttribute(info, *attribute.attribute);
+  for (FileAttribute& attribute : result.attributes) {
+    if (!attribute.attribute) continue;
+    attribute.measure = measureOfAttribute(info, *attribute.attribute);
+    if (attribute.attribute->typeName == "IfcDate") attribute.dateForm = DateTimeFormat::isoDate;
+    if (attribute.attribute->typeName == "IfcDateTime")
+      attribute.dateForm = DateTimeFormat::isoDateTime;
+  }
   result.unitRole = unitRoleOf(info);
   return result;
 }

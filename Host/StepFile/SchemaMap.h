@@ -49,7 +49,12 @@ struct FileAttribute {
   std::string_view type{};
   /// Of which unit its numbers are.
   MeasureId measure = measure::none;
+  /// What its text must be: a `DateTimeFormat::Form`, or 0.
+  int dateForm = 0;
 };
+
+/// The form of the dates of that type, "IFCDATE" or "IFCDATETIME"; 0 for any other type.
+int dateFormOfType(std::string_view upperName);
 
 /// One class as a file of some schema writes it.
 struct FileClass {

@@ -101,6 +101,7 @@ class Numbers {
     std::memcpy(buffer.data.data(), m_places.data(), places);
     std::memcpy(buffer.data.data() + places, m_indices.data(), indices);
     addView(0, places, TINYGLTF_TARGET_ARRAY_BUFFER);
+    m_model.bufferViews.back().byteStride = 3 * sizeof(float);  // several meshes share the view
     addView(places, indices, TINYGLTF_TARGET_ELEMENT_ARRAY_BUFFER);
   }
 

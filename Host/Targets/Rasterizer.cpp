@@ -65,7 +65,7 @@ struct Rasterizer::Surface {
 
   float light() const {
     constexpr Vector3d lamp(-0.36, -0.48, 0.8);  // Y is downward
-    return 0.35f + 0.65f * static_cast<float>(std::max(0.0, normal.dot(lamp)));
+    return 0.55f + 0.45f * static_cast<float>(std::max(0.0, normal.dot(lamp)));
   }
 
   std::array<Point3d, 3> byHeight;

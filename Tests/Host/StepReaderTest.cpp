@@ -53,6 +53,20 @@ TEST_P(BadStatements, AreToldInOneLineAndCostNothingElse) {
 }
 
 const BadInput badInputs[] = {
+    {"NoDate", "#2=IFCCLASSIFICATION($,$,'2023-02-30','x',$,$,$);",
+     "#2 IFCCLASSIFICATION, line 5: attribute 3 (EditionDate) is '2023-02-30', which is no date; "
+     "kept as it stands."},
+    {"NoDateInAValue",
+     "#2=IFCPROPERTYSINGLEVALUE('x',$,IFCDATETIME('today'),$);"
+     "#3=IFCPROPERTYSINGLEVALUE('y',$,IFCDATETIME('2024-02-29T12:00:00Z'),$);",
+     "#2 IFCPROPERTYSINGLEVALUE, line 5: attribute 3 (NominalValue) is 'today', which is no date "
+     "with a time; kept as it stands."},
+    {"NoNameOfAProperty", "#2=IFCPROPERTYSINGLEVALUE($,$,IFCLABEL('a'),$);",
+     "#2 IFCPROPERTYSINGLEVALUE, line 5: attribute 1 (Name) has no value, though it must have "
+     "one."},
+    {"NoNumberInAMeasure", "#2=IFCPROPERTYSINGLEVALUE('x',$,IFCLENGTHMEASURE($),$);",
+     "#2 IFCPROPERTYSINGLEVALUE, line 5: attribute 3 (NominalValue) is $, which is no IfcValue; "
+     "left out."},
     {"OpenString", "#2=IFCPERSON('a',$,$,('x,$),$,$,$,$);",
      "#2 IFCPERSON, line 5: attribute 4 (MiddleNames) is a text without its closing apostrophe, "
      "'x,$),$,$,$,$); left out, with all that follows."},

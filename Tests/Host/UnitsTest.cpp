@@ -227,6 +227,10 @@ TEST(Units, AttributesOfEachShapeBecomeSi) {
        "#50=IFCCYLINDRICALSURFACE($,1000.);"
        "#100=IFCRECTANGULARTRIMMEDSURFACE(#50,0.,0.,180.,500.,.T.,.T.);",
        "IFCRECTANGULARTRIMMEDSURFACE(#50,0.,0.,3.141592653589793,0.5,.T.,.T.)"},
+      {"a curve on a cylinder",
+       "#50=IFCCYLINDRICALSURFACE($,1000.);#51=IFCPCURVE(#50,#52);#52=IFCPOLYLINE((#100));"
+       "#100=IFCCARTESIANPOINT((90.,500.));",
+       "IFCCARTESIANPOINT((1.5707963267948966,0.5))"},
       {"a quantity", "#100=IFCQUANTITYLENGTH('x',$,$,25.,$);",
        "IFCQUANTITYLENGTH('x',$,$,0.025,$)"},
       {"a quantity with its unit",
@@ -428,13 +432,6 @@ TEST(Units, ParametersInDegreesAreThoseOfACopyInRadians) {
   EXPECT_GT(test::differences(readStep(text, {.keepUnits = true}), radians).size(), 30u);
 }
 
-std::vector<std::filesystem::path> buildings() {
-  std::vector<std::filesystem::path> models = test::sharedModels();
-  std::erase_if(models,
-                [](const auto& path) { return path.parent_path().filename() != "buildings"; });
-  return models;
-}
-
 class Building : public testing::TestWithParam<std::filesystem::path> {};
 
 /// Gives the unit of lengths another prefix.
@@ -460,7 +457,8 @@ TEST_P(Building, IsTheSameInMillimetresAndInMetres) {
   EXPECT_THAT(test::differences(expected, converted), IsEmpty());
 }
 
-INSTANTIATE_TEST_SUITE_P(Units, Building, testing::ValuesIn(buildings()), test::modelTestName);
+INSTANTIATE_TEST_SUITE_P(Units, Building, testing::ValuesIn(test::sharedBuildings()),
+                         test::modelTestName);
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(Building);
 
 }  // namespace

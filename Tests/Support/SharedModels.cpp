@@ -19,6 +19,13 @@ std::vector<fs::path> sharedModels() {
   return models;
 }
 
+std::vector<std::filesystem::path> sharedBuildings() {
+  std::vector<std::filesystem::path> models = sharedModels();
+  std::erase_if(models,
+                [](const auto& path) { return path.parent_path().filename() != "buildings"; });
+  return models;
+}
+
 std::string modelTestName(const testing::TestParamInfo<fs::path>& model) {
   std::string name =
       model.param.parent_path().filename().string() + '_' + model.param.stem().string();

@@ -15,6 +15,9 @@ std::filesystem::path sharedFile(const std::string& relative);
 /// All IFC files under the folder "models", sorted by path; empty when the folder isn't there.
 std::vector<std::filesystem::path> sharedModels();
 
+/// Those of them under "models/buildings".
+std::vector<std::filesystem::path> sharedBuildings();
+
 /// Name of a model as a test parameter's suffix: letters, digits and underscores alone.
 std::string modelTestName(const testing::TestParamInfo<std::filesystem::path>& model);
 

@@ -3,9 +3,14 @@
 #include <functional>
 #include <utility>
 
+#include "Fc/ComplexGeometry/OpenCascadeTypes.h"
 #include "Fc/Resource/GeometricModel/FaceSetWithMaterial.h"
 #include "Fc/Resource/GeometricModel/FcPolygonalFaceSetAttributes.h"
+#include "Fc/Resource/GeometricModel/SweepFaces.h"
 
+namespace qor::math {
+class CurveDiscretization;
+}
 namespace qor::fc::resource::presentationappearance {
 class FcIndexedPolygonalTextureMap;
 }
@@ -28,6 +33,14 @@ class QOR_API FcPolygonalFaceSet : public FcPolygonalFaceSetAttributes {
   /// A mirror turns the corners of each face round, so that it keeps facing outward; places on
   /// textures follow.
   void transform(const math::Matrix& matrix) override;
+  /// One shape, null when it can't be made: a solid when the faces close, else a shell, or a
+  /// compound of such. A face off its plane by more than the length tolerance is reported and left
+  /// out.
+  std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const override;
+  /// The faces of shapes as sets to draw: a planar face as one polygon, any other as triangles that
+  /// leave it by no more than the chord value. Null shapes are passed over.
+  static std::vector<generate::draw::PolygonalFaceSetOpenGL> getFaceSetsFromShapes(
+      const std::vector<TopoDS_Shape>& shapes, const math::CurveDiscretization& discretization);
   std::optional<std::vector<generate::draw::TextureCoordinate>> getTextureCoordinates()
       const override;
 
@@ -48,6 +61,22 @@ class QOR_API FcPolygonalFaceSet : public FcPolygonalFaceSetAttributes {
   /// first that is equal in x, y and z, without a tolerance, or of the point appended. Constant
   /// time on average.
   measure::FcPositiveInteger addPoint(const math::Point3d& point);
+
+  // What bodies swept from a profile are built of: the functions of these names in `SweepFaces.h`.
+  static std::vector<math::Point3d> getPointsInProfileForGeneratingFaceSet(
+      const generate::draw::Profile2D& profile, std::size_t stations, bool reverse) {
+    return geometricmodel::getPointsInProfileForGeneratingFaceSet(profile, stations, reverse);
+  }
+  static SweptFace generateBottomFace(const generate::draw::Profile2D& profile) {
+    return geometricmodel::generateBottomFace(profile);
+  }
+  static SweptFace generateTopFace(const SweptFace& bottom, std::uint32_t offset, bool hasVoids) {
+    return geometricmodel::generateTopFace(bottom, offset, hasVoids);
+  }
+  static void addIndexedFacesForSides(const generate::draw::Profile2D& profile, std::size_t n,
+                                      std::size_t& counter, SweptFaces& hard, SweptFaces* soft) {
+    geometricmodel::addIndexedFacesForSides(profile, n, counter, hard, soft);
+  }
 
  private:
   std::optional<std::vector<FaceSetWithMaterial>> splitByColour(

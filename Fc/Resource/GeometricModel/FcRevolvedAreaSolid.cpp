@@ -113,18 +113,17 @@ std::optional<Extent> FcRevolvedAreaSolid::boundingBox(const FcParams& params) c
 
 Extent FcRevolvedAreaSolid::boundingBoxFromProfileExtent(const math::Extent2d& planarBox,
                                                          const RevolutionAxis& axis) const {
-  const Matrix frame = validPosition();
   const double quarter = std::numbers::pi / 2;
   Extent box;
   const auto includeAt = [&](double angle) {
-    const Matrix turn = turnAround(axis, angle) * frame;
+    const Matrix turn = turnAround(axis, angle);
     for (const double x : {planarBox.minimum().x, planarBox.maximum().x})
       for (const double y : {planarBox.minimum().y, planarBox.maximum().y})
         box.include(Point3d(x, y, 0) * turn);
   };
   for (int i = 0; i * quarter < Angle(); ++i) includeAt(i * quarter);
   includeAt(Angle());
-  return box;
+  return box.transformExtent(validPosition());
 }
 
 }  // namespace qor::fc::resource::geometricmodel

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "Fc/ComplexGeometry/OpenCascadeTypes.h"
 #include "Fc/Resource/Geometry/FcCurveAttributes.h"
 #include "Fc/Resource/Geometry/FcTrimmingSelect.h"
 
@@ -38,6 +39,9 @@ class QOR_API FcCurve : public FcCurveAttributes {
   /// The same in space.
   virtual std::vector<math::Point3d> curveGet(const FcParams& params, const Trim& trim1,
                                               const Trim& trim2, bool reverse) const;
+  /// The exact curve for the solid modeller, made once for all edges that share `memoizer`. Null,
+  /// with an assert, when it can't be made. The base form reports that the class has none.
+  virtual OcCurve ocCurve(ocMemoizer& memoizer) const;
   /// The pieces over which the parameter of the curve runs, each with its extent in radians or in
   /// what is like a length.
   virtual std::vector<std::pair<double, ParameterType>> parametricSegments() const = 0;
@@ -47,6 +51,12 @@ class QOR_API FcCurve : public FcCurveAttributes {
   /// answer is the whole extent, except on a single angle.
   double convertParameterToSi(double value, double planeAngleFactor) const;
   double convertParameterFromSi(double value, double planeAngleFactor) const;
+
+  /// `curveGet` without trims as a ring of straight edges, which closes whether the curve does or
+  /// not. A null wire, with an assert, for fewer than two points.
+  TopoDS_Wire ocDiscretizedCurve(const FcParams& params) const;
+  /// That ring, or nothing.
+  std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const override;
 
   /// `curveGet` without trims as a polyline.
   void draw(const FcDrawParams& params) const override;

@@ -8,6 +8,7 @@
 #include "Qor/Draw/Representation.h"
 #include "Qor/Math/Extent.h"
 #include "Qor/Math/Matrix.h"
+#include "Qor/Math/Polygon.h"
 
 class TopoDS_Shape;
 
@@ -43,6 +44,19 @@ class QOR_API FcRepresentationItem : public FcRepresentationItemAttributes {
   virtual void forEachPresentationStyle(
       const std::function<void(const presentationappearance::FcPresentationStyle&)>& callback)
       const;
+
+  /// The outlines of the planar faces of the item's shells, each in its own plane, times `matrix`.
+  /// Holes are left out. By the current processor of complex geometry, on this thread; without one
+  /// an assert and nothing.
+  std::vector<math::_3d::Polygon> getSurfaces(const FcParams& params,
+                                              const math::Matrix& matrix) const;
+  /// The least distance, in metres, between this item in the frame `thisMatrix` and `other` in
+  /// `otherMatrix`: 0 where they touch or overlap. Empty when one has no shape, or no processor is
+  /// there, which is reported.
+  std::optional<double> getDistanceToOtherItem(const FcParams& params,
+                                               const math::Matrix& thisMatrix,
+                                               const FcRepresentationItem& other,
+                                               const math::Matrix& otherMatrix) const;
 
  protected:
   FcRepresentationItem() = default;

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "Fc/ComplexGeometry/OpenCascadeTypes.h"
 #include "Fc/Resource/Geometry/FcRepresentationMapAttributes.h"
 #include "Qor/Math/Extent.h"
 
@@ -22,6 +23,8 @@ class QOR_API FcRepresentationMap : public FcRepresentationMapAttributes {
   /// The same as part of a walk, unless the draw status has its context off.
   void generate(FcGenerateParams& params) const;
   std::optional<math::Extent> boundingBox(const FcParams& params) const;
+  /// Those of the mapped representation in the frame of `MappingOrigin`.
+  std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const;
 };
 
 }  // namespace qor::fc::resource::geometry

@@ -4,6 +4,7 @@
 
 #include "Fc/FcParams.h"
 #include "Fc/Resource/Geometry/FcCurve.h"
+#include "Fc/Resource/Profile/ClosedRing.h"
 #include "Fc/Resource/Profile/CurveAsIndexedPolyCurve.h"
 #include "Fc/Resource/Report.h"
 
@@ -20,9 +21,8 @@ FcArbitraryClosedProfileDef::getAsIndexedPolyCurves() const {
 
 std::vector<Profile2D> FcArbitraryClosedProfileDef::closedProfile(const FcParams& params) const {
   std::vector<Profile2D> result;
-  if (!OuterCurve()) return result;
-  auto ring = OuterCurve()->closedCurve2dGet(params);
-  if (ring) result.emplace_back(std::vector<Profile2D::Contour>{std::move(*ring)});
+  if (auto ring = closedRing(OuterCurve().get(), params))
+    result.emplace_back(std::vector<Profile2D::Contour>{std::move(*ring)});
   return result;
 }
 

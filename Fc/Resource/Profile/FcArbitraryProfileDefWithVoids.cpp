@@ -4,6 +4,7 @@
 
 #include "Fc/FcParams.h"
 #include "Fc/Resource/Geometry/FcCurve.h"
+#include "Fc/Resource/Profile/ClosedRing.h"
 #include "Fc/Resource/Profile/CurveAsIndexedPolyCurve.h"
 #include "Fc/Resource/Report.h"
 
@@ -27,11 +28,9 @@ std::vector<Profile2D> FcArbitraryProfileDefWithVoids::closedProfile(const FcPar
            "qor::fc::resource::profile::FcArbitraryProfileDefWithVoids::closedProfile", __LINE__);
     return result;
   }
-  for (const auto& inner : InnerCurves()) {
-    if (!inner) continue;
-    if (auto ring = inner->closedCurve2dGet(params))
+  for (const auto& inner : InnerCurves())
+    if (auto ring = closedRing(inner.get(), params))
       result.front().contours().push_back(std::move(*ring));
-  }
   return result;
 }
 

@@ -4,6 +4,7 @@
 #include <optional>
 #include <vector>
 
+#include "Fc/ComplexGeometry/OpenCascadeTypes.h"
 #include "Fc/Resource/Profile/FcProfileDefAttributes.h"
 #include "Qor/Draw/Profile2D.h"
 #include "Qor/Math/Extent.h"
@@ -35,6 +36,10 @@ class QOR_API FcProfileDef : public FcProfileDefAttributes {
       const FcParams& params) const;
   /// Moves and scales the area, by its position and dimensions.
   virtual void transform2d(const math::Matrix2d& matrix);
+  /// A face for each area, in the XY plane. The base form reports that the class has none.
+  virtual std::vector<TopoDS_Face> ocProfile(const FcParams& params) const;
+  /// The curve that a surface sweeps; null where there is none. The base form reports itself.
+  virtual OcCurve ocCurve(ocMemoizer& memoizer) const;
   /// A box around the area, or one that is larger; empty where there is nothing to draw. The base
   /// form is that of the contours' points, and reports itself.
   virtual std::optional<math::Extent2d> doGetPlanarBox(const FcParams& params) const;

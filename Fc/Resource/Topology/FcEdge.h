@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "Fc/ComplexGeometry/OpenCascadeTypes.h"
 #include "Fc/Resource/Topology/FcEdgeAttributes.h"
 #include "Qor/Math/Point.h"
 
@@ -15,6 +16,9 @@ namespace qor::fc::resource::topology {
 /// gives it a curve.
 class QOR_API FcEdge : public FcEdgeAttributes {
  public:
+  /// The edge for the solid modeller, between vertices that it shares with others of `memoizer`.
+  /// Null, with an assert, when it can't be made.
+  virtual std::shared_ptr<TopoDS_Edge> ocEdge(ocMemoizer& memoizer) const;
   /// From start to end. False, and no change, for an edge that isn't one of the XY plane or misses
   /// an end. Throws `qor::exception` ("Not of correct type") for a vertex without a cartesian
   /// point.

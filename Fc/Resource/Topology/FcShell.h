@@ -2,7 +2,9 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
+#include "Fc/ComplexGeometry/OpenCascadeTypes.h"
 #include "Fc/Resource/Topology/FcShellAlternatives.h"
 #include "Qor/Math/Extent.h"
 #include "Qor/Math/Matrix.h"
@@ -28,6 +30,7 @@ class QOR_API FcShell : public FcShellAlternatives {
   void draw(const FcDrawParams& params) const;
   void transform(const math::Matrix& matrix) const;
   std::optional<math::Extent> boundingBox(const FcParams& params) const;
+  std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const;
 };
 
 }  // namespace qor::fc::resource::topology

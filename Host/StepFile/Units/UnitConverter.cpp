@@ -6,10 +6,12 @@
 #include "Fc/Core/Kernel/FcProject.h"
 #include "Host/StepFile/Units/CurveParameters.h"
 #include "Host/StepFile/Units/ParameterScale.h"
+#include "Host/StepFile/Units/SurfaceCurves.h"
 
 namespace qor::host::step {
 
 using fc::core::kernel::FcProject;
+using fc::resource::geometry::FcPcurve;
 using fc::resource::measure::FcSIUnit;
 using fc::resource::measure::FcUnitAssignment;
 
@@ -52,13 +54,21 @@ void UnitConverter::convert(UnitRole role, const std::shared_ptr<fc::FcBase>& en
   }
 }
 
+void UnitConverter::convertParameters() {
+  const UnitConversion length = m_model.of(measure::length);
+  const UnitConversion angle = m_model.of(measure::planeAngle);
+  CurveParameters({length, angle}, m_report).convert(m_parameters);
+  SurfaceCurves curves(length, angle, m_report);
+  for (const auto& entity : m_parameters)
+    if (const auto* curve = fc::fcCast<FcPcurve>(entity.get())) curves.convert(*curve);
+}
+
 void UnitConverter::finish(fc::Data& data) {
   for (const auto& entity : m_shared)
     if (!m_maps.convert(*entity)) m_own.convert(*entity);
   m_maps.finish();
   m_own.finish();
-  const ParameterScale scale(m_model.of(measure::length), m_model.of(measure::planeAngle));
-  if (!m_model.isSi()) CurveParameters(scale, m_report).convert(m_parameters);
+  if (!m_model.isSi()) convertParameters();
   m_model.sayTheyAreSi();
   m_siUnits.listIn(data);
 }

@@ -41,6 +41,8 @@ class UnitConverter {
   std::vector<FileUnit> release() { return m_model.release(); }
 
  private:
+  void convertParameters();
+
   using Assignment = std::shared_ptr<fc::resource::measure::FcUnitAssignment>;
   struct Numbered {
     std::uint64_t number;

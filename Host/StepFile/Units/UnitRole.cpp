@@ -7,6 +7,7 @@
 #include "Fc/Resource/GeometricModel/FcSweptDiskSolid.h"
 #include "Fc/Resource/Geometry/FcCurveSegment.h"
 #include "Fc/Resource/Geometry/FcDirectrixCurveSweptAreaSolid.h"
+#include "Fc/Resource/Geometry/FcPcurve.h"
 #include "Fc/Resource/Geometry/FcPointByDistanceExpression.h"
 #include "Fc/Resource/Geometry/FcPointOnCurve.h"
 #include "Fc/Resource/Geometry/FcPointOnSurface.h"
@@ -63,7 +64,7 @@ UnitRole unitRoleOf(const fc::ClassInfo& info) {
     return UnitRole::sharedUnit;
   if (isOneOf<FcTrimmedCurve, FcCurveSegment, FcSweptDiskSolid, FcDirectrixCurveSweptAreaSolid,
               FcPointOnCurve, FcPointOnSurface, FcPointByDistanceExpression,
-              FcRectangularTrimmedSurface>(info))
+              FcRectangularTrimmedSurface, FcPcurve>(info))
     return UnitRole::parameter;
   return UnitRole::none;
 }

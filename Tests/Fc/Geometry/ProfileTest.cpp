@@ -206,12 +206,21 @@ TEST(ArbitraryProfile, TakesClosedCurvesAlone) {
   profile->setInnerCurves({polyline({{1, 1}, {2, 1}, {2, 2}}, true),
                            polyline({{1, 3}, {2, 3}, {2, 3.5}}, false), nullptr});
   const auto areas = profile->closedProfileWithEnforcedOrientation(kParams, true);
-  ASSERT_EQ(areas.at(0).contours().size(), 3u - 1);
+  ASSERT_EQ(areas.at(0).contours().size(), 2u);
   EXPECT_DOUBLE_EQ(signedArea(areas), 15.5);
   EXPECT_EQ(profile->planarBox(kParams), Extent2d({0, 0}, {4, 4}));
 
   profile->transform2d(Matrix2d::createScale(2, 2));
   EXPECT_DOUBLE_EQ(signedArea(profile->closedProfileWithEnforcedOrientation(kParams, true)), 62);
+}
+
+TEST(ArbitraryProfile, IsAsGoodWithTwoPointsAtThePlaceWhereItCloses) {
+  const auto profile = std::make_shared<FcArbitraryClosedProfileDef>();
+  profile->setOuterCurve(polyline({{0, 0}, {4, 0}, {4, 4}, {0, 0}}, false));
+  const auto areas = profile->closedProfile(kParams);
+  EXPECT_EQ(areas.at(0).contours().at(0).size(), 3u);
+  profile->setOuterCurve(polyline({{0, 0}, {4, 0}, {4, 4}}, false));
+  EXPECT_TRUE(profile->closedProfile(kParams).empty());
 }
 
 TEST(ArbitraryProfile, WithoutAClosedOuterCurveIsEmpty) {

@@ -55,8 +55,8 @@ struct Drawing {
   Extent box;
 };
 
-bool isInside(const Extent& inner, const Extent& outer) {
-  const Vector3d margin(1e-9, 1e-9, 1e-9);
+bool isInside(const Extent& inner, const Extent& outer, double by = 1e-9) {
+  const Vector3d margin(by, by, by);
   return Extent(outer.minimum() - margin, outer.maximum() + margin).uniteWith(inner) ==
          Extent(outer.minimum() - margin, outer.maximum() + margin);
 }
@@ -379,8 +379,9 @@ TEST(SweptDiskSolid, KeepsItsVolumeRoundBendsAndRings) {
     pipe.setInnerRadius(measure::FcPositiveLengthMeasure(0.1));
     const Drawing drawing(pipe);
     EXPECT_TRUE(isClosedSolidOfVolume(drawing.mesh, section * bend.length, 1e-6));
+    // A mitre at a corner of the curve's polygon reaches a little beyond the radius.
     const auto box = pipe.boundingBox(kParams);
-    EXPECT_TRUE(box && isInside(drawing.box, *box));
+    EXPECT_TRUE(box && isInside(drawing.box, *box, 0.2 * (1 / std::cos(pi / 64) - 1) + 1e-9));
   }
 }
 

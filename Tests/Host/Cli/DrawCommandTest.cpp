@@ -78,6 +78,28 @@ TEST_F(Drawing, DrawsOneEntityAlone) {
   EXPECT_EQ(runTool({"draw", file, "--id", "22", "--json"}).json()["triangles"], 12);
 }
 
+TEST_F(Drawing, DrawsProductsThatNoProjectLeadsTo) {
+  std::string instances = drawingModel;
+  instances.erase(instances.find("#31=IFCREL"),
+                  instances.find("#32=") - instances.find("#31=IFCREL"));
+  const std::string lost = folder.model(instances, "lost.ifc");
+  const ToolRun run = runTool({"draw", lost, "--json"});
+  EXPECT_EQ(run.json()["triangles"], 12);
+  EXPECT_THAT(run.err, HasSubstr("no project leads to 1 of the products"));
+}
+
+TEST_F(Drawing, HidesSpacesAndOpeningsUnlessAskedFor) {
+  std::string instances = drawingModel;
+  const std::size_t wall = instances.find("IFCWALL(");
+  instances.replace(wall, 8, "IFCSPACE(");
+  instances.replace(instances.find(",$,$);", wall), 6, ",$,$,$,$);");
+  const std::string space = folder.model(instances, "space.ifc");
+  EXPECT_EQ(runTool({"draw", space, "--json"}).json()["objects"], 0);
+  EXPECT_EQ(runTool({"draw", space, "--json", "--spaces"}).json()["objects"], 1);
+  EXPECT_EQ(runTool({"draw", space, "--json", "--openings"}).json()["objects"], 1);
+  EXPECT_EQ(runTool({"measure", space, "--json"}).json()["products"].size(), 1u);
+}
+
 TEST_F(Drawing, MeasuresBodies) {
   const json products = runTool({"measure", file, "--json"}).json()["products"];
   ASSERT_EQ(products.size(), 1u);
@@ -134,8 +156,8 @@ TEST_F(Drawing, SaysWhatItCannotDo) {
       {{"status", file, "--disable", "IfcNothing"}, "'IfcNothing' is neither a class nor a guid"},
       {{"status", file, "--disable", "0000000000000000000009"},
        "no entity with the guid 0000000000000000000009"},
-      {{"measure", folder.model("#1=IFCWALL('0000000000000000000001',$,$,$,$,$,$,$,$);", "w.ifc")},
-       "has no project to draw"},
+      {{"measure", folder.model("#1=IFCCARTESIANPOINT((0.,0.,0.));", "point.ifc")},
+       "has no product to draw; --id draws any one entity"},
   };
   for (const Case& expected : cases) {
     const ToolRun run = runTool(expected.arguments);

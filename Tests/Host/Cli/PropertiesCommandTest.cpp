@@ -130,15 +130,8 @@ TEST_P(BuildingProperties, AppearEachOne) {
   }
 }
 
-std::vector<std::filesystem::path> buildings() {
-  std::vector<std::filesystem::path> models = sharedModels();
-  std::erase_if(models,
-                [](const auto& path) { return path.parent_path().filename() != "buildings"; });
-  return models;
-}
-
-INSTANTIATE_TEST_SUITE_P(PropertiesCommand, BuildingProperties, testing::ValuesIn(buildings()),
-                         modelTestName);
+INSTANTIATE_TEST_SUITE_P(PropertiesCommand, BuildingProperties,
+                         testing::ValuesIn(sharedBuildings()), modelTestName);
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(BuildingProperties);
 
 }  // namespace

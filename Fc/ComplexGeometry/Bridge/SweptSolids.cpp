@@ -1,0 +1,84 @@
+// Swept area solids for the solid modeller: each face of the profile, extruded or turned.
+
+#include <BRepPrimAPI_MakePrism.hxx>
+#include <BRepPrimAPI_MakeRevol.hxx>
+#include <TopoDS.hxx>
+#include <TopoDS_Face.hxx>
+#include <cmath>
+#include <functional>
+#include <gp_Ax1.hxx>
+
+#include "Fc/FcParams.h"
+#include "Fc/HelperFunctionsOC.h"
+#include "Fc/Resource/GeometricModel/FcExtrudedAreaSolid.h"
+#include "Fc/Resource/GeometricModel/FcRevolvedAreaSolid.h"
+#include "Fc/Resource/Geometry/FcAxis1Placement.h"
+#include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
+#include "Fc/Resource/Geometry/FcCartesianPoint.h"
+#include "Fc/Resource/Geometry/FcDirection.h"
+#include "Fc/Resource/Profile/FcProfileDef.h"
+#include "Fc/Resource/Report.h"
+#include "Qor/Math/Epsilon.h"
+
+namespace qor::fc::resource::geometricmodel {
+namespace {
+
+// A solid for each face, moved by the solid's position; a null shape for one that fails.
+std::vector<TopoDS_Shape> sweptFaces(const FcSweptAreaSolid& solid, const FcParams& params,
+                                     const std::function<TopoDS_Shape(const TopoDS_Face&)>& sweep) {
+  std::vector<TopoDS_Shape> solids;
+  for (const TopoDS_Face& face : solid.SweptArea()->ocProfile(params)) {
+    if (face.IsNull()) continue;
+    TopoDS_Shape swept = tryOpenCascadeConstruction<TopoDS_Shape>(
+        [&] { return TopoDS::Solid(sweep(face)); },  // throws for any other shape
+        "OpenCascade extrusion operation failed or result is no solid.",
+        "OpenCascade extrusion operation did not fail, but the resulting shape is Null.");
+    if (solid.Position()) transformOpenCascadeShape(swept, solid.Position()->placementGet());
+    solids.push_back(swept);
+  }
+  return solids;
+}
+
+bool expect(bool holds, const char* message, const char* function, int line) {
+  if (!holds) report(message, function, line);
+  return holds;
+}
+
+}  // namespace
+
+std::vector<TopoDS_Shape> FcExtrudedAreaSolid::ocRepresentation(const FcParams& params) const {
+  const char* const function =
+      "qor::fc::resource::geometricmodel::FcExtrudedAreaSolid::ocRepresentation";
+  if (!expect(Depth() > math::Epsilon::current().length, "Depth should be a positive distance",
+              function, __LINE__) ||
+      !expect(SweptArea() != nullptr, "Swept area should exist", function, __LINE__) ||
+      !expect(ExtrudedDirection() != nullptr, "Extrude direction should exist", function, __LINE__))
+    return {};
+  const gp_Vec extrusion = toOpenCascade(ExtrudedDirection()->vector().normalized() * Depth());
+  return sweptFaces(*this, params, [&](const TopoDS_Face& face) {
+    return BRepPrimAPI_MakePrism(face, extrusion, false, true).Shape();
+  });
+}
+
+std::vector<TopoDS_Shape> FcRevolvedAreaSolid::ocRepresentation(const FcParams& params) const {
+  const char* const function =
+      "qor::fc::resource::geometricmodel::FcRevolvedAreaSolid::ocRepresentation";
+  const auto location = Axis() ? fcCast<geometry::FcCartesianPoint>(Axis()->Location()) : nullptr;
+  if (!expect(location != nullptr, "Axis should exist", function, __LINE__)) return {};
+  const math::Point3d origin = location->point();
+  const math::Vector3d axis = Axis()->Axis() ? Axis()->Axis()->vector() : math::Vector3d(0, 0, 1);
+  const double tolerance = math::Epsilon::current().length;
+  if (!expect(std::abs(origin.z) <= tolerance, "Axis location must have a Z value of 0", function,
+              __LINE__) ||
+      !expect(std::abs(axis.z) <= tolerance, "Axis direction must have a Z value of 0", function,
+              __LINE__) ||
+      !expect(SweptArea() != nullptr, "Swept area should exist", function, __LINE__))
+    return {};
+  const double angle = Angle();
+  return sweptFaces(*this, params, [&](const TopoDS_Face& face) {
+    const gp_Ax1 turning(toOpenCascade(origin), toOpenCascadeDirection(axis));
+    return BRepPrimAPI_MakeRevol(face, turning, angle).Shape();
+  });
+}
+
+}  // namespace qor::fc::resource::geometricmodel

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <TopoDS_Shape.hxx>
+#include <optional>
+#include <vector>
+
+#include "Fc/Resource/GeometricModel/FcBooleanOperand.h"
+#include "Qor/Math/Extent.h"
+
+namespace qor::fc {
+
+class FcParams;
+
+/// The tool is one whose cut may take long, as `isExpensiveTool` of its item has it.
+bool isExpensiveTool(const resource::geometricmodel::FcBooleanOperand& operand);
+
+/// Makes the shapes that a body is cut with. Half-spaces become prisms that reach round the body.
+class DifferenceTools {
+ public:
+  struct Tool {
+    std::vector<TopoDS_Shape> shapes;  ///< none of them null; empty for a tool that is no body
+    bool isAway = false;               ///< the tool doesn't reach the body: there is nothing to cut
+  };
+
+  /// Of the body `base` with its shapes. All three must outlive this.
+  DifferenceTools(const resource::geometricmodel::FcBooleanOperand& base,
+                  const std::vector<TopoDS_Shape>& shapes, const FcParams& params);
+
+  Tool of(const resource::geometricmodel::FcBooleanOperand& operand) const;
+
+ private:
+  math::Extent reach() const;
+
+  const FcParams& m_params;
+  std::optional<math::Extent> m_box;       // as the body tells
+  std::optional<math::Extent> m_shapeBox;  // of its shapes, where it can't tell
+};
+
+}  // namespace qor::fc

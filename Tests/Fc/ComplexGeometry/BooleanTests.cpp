@@ -1,0 +1,219 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "Fc/ComplexGeometry/FcThreadedComplexGeometryProcessor.h"
+#include "Fc/Resource/GeometricModel/FcPolygonalBoundedHalfSpace.h"
+#include "Fc/Resource/Geometry/FcPolyline.h"
+#include "Tests/Fc/ComplexGeometry/Items.h"
+#include "Tests/Fc/ComplexGeometry/ShapeMeasures.h"
+#include "Tests/Support/ExpectAsserts.h"
+
+namespace qor::fc::resource::geometricmodel {
+namespace {
+
+using test::boolean;
+using test::boxItem;
+using test::difference;
+using test::ExpectAsserts;
+using test::halfSpace;
+using test::params;
+using test::volumeOf;
+
+const auto kNoItem = std::shared_ptr<FcPolygonalFaceSet>();
+
+std::shared_ptr<FcPolygonalBoundedHalfSpace> boundedHalfSpace(const math::Point3d& point,
+                                                              const math::Vector3d& normal,
+                                                              double size) {
+  const auto plain = halfSpace(point, normal);
+  auto solid = std::make_shared<FcPolygonalBoundedHalfSpace>();
+  solid->setBaseSurface(plain->BaseSurface());
+  solid->setPosition(geometry::makePlacement(math::Matrix()));
+  auto boundary = std::make_shared<geometry::FcPolyline>();
+  boundary->setPoints(std::vector<math::Point2d>{{-1, -1}, {size, -1}, {size, size}, {-1, size}},
+                      true);
+  solid->setPolygonalBoundary(boundary);
+  return solid;
+}
+
+TEST(BooleanResult, HasTheVolumeOfItsOperation) {
+  const ExpectAsserts none;
+  const auto a = boxItem({0, 0, 0}, {2, 2, 2}), b = boxItem({1, 1, 1}, {3, 3, 3});
+  const struct {
+    FcBooleanOperator::Enum operation;
+    double volume;
+  } cases[] = {{FcBooleanOperator::DIFFERENCE, 7},
+               {FcBooleanOperator::INTERSECTION, 1},
+               {FcBooleanOperator::UNION, 15}};
+  for (const auto& [operation, volume] : cases) {
+    const auto shapes = boolean(operation, a, b)->ocRepresentation(params());
+    ASSERT_EQ(shapes.size(), 1u);
+    EXPECT_NEAR(volumeOf(shapes), volume, 1e-9);
+    EXPECT_TRUE(test::isValid(shapes[0]));
+  }
+}
+
+TEST(BooleanResult, EvaluatesAChainAsOneBodyCutByAllTools) {
+  const ExpectAsserts none;
+  auto chain = difference(boxItem({0, 0, 0}, {10, 1, 1}), boxItem({1, -1, -1}, {2, 2, 2}));
+  for (int i = 2; i < 5; ++i)
+    chain = difference(chain, boxItem({2.0 * i - 1, -1, -1}, {2.0 * i, 2, 2}));
+  EXPECT_NEAR(volumeOf(chain->ocRepresentation(params())), 6, 1e-9);
+}
+
+TEST(BooleanResult, CutsWithTheHalfSpaceOnTheSideThatTheFlagSays) {
+  const ExpectAsserts none;
+  const auto box = boxItem({0, 0, 0}, {2, 2, 2});
+  const struct {
+    math::Point3d point;
+    math::Vector3d normal;
+    bool agreement;
+    double left;
+  } cases[] = {
+      {{0, 0, 0.5}, {0, 0, 1}, false, 2}, {{0, 0, 0.5}, {0, 0, 1}, true, 6},
+      {{1, 1, 1}, {1, 1, 1}, false, 4},   {{100, -50, 0.5}, {0, 0, 1}, false, 2},
+      {{0, 0, 7}, {0, 0, 1}, false, 8},   {{0, 0, 2}, {0, 0, 1}, false, 8},
+      {{0, 0, -1e4}, {0, 0, 1}, true, 8}, {{0.5, 0, 0}, {1, 0, 0}, false, 2},
+  };
+  for (const auto& [point, normal, agreement, left] : cases) {
+    const auto shapes = difference(box, halfSpace(point, normal, agreement));
+    EXPECT_NEAR(volumeOf(shapes->ocRepresentation(params())), left, 1e-6)
+        << point.x << ' ' << point.y << ' ' << point.z << ' ' << agreement;
+  }
+  const auto nothingLeft = difference(box, halfSpace({0, 0, -1}, {0, 0, 1}));
+  EXPECT_NEAR(volumeOf(nothingLeft->ocRepresentation(params())), 0, 1e-9);
+}
+
+TEST(BooleanResult, CutsWithABoundedHalfSpaceWithinItsPolygonAlone) {
+  const ExpectAsserts none;
+  const auto box = boxItem({0, 0, 0}, {2, 2, 2});
+  const struct {
+    math::Point3d point;
+    math::Vector3d normal;
+    double size, left;
+  } cases[] = {
+      {{0, 0, 1}, {0, 0, 1}, 1, 7}, {{0, 0, 1}, {0, 0, 1}, 9, 4},    {{0, 0, 1}, {0, 0, -1}, 1, 7},
+      {{1, 0, 1}, {1, 0, 1}, 9, 4}, {{0, 0, -300}, {0, 0, 1}, 1, 6}, {{0, 0, 9}, {0, 0, 1}, 1, 8},
+  };
+  for (const auto& [point, normal, size, left] : cases) {
+    const auto shapes = difference(box, boundedHalfSpace(point, normal, size));
+    EXPECT_NEAR(volumeOf(shapes->ocRepresentation(params())), left, 1e-6)
+        << point.z << ' ' << normal.z << ' ' << size;
+  }
+}
+
+TEST(BooleanResult, ReportsOperandsThatDontFit) {
+  const auto box = boxItem({0, 0, 0}, {1, 1, 1});
+  const auto space = halfSpace({0, 0, 0}, {0, 0, 1});
+  const auto message = [](const std::string& which, const std::string& operation) {
+    return which + " operand of boolean " + operation +
+           " operation has type which is not supported for " + operation + " operations";
+  };
+  using Operator = FcBooleanOperator;
+  const struct {
+    std::shared_ptr<FcBooleanResult> result;
+    std::string message;
+  } cases[] = {
+      {boolean(Operator::DIFFERENCE, kNoItem, box), message("First", "difference")},
+      {boolean(Operator::DIFFERENCE, space, box), message("First", "difference")},
+      {boolean(Operator::DIFFERENCE, box, kNoItem), message("Second", "difference")},
+      {boolean(Operator::INTERSECTION, space, box), message("First", "intersection")},
+      {boolean(Operator::INTERSECTION, box, space), message("Second", "intersection")},
+      {boolean(Operator::UNION, kNoItem, box), message("First", "union")},
+      {boolean(Operator::UNION, box, space), message("Second", "union")},
+  };
+  for (const auto& [result, expected] : cases) {
+    {
+      const ExpectAsserts asserts({expected});
+      EXPECT_TRUE(result->ocRepresentation(params()).empty());
+    }
+    const ExpectAsserts asserts({expected});
+    EXPECT_FALSE(result->boundingBox(params()));
+  }
+}
+
+TEST(BooleanResult, LeavesTheBodyUncutByAToolThatIsNone) {
+  const auto box = boxItem({0, 0, 0}, {1, 1, 1});
+  const auto left = [&](const auto& tool) {
+    return volumeOf(difference(box, tool)->ocRepresentation(params()));
+  };
+  const char* const skipped =
+      "Skipping a ifc clipping operation because the second operand was invalid.";
+  {
+    const ExpectAsserts expected({skipped});
+    EXPECT_NEAR(left(std::make_shared<FcHalfSpaceSolid>()), 1, 1e-9);
+  }
+  {
+    const ExpectAsserts expected(
+        {skipped, "Polygons extrusion direction can't be parallel to the half space surface."});
+    EXPECT_NEAR(left(boundedHalfSpace({0, 0, 0}, {1, 0, 0}, 1)), 1, 1e-9);
+  }
+  {
+    const ExpectAsserts expected(
+        {skipped,
+         "Assertion failed: Tessellated face set must be closed if used in boolean operations"});
+    EXPECT_NEAR(left(boxItem({0, 0, 0}, {1, 1, 0.5}, 1)), 1, 1e-9);
+  }
+}
+
+TEST(BooleanResult, LeavesExpensiveToolsOutSilentlyWhereItMay) {
+  const ExpectAsserts none;
+  auto cheap = params();
+  cheap.skipExpensiveClipping = true;
+  const auto cut = difference(boxItem({0, 0, 0}, {2, 2, 2}), boxItem({1, 1, 1}, {3, 3, 3}));
+  EXPECT_NEAR(volumeOf(cut->ocRepresentation(cheap)), 8, 1e-9);
+  const auto twice = difference(cut, halfSpace({0, 0, 1}, {0, 0, 1}));
+  EXPECT_NEAR(volumeOf(twice->ocRepresentation(cheap)), 4, 1e-9);
+}
+
+TEST(BooleanResult, EndsWhereItIsPartOfItself) {
+  const auto cycle = difference(boxItem({0, 0, 0}, {1, 1, 1}), boxItem({0, 0, 0}, {1, 1, 1}));
+  for (const auto operation : {FcBooleanOperator::DIFFERENCE, FcBooleanOperator::UNION}) {
+    cycle->setOperator(operation);
+    cycle->setFirstOperand(FcBooleanOperand(cycle));
+    const ExpectAsserts expected({"An item is part of itself"});
+    EXPECT_TRUE(cycle->ocRepresentation(params()).empty());
+  }
+  cycle->setFirstOperand({});
+}
+
+TEST(BooleanResult, BoxesWhatItsOperationLeavesAtMost) {
+  const auto a = boxItem({0, 0, 0}, {2, 2, 2}), b = boxItem({1, 1, 1}, {3, 3, 3});
+  const auto box = [&](FcBooleanOperator::Enum operation) {
+    return *boolean(operation, a, b)->boundingBox(params());
+  };
+  EXPECT_EQ(box(FcBooleanOperator::DIFFERENCE), math::Extent({0, 0, 0}, {2, 2, 2}));
+  EXPECT_EQ(box(FcBooleanOperator::INTERSECTION), math::Extent({1, 1, 1}, {2, 2, 2}));
+  EXPECT_EQ(box(FcBooleanOperator::UNION), math::Extent({0, 0, 0}, {3, 3, 3}));
+}
+
+TEST(BooleanOperand, TakesTheFirstAlternativeThatTheItemFits) {
+  using Types = FcBooleanOperand::Types;
+  const auto typeOf = [](const std::shared_ptr<geometry::FcRepresentationItem>& item) {
+    return FcBooleanOperand::fromRepresentationItem(item).type();
+  };
+  EXPECT_EQ(typeOf(boxItem({0, 0, 0}, {1, 1, 1})), Types::TessellatedFaceSet);
+  EXPECT_EQ(typeOf(halfSpace({0, 0, 0}, {0, 0, 1})), Types::HalfSpaceSolid);
+  EXPECT_EQ(typeOf(difference(kNoItem, kNoItem)), Types::BooleanResult);
+  EXPECT_EQ(typeOf(std::make_shared<geometry::FcPolyline>()), Types::NotSet);
+  EXPECT_EQ(typeOf(nullptr), Types::NotSet);
+}
+
+TEST(BooleanOperand, ReportsAnAlternativeThatIsntTheOneAskedFor) {
+  const FcBooleanOperand box(std::shared_ptr<FcTessellatedFaceSet>(boxItem({0, 0, 0}, {1, 1, 1})));
+  {
+    const ExpectAsserts expected({"Expect operand to be a half space solid."});
+    EXPECT_FALSE(box.HalfSpaceSolidAssert());
+  }
+  {
+    const ExpectAsserts expected({"Expect to have a valid boolean result."});
+    EXPECT_FALSE(FcBooleanOperand(FcBooleanOperand::Types::BooleanResult).BooleanResultAssert());
+  }
+  const ExpectAsserts expected(
+      {"Assertion failed: boolean operand not set when requesting as asserted geometric "
+       "representation item"});
+  EXPECT_FALSE(FcBooleanOperand().asGeometricRepresentationItemAssert());
+}
+
+}  // namespace
+}  // namespace qor::fc::resource::geometricmodel

@@ -1,0 +1,131 @@
+#include <gtest/gtest.h>
+
+#include <thread>
+
+#include "Fc/ComplexGeometry/FcClip.h"
+#include "Fc/ComplexGeometry/FcComplexGeometryProcessorQueueContext.h"
+#include "Fc/ComplexGeometry/FcImplicitClippingTask.h"
+#include "Fc/ComplexGeometry/FcPolygonalFaceSetResult.h"
+#include "Fc/ComplexGeometry/FcThreadedComplexGeometryProcessor.h"
+#include "Fc/Resource/GeometricModel/FcCartesianPointList3D.h"
+#include "Fc/Resource/Geometry/FcCartesianPoint.h"
+#include "Tests/Fc/ComplexGeometry/Items.h"
+#include "Tests/Support/ExpectAsserts.h"
+#include "Tests/Support/SolidMesh.h"
+
+namespace qor::fc {
+namespace {
+
+using test::boxItem;
+using test::halfSpace;
+using test::isClosedSolidOfVolume;
+using test::params;
+using ClipItems = std::vector<FcImplicitClippingTask::ClipItem>;
+
+math::Matrix at(double x, double y, double z) { return math::Matrix::createTranslation({x, y, z}); }
+
+std::vector<generate::draw::PolygonalFaceSetOpenGL> faceSets(
+    const std::unique_ptr<FcComplexGeometryTaskResult>& result) {
+  const auto* sets = dynamic_cast<const FcPolygonalFaceSetResult*>(result.get());
+  return sets ? sets->faceSets() : FcPolygonalFaceSetResult::FaceSets{};
+}
+
+TEST(ImplicitClipping, CutsAWallByItsOpeningsAtOnceInTheFrameOfTheWall) {
+  const test::ExpectAsserts none;
+  const auto wall = boxItem({0, 0, 0}, {10, 0.3, 3});
+  const auto window = boxItem({0, -0.1, 0}, {1, 0.5, 1});
+  const math::Matrix wallFrame = math::Matrix::createZRotate(0.7) * at(1e4, -2e4, 30);
+  ClipItems openings;
+  for (int i = 0; i < 4; ++i) openings.emplace_back(window, at(2 * i + 1, 0, 1) * wallFrame);
+  const FcImplicitClippingTask task(params(), wall, wallFrame, openings);
+  const auto sets = faceSets(task.process());
+  ASSERT_EQ(sets.size(), 1u);
+  EXPECT_TRUE(isClosedSolidOfVolume(sets, 10 * 0.3 * 3 - 4 * 0.3, 1e-6));
+  // Planar faces stay polygons: the six of the wall and four for each opening.
+  EXPECT_EQ(sets[0].faces.size(), 6u + 4 * 4);
+  EXPECT_EQ(sets[0].coordinates.size(), 8u + 4 * 8);
+}
+
+TEST(ImplicitClipping, IsRightForHardCases) {
+  const auto wall = boxItem({0, 0, 0}, {4, 1, 3});
+  const struct {
+    const char* name;
+    math::Point3d low, high;
+    double left;
+    bool inTwo = false;
+  } cases[] = {
+      {"flush with both sides", {1, 0, 1}, {2, 1, 2}, 11},
+      {"flush with the floor", {1, 0, 0}, {2, 1, 2}, 10},
+      {"a niche", {1, 0, 1}, {2, 0.5, 2}, 11.5},
+      {"over a corner", {-1, -1, 2}, {1, 2, 4}, 11},
+      {"the whole wall", {-1, -1, -1}, {5, 2, 4}, 0},
+      {"exactly the wall", {0, 0, 0}, {4, 1, 3}, 0},
+      {"touching a face from outside", {4, 0, 0}, {5, 1, 3}, 12},
+      {"in two parts", {1, -1, -1}, {2, 2, 4}, 9},
+      {"far away", {100, 0, 0}, {101, 1, 3}, 12},
+  };
+  for (const auto& [name, low, high, left, inTwo] : cases) {
+    const test::ExpectAsserts none;
+    const FcImplicitClippingTask task(params(), wall, {}, {{boxItem(low, high), {}}});
+    const auto sets = faceSets(task.process());
+    if (left == 0)
+      EXPECT_TRUE(sets.empty()) << name;
+    else
+      EXPECT_TRUE(isClosedSolidOfVolume(sets, left, 1e-9)) << name;
+  }
+}
+
+TEST(ImplicitClipping, LeavesOutExpensiveToolsThatAreFarAwayOrUnwanted) {
+  const auto wall = boxItem({0, 0, 0}, {4, 1, 3}), box = boxItem({0, 0, 0}, {1, 1, 1});
+  const auto far = halfSpace({100, 0, 0}, {1, 0, 0});
+  const ClipItems tools{{box, at(50, 0, 0)}, {box, at(1, 0, 1)}, {far, {}}, {box, at(4, 0, 0)}};
+  EXPECT_EQ(FcImplicitClippingTask(params(), wall, {}, tools).clipItems().size(), 3u);
+  EXPECT_EQ(FcImplicitClippingTask(params(), wall, at(50, 0, 0), tools).clipItems().size(), 3u);
+  auto cheap = params();
+  cheap.skipExpensiveClipping = true;
+  const FcImplicitClippingTask task(cheap, wall, {}, tools);
+  ASSERT_EQ(task.clipItems().size(), 1u);
+  EXPECT_NE(task.clipItems()[0].first, far) << "a task works on copies";
+}
+
+TEST(ImplicitClipping, GivesNothingForAnItemWithoutShape) {
+  const auto wall = std::make_shared<resource::geometry::FcCartesianPoint>();
+  const test::ExpectAsserts expected(
+      {"ocRepresentation(const qor::fc::FcParams&) not implemented for class: class "
+       "qor::fc::resource::geometry::FcCartesianPoint"});
+  EXPECT_FALSE(FcImplicitClippingTask(params(), wall, {}, {}).process());
+}
+
+// The thread sanitizer watches this one: workers touch nothing of the model that changes.
+TEST(ImplicitClipping, WorksOnCopiesWhileTheModelChanges) {
+  const test::ExpectAsserts none;
+  const FcThreadedComplexGeometryProcessor pool;
+  const FcComplexGeometryProcessorQueueContext context;
+  const auto wall = boxItem({0, 0, 0}, {4, 1, 3}), opening = boxItem({1, -1, 1}, {2, 2, 2});
+  std::vector<std::future<std::unique_ptr<FcComplexGeometryTaskResult>>> results;
+  for (int i = 0; i < 12; ++i) {
+    results.push_back(
+        pool.processAsync(std::make_unique<FcImplicitClippingTask>(
+                              params(), wall, math::Matrix(), ClipItems{{opening, math::Matrix()}}),
+                          context, FcThreadedComplexGeometryProcessor::PriorityHigh));
+    wall->transform(at(0.001, 0, 0));
+    opening->transform(at(0.001, 0, 0));
+    wall->setClosed(i % 2 == 0);
+  }
+  for (auto& result : results) EXPECT_TRUE(isClosedSolidOfVolume(faceSets(result.get()), 11, 1e-6));
+}
+
+TEST(Clip, CutsThroughTheCurrentProcessorAndGivesNothingWithoutOne) {
+  const test::ExpectAsserts none;
+  const auto wall = boxItem({0, 0, 0}, {4, 1, 3});
+  FcClip clip;
+  FcClip::ClippingItemsWorker worker(clip);
+  worker.addClipObject({boxItem({1, -1, 1}, {2, 2, 2}), {}});
+  EXPECT_TRUE(FcClip::getClippedItems(wall, {}, params(), clip).empty());
+  setCurrentComplexGeometryProcessor(std::make_unique<FcThreadedComplexGeometryProcessor>());
+  EXPECT_TRUE(isClosedSolidOfVolume(FcClip::getClippedItems(wall, {}, params(), clip), 11, 1e-9));
+  setCurrentComplexGeometryProcessor(nullptr);
+}
+
+}  // namespace
+}  // namespace qor::fc

@@ -1,0 +1,108 @@
+// Compares what `fctool measure` tells of real models with boxes, areas and volumes that were
+// computed independently, and of which two evaluations agree.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <fstream>
+#include <map>
+#include <set>
+#include <sstream>
+
+#include "Tests/Host/Cli/RunTool.h"
+#include "Tests/Host/Reference/KnownDeviations.h"
+#include "Tests/Support/SharedModels.h"
+
+namespace qor::test {
+namespace {
+
+using nlohmann::json;
+
+constexpr double boxTolerance = 0.001;  // metres
+constexpr double relativeTolerance = 0.01;
+
+/// How far a value lies outside the range that the reference gives.
+double outside(double value, const json& range) {
+  return std::max({0.0, range[0].get<double>() - value, value - range[1].get<double>()});
+}
+
+void compareCorner(const json& product, const json& reference, const char* corner,
+                   std::ostream& out) {
+  for (std::size_t axis = 0; axis < 3; ++axis) {
+    const double value = product[corner][axis], off = outside(value, reference[corner][axis]);
+    if (off > boxTolerance) out << " " << corner << "[" << axis << "] " << value << " off " << off;
+  }
+}
+
+void compareSize(const json& product, const json& reference, const char* size, std::ostream& out) {
+  const double value = std::abs(product[size].get<double>());
+  const double off = outside(value, reference[size]);
+  if (off > relativeTolerance * reference[size][1].get<double>())
+    out << " " << size << " " << value << " for " << reference[size];
+}
+
+constexpr const char* nothing = " draws nothing";
+
+/// In what a product differs; empty when it doesn't.
+std::string deviationOf(const json* product, const json& reference) {
+  if (!product) return nothing;
+  std::ostringstream out;
+  compareCorner(*product, reference, "min", out);
+  compareCorner(*product, reference, "max", out);
+  compareSize(*product, reference, "area", out);
+  if ((*product)["closed"]) compareSize(*product, reference, "volume", out);
+  return out.str();
+}
+
+class Reference : public testing::TestWithParam<std::filesystem::path> {
+ protected:
+  /// The entry that explains the deviation; null for none.
+  const KnownDeviation* explanation(const std::string& guid, const std::string& className,
+                                    const std::string& deviation) const {
+    const auto& all = knownDeviations();
+    const auto found = std::find_if(all.begin(), all.end(), [&](const KnownDeviation& known) {
+      return known.model == model &&
+             (known.product == guid || (known.product == className && deviation == nothing));
+    });
+    return found == all.end() ? nullptr : &*found;
+  }
+
+  const std::string model = GetParam().stem().string();
+};
+
+TEST_P(Reference, AgreesWithWhatIsMeasured) {
+  FC_SHARED_FILE_OR_SKIP(file, "reference/" + model + ".json");
+  const json reference = json::parse(std::ifstream(file));
+  const ToolRun run = runTool({"measure", GetParam().string(), "--json"});
+  ASSERT_NE(run.code, host::cli::ExitCode::impossible) << run.err;
+  const json measured = run.json();
+  std::map<std::string, const json*> products;
+  for (const json& product : measured["products"]) products[product["globalId"]] = &product;
+
+  std::size_t compared = 0, explained = 0;
+  std::set<const KnownDeviation*> used;
+  for (const auto& [guid, expected] : reference.items()) {
+    if (!expected["agree"]) continue;
+    ++compared;
+    const std::string deviation =
+        deviationOf(products.contains(guid) ? products[guid] : nullptr, expected);
+    if (deviation.empty()) continue;
+    const KnownDeviation* known = explanation(guid, expected["class"], deviation);
+    if (!known) ADD_FAILURE() << guid << " " << expected["class"] << deviation;
+    explained += known ? 1 : 0;
+    used.insert(known);
+  }
+  for (const KnownDeviation& known : knownDeviations())
+    EXPECT_TRUE(known.model != model || known.isPending || used.contains(&known))
+        << known.product << " doesn't deviate any more";
+  RecordProperty("compared", static_cast<int>(compared));
+  RecordProperty("explained", static_cast<int>(explained));
+}
+
+INSTANTIATE_TEST_SUITE_P(Models, Reference, testing::ValuesIn(sharedModels()), modelTestName);
+GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(Reference);
+
+}  // namespace
+}  // namespace qor::test
