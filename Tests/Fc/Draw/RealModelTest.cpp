@@ -10,7 +10,6 @@
 #include "Fc/Document/Object.h"
 #include "Fc/FcDrawInterfaceWrapper.h"
 #include "Fc/FcGenerateParams.h"
-#include "Fc/Resource/GeometricConstraint/FcGridPlacement.h"
 #include "Fc/Resource/GeometricConstraint/FcLinearPlacement.h"
 #include "Fc/Resource/GeometricConstraint/FcLocalPlacement.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement2D.h"
@@ -30,7 +29,6 @@ using core::kernel::FcRoot;
 using math::Matrix;
 using math::Point3d;
 using math::Vector3d;
-using resource::geometricconstraint::FcGridPlacement;
 using resource::geometricconstraint::FcLinearPlacement;
 using resource::geometricconstraint::FcLocalPlacement;
 using resource::geometricconstraint::FcObjectPlacement;
@@ -120,14 +118,10 @@ TEST_P(DrawnRealModel, OpensEachProductInTheFrameOfItsPlacements) {
   };
   const auto project = data->project();
   if (!project) GTEST_SKIP() << "no project";
-  if (!data->entities<FcGridPlacement>().empty()) {
-    EXPECT_THROW(project->generate(params), qor::exception);
-    FcGenerateParams::removeCache(*data);
-    return;
-  }
   project->generate(params);
   FcGenerateParams::removeCache(*data);
   RecordProperty("products", static_cast<int>(opened));
+  if (opened == 0) GTEST_SKIP() << "no product in the project's tree";
   EXPECT_GT(computed, 0U) << "of " << opened;
 }
 
