@@ -107,7 +107,8 @@ class Drawing {
     const Point3d at = text.frame.origin() * toPicture;
     const Vector3d along = text.frame.x() * toPicture;
     double angle = std::atan2(along.y, along.x) * 180 / std::numbers::pi;
-    if (angle > 90 || angle <= -90) angle += angle > 0 ? -180 : 180;  // never upside down
+    // Never upside down, and upward where it is vertical, as draughtsmen write.
+    if (angle > 89.9 || angle < -90.1) angle += angle > 0 ? -180 : 180;
     fmt::format_to(
         end(),
         "<text x=\"{0:.2f}\" y=\"{1:.2f}\" transform=\"rotate({2:.1f} {0:.2f} {1:.2f})\" "

@@ -9,7 +9,7 @@ namespace qor::fc::resource::geometricconstraint {
 class QOR_API FcObjectPlacement : public FcObjectPlacementAttributes {
  public:
   /// The frame in the project, or with `relativeOnly` that in the frame of `PlacementRelTo`. The
-  /// base form, which linear placements have too, gives the identity.
+  /// base form gives the identity.
   virtual math::Matrix placementGet(bool relativeOnly) const;
 
  protected:

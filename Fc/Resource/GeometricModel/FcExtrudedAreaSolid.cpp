@@ -46,8 +46,8 @@ bool FcExtrudedAreaSolid::hasSweptArea(const char* operation) const {
 }
 
 bool FcExtrudedAreaSolid::hasDirection(const char* operation) const {
-  return expectThat(ExtrudedDirection() != nullptr, "Extrude direction should exist", operation,
-                    __LINE__);
+  return expectThat(ExtrudedDirection() && std::isfinite(ExtrudedDirection()->vector().length()),
+                    "Extrude direction should exist", operation, __LINE__);
 }
 
 bool FcExtrudedAreaSolid::isReadyToDraw(const char* operation) const {

@@ -53,6 +53,7 @@ bool axisCrossesAnEdge(const RevolutionAxis& axis, const Contour& contour) {
 
 /// Whether there is something to turn; tells what the model does wrong.
 bool checkAgainstAxis(const RevolutionAxis& axis, const Contour& outer, double radius) {
+  if (!std::isfinite(radius)) return false;
   if (radius <= Epsilon::current().length) {
     report("All points of the profile's outer contour seem to lie on the revolution axis",
            kOperation, __LINE__);

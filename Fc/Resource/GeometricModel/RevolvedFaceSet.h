@@ -22,8 +22,9 @@ struct RevolutionAxis {
 /// first; anything less has a bottom and a top. Faces outward whichever side of the axis the
 /// profile lies.
 ///
-/// Nothing for an empty outer ring and, with an assert, for one that lies on the axis. An assert
-/// for a profile that the axis cuts in two, which is swept all the same.
+/// Nothing for an empty outer ring, for coordinates that aren't finite and, with an assert, for a
+/// ring that lies on the axis. An assert for a profile that the axis cuts in two, which is swept
+/// all the same.
 QOR_API std::optional<generate::draw::PolygonalFaceSetOpenGL> revolvedFaceSet(
     const generate::draw::Profile2D& profile, const RevolutionAxis& axis, double angle,
     const math::CurveDiscretization& discretization);

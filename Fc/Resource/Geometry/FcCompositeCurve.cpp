@@ -88,7 +88,7 @@ bool FcCompositeCurve::is2d() const {
         !expectThat(segment->parentCurve() != nullptr,
                     "There is a Segment for which its ParentCurve is not set.",
                     "FcCompositeCurve::is2d", __LINE__) ||
-        !segment->parentCurve()->is2d())
+        !segment->is2d())
       return false;
   }
   return true;

@@ -14,6 +14,11 @@ std::optional<std::vector<math::Point2d>> FcSegment::curve2d(const FcParams& /*p
   return {};
 }
 
+bool FcSegment::is2d() const {
+  const FcCurve* parent = parentCurve();
+  return parent && parent->is2d();
+}
+
 std::vector<std::pair<double, FcCurve::ParameterType>> FcSegment::parametricSegments() const {
   const FcCurve* parent = parentCurve();
   if (!parent) return {};

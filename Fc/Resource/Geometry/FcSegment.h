@@ -15,6 +15,8 @@ class QOR_API FcSegment : public FcSegmentAttributes {
   /// the class has none.
   virtual std::vector<math::Point3d> curve(const FcParams& params) const;
   virtual std::optional<std::vector<math::Point2d>> curve2d(const FcParams& params) const;
+  /// It lies in the XY plane: here, its parent does.
+  virtual bool is2d() const;
   /// The curve that it is a piece of; null for none.
   virtual const FcCurve* parentCurve() const = 0;
   /// How the parameter of the composite curve runs over the piece: as that of its parent.

@@ -309,7 +309,6 @@ TEST(CompositeCurve, ReportsSegmentsWithoutPoints) {
   auto segment = std::make_shared<FcCurveSegment>();
   segment->setParentCurve(line({0, 0, 0}, {1, 0, 0}));
   alignment->pushBackSegments(segment);
-  EXPECT_TRUE(alignment->is2d());
   EXPECT_EQ(alignment->parametricSegments().size(), 1u);
   const ExpectAsserts expected(
       {std::string("FcSegment::curve is not implemented for class "

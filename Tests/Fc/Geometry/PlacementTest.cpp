@@ -239,11 +239,19 @@ TEST(LocalPlacement, NamesThePlacementAtWhichItsChainTurnsBack) {
   top->clearPlacementRelTo();
 }
 
-TEST(LinearPlacement, IsTheIdentityAndAGridPlacementThrows) {
+TEST(LinearPlacement, StandsWhereItsCartesianPositionSays) {
   const auto linear = std::make_shared<FcLinearPlacement>();
+  const auto onIt = localPlacement(Matrix::createTranslation({1, 0, 0}), linear);
+  linear->setPlacementRelTo(localPlacement(Matrix::createTranslation({0, 0, 5})));
   EXPECT_EQ(linear->placementGet(false), Matrix());
-  EXPECT_EQ(localPlacement(Matrix::createTranslation({1, 0, 0}), linear)->placementGet(false),
-            Matrix::createTranslation({1, 0, 0}));
+  EXPECT_EQ(onIt->placementGet(false), Matrix::createTranslation({1, 0, 0}));
+  linear->setCartesianPosition(makePlacement(Matrix::createTranslation({0, 3, 0})));
+  EXPECT_EQ(linear->placementGet(true), Matrix::createTranslation({0, 3, 0}));
+  EXPECT_EQ(linear->placementGet(false), Matrix::createTranslation({0, 3, 5}));
+  EXPECT_EQ(onIt->placementGet(false), Matrix::createTranslation({1, 3, 5}));
+}
+
+TEST(GridPlacement, Throws) {
   const auto grid = std::make_shared<FcGridPlacement>();
   EXPECT_THROW(localPlacement(Matrix(), grid)->placementGet(false), qor::exception);
   EXPECT_EQ(localPlacement(Matrix(), grid)->placementGet(true), Matrix());

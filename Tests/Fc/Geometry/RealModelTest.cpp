@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "Fc/Core/Kernel/FcProduct.h"
+#include "Fc/Resource/GeometricConstraint/FcLinearPlacement.h"
 #include "Fc/Resource/GeometricConstraint/FcLocalPlacement.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement2D.h"
 #include "Fc/Resource/Geometry/FcCurve.h"
@@ -15,7 +16,9 @@ namespace qor::fc::resource::geometry {
 namespace {
 
 using core::kernel::FcProduct;
+using geometricconstraint::FcLinearPlacement;
 using geometricconstraint::FcLocalPlacement;
+using geometricconstraint::FcObjectPlacement;
 using math::Matrix;
 using math::Point3d;
 
@@ -65,23 +68,27 @@ Column placed(const Frame& frame, const Column& column, bool isPoint) {
   return result;
 }
 
+Frame frameOf(const FcAxis2Placement3D& placement) {
+  return frameOf(placement, placement.Axis().get(), placement.RefDirection().get());
+}
+
 Frame frameOf(const FcLocalPlacement& placement) {
   const auto& relative = placement.RelativePlacement();
-  if (relative.type() == FcAxis2Placement::Types::Axis2Placement3D) {
-    const auto& spatial = *relative.Axis2Placement3D();
-    return frameOf(spatial, spatial.Axis().get(), spatial.RefDirection().get());
-  }
+  if (relative.type() == FcAxis2Placement::Types::Axis2Placement3D)
+    return frameOf(*relative.Axis2Placement3D());
   const auto& planar = *relative.Axis2Placement2D();
   return frameOf(planar, nullptr, planar.RefDirection().get());
 }
 
-/// From the top of the chain down; empty when not all of it are local placements.
-std::optional<Frame> absoluteFrame(const FcBase* placement) {
+/// From the top of the chain down; empty when not all of it have a frame in their numbers.
+std::optional<Frame> absoluteFrame(const FcObjectPlacement* placement) {
   if (!placement) return Frame();
   const auto* local = fcCast<FcLocalPlacement>(placement);
-  const auto base = local ? absoluteFrame(local->PlacementRelTo().get()) : std::nullopt;
+  const auto* linear = fcCast<FcLinearPlacement>(placement);
+  if (!local && !(linear && linear->CartesianPosition())) return {};
+  const auto base = absoluteFrame(placement->PlacementRelTo().get());
   if (!base) return {};
-  Frame frame = frameOf(*local);
+  Frame frame = local ? frameOf(*local) : frameOf(*linear->CartesianPosition());
   for (Column& axis : frame.axes) axis = placed(*base, axis, false);
   frame.origin = placed(*base, frame.origin, true);
   return frame;

@@ -414,7 +414,32 @@ TEST(SweptDiskSolidPolygonal, RoundsItsCorners) {
                                     fc::test::piOfSixtyFour() * 0.01 * (3 + 2 + pi / 2), 1e-3));
 }
 
-TEST(SweptSolids, DrawAMillionPointsInLinearTime) {
+TEST(SweptSolids, WithNumbersThatAreNoneDrawNothingOfThem) {
+  const bool enabled = Assert::isEnabled();
+  Assert::setEnabled(false);
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  std::vector<std::shared_ptr<geometry::FcRepresentationItem>> items;
+  for (const ProfileCase& shape : fc::test::profileCases())
+    for (std::size_t i = 0; i < shape.dimensions.size(); ++i) {
+      auto dimensions = shape.dimensions;
+      dimensions[i].second = nan;
+      items.push_back(extrusion(makeProfile(shape.ifcName, dimensions), {0, 0, 1}, 3));
+    }
+  const auto square = makeProfile("IfcRectangleProfileDef", {{"XDim", 1}, {"YDim", 1}});
+  items.push_back(extrusion(square, {nan, 0, 1}, 3));
+  auto turned = std::make_shared<FcRevolvedAreaSolid>();
+  turned->setSweptArea(square);
+  turned->setAxis(axis({nan, 0, 0}, {0, 1, 0}));
+  turned->setAngle(1.0);
+  items.push_back(turned);
+  for (const auto& item : items)
+    for (const auto& set : Drawing(*item).recorder.polygonalSets)
+      for (const Point3d& point : set.what.coordinates)
+        EXPECT_TRUE(std::isfinite(point.x + point.y + point.z)) << item->ifcName();
+  Assert::setEnabled(enabled);
+}
+
+TEST(SweptSolids, FollowAPathOfHundredsOfThousandsOfPoints) {
   std::vector<Point3d> path;
   for (int i = 0; i < 200000; ++i) path.emplace_back(i, i % 2, 0);
   FcFixedReferenceSweptAreaSolid solid;

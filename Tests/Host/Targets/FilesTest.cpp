@@ -170,7 +170,8 @@ TEST(Svg, DrawsLinesTextsAndAScaleBar) {
   scene.objects[0].name = "A & B";
   scene.objects[0].content.lines = {{0, {{0, 0, 0}, {100, 0, 0}, {100, 50, 0}}}};
   scene.objects[0].content.texts = {
-      {0, "<7>", Matrix({-1, 0, 0}, {0, -1, 0}, {0, 0, 1}, {50, 25, 0})}};
+      {0, "<7>", Matrix({-1, 0, 0}, {0, -1, 0}, {0, 0, 1}, {50, 25, 0})},
+      {0, "up", Matrix({0, -1, 0}, {1, 0, 0}, {0, 0, 1}, {50, 25, 0})}};
   std::ostringstream out;
   writeSvg(scene, View::plan, "Title > 1", out);
   const std::string svg = out.str();
@@ -179,6 +180,7 @@ TEST(Svg, DrawsLinesTextsAndAScaleBar) {
                              "1520.00,40.00 \"/>"));
   EXPECT_THAT(svg, HasSubstr("rotate(0.0 800.00 400.00)\" fill=\"#ff0000\">&lt;7&gt;</text>"))
       << "not upside down";
+  EXPECT_THAT(svg, HasSubstr("rotate(-90.0 800.00 400.00)\" fill=\"#ff0000\">up</text>"));
   EXPECT_THAT(svg, HasSubstr("h288.00v-8\"/>")) << "20 m of 14.4 pixels";
   EXPECT_THAT(svg, HasSubstr(">20 m</text>"));
   EXPECT_THAT(svg, HasSubstr("A &amp; B</title>"));
