@@ -4,6 +4,7 @@
 #include <BRepBuilderAPI_MakePolygon.hxx>
 #include <BRepBuilderAPI_Transform.hxx>
 #include <Precision.hxx>
+#include <Standard_ConstructionError.hxx>
 #include <Standard_Failure.hxx>
 #include <TopLoc_Location.hxx>
 #include <cfenv>
@@ -66,6 +67,10 @@ std::size_t ringSize(const std::vector<math::Point3d>& points) {
   return count;
 }
 
+bool isFlat(const math::Matrix& matrix) {
+  return !(std::abs(matrix.x().cross(matrix.y()).dot(matrix.z())) > 0);
+}
+
 TopoDS_Shape copied(const TopoDS_Shape& shape, const math::Matrix& m) {
   const math::Vector3d x = m.x(), y = m.y(), z = m.z();
   const math::Point3d o = m.origin();
@@ -118,6 +123,7 @@ void transformOpenCascadeShape(TopoDS_Shape& shape, const math::Matrix& matrix) 
   if (shape.IsNull() || matrix.isIdentity()) return;
   guardOpenCascade(
       [&] {
+        if (isFlat(matrix)) throw Standard_ConstructionError();
         shape = isRigid(matrix) ? shape.Moved(TopLoc_Location(moveInto(matrix)))
                                 : copied(shape, matrix);
       },
