@@ -28,7 +28,9 @@ using test::ExpectAsserts;
 const math::CurveDiscretization& fine = params.curveDiscretization();
 
 TEST(TurningPath, IsStraightOrRoundWithEvenCurvature) {
-  EXPECT_EQ(turningPath({}, 5, 100, fine), (Points2d{{0, 0}, {100, 0}}));
+  const auto straight = turningPath({}, 5, 100, fine);
+  ASSERT_EQ(straight.size(), 2u);
+  EXPECT_LT(straight.back().distance({100, 0}), 1e-12);
   EXPECT_EQ(turningPath({}, 5, 0, fine), (Points2d{{0, 0}}));
   EXPECT_TRUE(turningPath({}, 5, NAN, fine).empty());
   for (const double radius : {500.0, -500.0, 69230.8}) {
