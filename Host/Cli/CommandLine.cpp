@@ -125,6 +125,8 @@ class CommandLine {
     command.add_option("--segments", options.segments,
                        "Segments of a circle, at least and at most; 16,72 if not given");
     command.add_option("--status", options.status, "File of a draw status");
+    command.add_flag("--skip-expensive", options.skipExpensive,
+                     "Leave out cuts by tessellated bodies and boundary representations");
   }
   void addDraw() {
     CLI::App& command = add("draw", "A mesh or a picture of a model", m_draw, runDraw);

@@ -107,12 +107,13 @@ class Drawing {
  public:
   Drawing(const std::shared_ptr<fc::Data>& data, const fc::DrawStatus& status,
           RepresentationChoice* choice, generate::draw::DrawInterface& target,
-          const std::function<void(double)>& tell)
+          bool skipExpensiveClipping, const std::function<void(double)>& tell)
       : m_document(data),
         m_target(target),
         m_wrapper(target),
         m_params(m_wrapper, m_document, status, *data, choice, nullptr, nullptr),
         m_progress(tell, data->entities<FcProduct>().size()) {
+    m_params.skipExpensiveClipping = skipExpensiveClipping;
     m_params.skipObjectCallback = [this](const Guid&) {
       m_progress.advance(m_done++);
       return false;
@@ -125,7 +126,8 @@ class Drawing {
       root->generate(m_params);
       return true;
     }
-    const fc::FcDrawParams params(m_wrapper);
+    fc::FcDrawParams params(m_wrapper);
+    params.skipExpensiveClipping = m_params.skipExpensiveClipping;
     if (const auto item = fc::fcCast<FcRepresentationItem>(entity))
       return drawPart(*entity, [&] {
         m_wrapper.drawConstRepresentationItem(item, params,
@@ -218,7 +220,8 @@ bool drawModel(const step::ReadResult& model, const DrawingOptions& options,
   math::Epsilon::current().set(1000.0, false);
   ProgressBar bar("Drawing", console);
   const fc::DrawStatus all = choice ? withAllContexts(status) : fc::DrawStatus();
-  Drawing drawing(model.data, choice ? all : status, choice, target, bar.callback());
+  Drawing drawing(model.data, choice ? all : status, choice, target, options.skipExpensive,
+                  bar.callback());
   for (const auto& root : roots) {
     if (drawing.draw(root)) continue;
     refuse(console,
