@@ -91,7 +91,7 @@ void FcDrawInterfaceWrapper::drawRepresentationItem(std::shared_ptr<FcRepresenta
 }
 
 void FcDrawInterfaceWrapper::startObject(const generate::ObjectInterface* object) {
-  if (m_objects) m_openObjects.push_back(std::make_unique<OpenObject>(*m_objects, object));
+  if (m_objects) m_openObjects.emplace_back(*m_objects, object);
 }
 void FcDrawInterfaceWrapper::stopObject() {
   if (!m_openObjects.empty()) m_openObjects.pop_back();

@@ -89,7 +89,7 @@ class QOR_API FcDrawInterfaceWrapper : public FcDrawInterface,
   generate::draw::DrawInterfaceBase& m_target;
   generate::draw::DrawInterface* m_objects;
   generate::draw::BlockInterface* m_blocks;
-  std::deque<std::unique_ptr<OpenObject>> m_openObjects;
+  std::deque<OpenObject> m_openObjects;
   std::map<std::pair<const Shading*, const Textures*>, StyleMaterial> m_materialByStyle;
   std::map<generate::draw::Color, Material, generate::draw::ColorLess> m_materialByColor;
 };

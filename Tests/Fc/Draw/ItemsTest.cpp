@@ -191,10 +191,10 @@ TEST_F(Items, UniteTheirBoxesUnlessOneHasNone) {
   const auto shape = model.shape("Body", {model.line(), model.line(4)});
   EXPECT_EQ(shape->boundingBox(fine), Extent({0, 0, 0}, {5, 0, 0}));
   EXPECT_FALSE(model.shape("Body", {})->boundingBox(fine).value().isValid());
-  shape->insertItems(model.make<FcBooleanResult>());
+  shape->insertItems(model.make<FcTextLiteralWithExtent>());
   const ExpectAsserts expected(
       {"boundingBox() not implemented for class: class "
-       "qor::fc::resource::geometricmodel::FcBooleanResult"});
+       "qor::fc::resource::presentationdefinition::FcTextLiteralWithExtent"});
   EXPECT_EQ(shape->boundingBox(fine), std::nullopt);
 }
 

@@ -121,7 +121,7 @@ TEST_P(DrawnRealModel, OpensEachProductInTheFrameOfItsPlacements) {
   project->generate(params);
   FcGenerateParams::removeCache(*data);
   RecordProperty("products", static_cast<int>(opened));
-  if (opened == 0) GTEST_SKIP() << "no product in the project's tree";
+  if (opened == 0) GTEST_SKIP() << "no product below the project";
   EXPECT_GT(computed, 0U) << "of " << opened;
 }
 
