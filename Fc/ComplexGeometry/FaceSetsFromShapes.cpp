@@ -97,21 +97,23 @@ std::optional<Face> polygonOf(const TopoDS_Face& face, const AppendEdge& appendE
   return polygon;
 }
 
-// The set of a shape whose faces are all planar and whose edges are all straight: it needs no mesh.
-// Empty for any other shape.
-std::optional<PolygonalFaceSetOpenGL> faceSetOfPolyhedron(const TopoDS_Shape& shape) {
-  PolygonalFaceSetOpenGL set;
-  PointMerger points(set.coordinates);
-  const auto appendEdge = [&points](const BRepTools_WireExplorer& edges, Ring& ring) {
+// A planar face whose edges are all straight, by its vertices. Empty for any other face.
+std::optional<Face> polygonOfVertices(const TopoDS_Face& face, PointMerger& points) {
+  if (!isPlanar(face)) return {};
+  return polygonOf(face, [&points](const BRepTools_WireExplorer& edges, Ring& ring) {
     if (!isStraight(edges.Current())) return false;
     const gp_Pnt point = BRep_Tool::Pnt(edges.CurrentVertex());
     appendTo(ring, points.indexOf({point.X(), point.Y(), point.Z()}));
     return true;
-  };
+  });
+}
+
+// The set of a shape whose faces are all such: it needs no mesh. Empty for any other shape.
+std::optional<PolygonalFaceSetOpenGL> faceSetOfPolyhedron(const TopoDS_Shape& shape) {
+  PolygonalFaceSetOpenGL set;
+  PointMerger points(set.coordinates);
   for (TopExp_Explorer faces(shape, TopAbs_FACE); faces.More(); faces.Next()) {
-    const TopoDS_Face& face = TopoDS::Face(faces.Current());
-    if (!isPlanar(face)) return {};
-    auto polygon = polygonOf(face, appendEdge);
+    auto polygon = polygonOfVertices(TopoDS::Face(faces.Current()), points);
     if (!polygon) return {};
     set.faces.push_back(std::move(*polygon));
   }
@@ -173,7 +175,11 @@ PolygonalFaceSetOpenGL faceSetOfMesh(const TopoDS_Shape& shape) {
     const TopoDS_Face& face = TopoDS::Face(faces.Current());
     MeshedFace meshed(face, points);
     if (!meshed.hasMesh()) {
-      reportFace("Face didn't have triangulation.", __LINE__);
+      // The mesher gives up on slivers whose outline is sound.
+      if (auto polygon = polygonOfVertices(face, points))
+        set.faces.push_back(std::move(*polygon));
+      else
+        reportFace("Face didn't have triangulation.", __LINE__);
       continue;
     }
     if (auto polygon = isPlanar(face) ? meshed.polygon() : std::nullopt)
