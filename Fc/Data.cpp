@@ -7,6 +7,7 @@
 #include "Fc/Core/Kernel/FcProject.h"
 #include "Fc/Core/Kernel/FcRoot.h"
 #include "Fc/Factory.h"
+#include "Fc/FcGenerateParams.h"
 #include "Fc/Resource/Representation/FcGeometricRepresentationContext.h"
 #include "Qor/Assert/Assert.h"
 
@@ -47,7 +48,7 @@ auto rangeIn(Entities& entities, std::uint32_t first, std::uint32_t last) {
 
 }  // namespace
 
-Data::~Data() = default;
+Data::~Data() { FcGenerateParams::removeCache(*this); }
 
 std::shared_ptr<FcBase> Data::entityCreate(const std::string& ifcName) {
   std::shared_ptr<FcBase> entity = Factory::objectFromIfcName(StringHash::of(ifcName));

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <mutex>
 #include <unordered_map>
 #include <utility>
 
@@ -16,9 +17,15 @@ namespace {
 // A root that is gone leaves its address, which another one may come to have.
 using Roots = std::unordered_map<const core::kernel::FcRoot*, std::weak_ptr<core::kernel::FcRoot>>;
 
-std::map<const Data*, Roots>& drawnRoots() {
-  static std::map<const Data*, Roots> roots;
-  return roots;
+/// Of all models of the process. Walks in one model at a time, but models may end on any thread.
+struct DrawnRoots {
+  std::mutex mutex;
+  std::map<const Data*, Roots> byModel;
+};
+
+DrawnRoots& drawnRoots() {
+  static auto* const roots = new DrawnRoots();  // stays for models that end after main
+  return *roots;
 }
 
 }  // namespace
@@ -44,7 +51,11 @@ FcGenerateParams::~FcGenerateParams() = default;
 ObjectInterface* FcGenerateParams::object(const std::shared_ptr<FcRoot>& root) {
   ObjectInterface* const object = m_objects.object(root);
   if (!object) return nullptr;
-  drawnRoots()[&m_data].insert_or_assign(root.get(), root);
+  {
+    DrawnRoots& drawn = drawnRoots();
+    const std::lock_guard lock(drawn.mutex);
+    drawn.byModel[&m_data].insert_or_assign(root.get(), root);
+  }
   object->objectSet(root);
   return object;
 }
@@ -82,14 +93,20 @@ void FcGenerateParams::handleRepresentationState(const FcRoot& root) const {
 }
 
 const Data* FcGenerateParams::dataFromObject(const std::shared_ptr<FcRoot>& root) {
-  for (const auto& [data, roots] : drawnRoots()) {
+  DrawnRoots& drawn = drawnRoots();
+  const std::lock_guard lock(drawn.mutex);
+  for (const auto& [data, roots] : drawn.byModel) {
     const auto found = roots.find(root.get());
     if (found != roots.end() && found->second.lock() == root) return data;
   }
   return nullptr;
 }
 
-void FcGenerateParams::removeCache(const Data& data) { drawnRoots().erase(&data); }
+void FcGenerateParams::removeCache(const Data& data) {
+  DrawnRoots& drawn = drawnRoots();
+  const std::lock_guard lock(drawn.mutex);
+  drawn.byModel.erase(&data);
+}
 
 bool FcGenerateParams::visit(const FcRoot& root) { return m_visited.insert(&root).second; }
 

@@ -125,6 +125,8 @@ class CommandLine {
     command.add_option("--segments", options.segments,
                        "Segments of a circle, at least and at most; 16,72 if not given");
     command.add_option("--status", options.status, "File of a draw status");
+    command.add_flag("--no-openings", options.noOpenings,
+                     "Leave bodies as they are before their openings are cut out");
     command.add_flag("--skip-expensive", options.skipExpensive,
                      "Leave out cuts by tessellated bodies and boundary representations");
   }
@@ -140,8 +142,16 @@ class CommandLine {
     command.add_option("--size", m_draw.size, "Pixels of a .png, such as 1600x1200");
   }
   void addMeasure() {
-    addDrawing(add("measure", "Box, area and volume of each product", m_measure, runMeasure),
-               m_measure);
+    CLI::App& command =
+        add("measure", "Box, area and volume of each product", m_measure, runMeasure);
+    addDrawing(command, m_measure);
+    command.add_flag("--surfaces", m_measure.surfaces,
+                     "Outlines of the planar faces of each body instead");
+    command
+        .add_option("--distance", m_measure.distance,
+                    "The least distance between the bodies of two objects instead")
+        ->expected(2)
+        ->type_name("GUID");
   }
   void addStatus() {
     CLI::App& command = add("status", "What is hidden when a model is drawn", m_status, runStatus);

@@ -4,8 +4,10 @@
 
 #include <ostream>
 
+#include "Fc/FcParams.h"
 #include "Host/Cli/EntityLabel.h"
 #include "Host/Cli/LoadModel.h"
+#include "Host/Cli/MeasureBodies.h"
 #include "Host/Cli/PrintableText.h"
 #include "Host/Targets/SceneMeasure.h"
 #include "Host/Targets/SceneTarget.h"
@@ -52,6 +54,9 @@ ExitCode runMeasure(const MeasureOptions& options, Console& console) {
   if (!discretization) return ExitCode::impossible;
   const auto model = loadModel(options.file, console);
   if (!model) return ExitCode::impossible;
+  const fc::FcParams params(*discretization);
+  if (options.surfaces) return measureSurfaces(*model, options, params, console);
+  if (!options.distance.empty()) return measureDistance(*model, options, params, console);
   const auto status = readDrawStatus(*model->data, options.status, console);
   if (!status) return ExitCode::impossible;
   RepresentationChoice choice = options.context.empty() ? RepresentationChoice::bodies(*model->data)

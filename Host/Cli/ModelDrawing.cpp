@@ -13,7 +13,6 @@
 #include <variant>
 #include <vector>
 
-#include "Fc/ComplexGeometry/FcThreadedComplexGeometryProcessor.h"
 #include "Fc/Core/Kernel/FcProduct.h"
 #include "Fc/Document/Document.h"
 #include "Fc/FcDrawInterfaceWrapper.h"
@@ -25,6 +24,7 @@
 #include "Host/Cli/LoadModel.h"
 #include "Host/Cli/ModelTree.h"
 #include "Host/Cli/PrintableText.h"
+#include "Host/Cli/ProcessorScope.h"
 #include "Host/Cli/ProgressBar.h"
 #include "Host/StepFile/EntityNumbers.h"
 #include "Host/StepFile/Progress.h"
@@ -65,25 +65,6 @@ std::shared_ptr<fc::FcBase> findEntity(const step::ReadResult& model, const std:
   return nullptr;
 }
 
-/// Installs a processor for what needs the solid modeller, unless there is one, for as long as it
-/// lives.
-class ProcessorScope {
- public:
-  ProcessorScope() : m_isOurs(!fc::getCurrentComplexGeometryProcessor()) {
-    if (m_isOurs)
-      fc::setCurrentComplexGeometryProcessor(
-          std::make_unique<fc::FcThreadedComplexGeometryProcessor>());
-  }
-  ProcessorScope(const ProcessorScope&) = delete;
-  ProcessorScope& operator=(const ProcessorScope&) = delete;
-  ~ProcessorScope() {
-    if (m_isOurs) fc::setCurrentComplexGeometryProcessor(nullptr);
-  }
-
- private:
-  bool m_isOurs;
-};
-
 /// What is drawn when nothing is asked for: the project, and what it doesn't lead to, of which a
 /// line tells.
 std::vector<std::shared_ptr<fc::FcBase>> allRoots(const step::ReadResult& model, Console& console) {
@@ -102,18 +83,43 @@ std::vector<std::shared_ptr<fc::FcBase>> allRoots(const step::ReadResult& model,
   return roots;
 }
 
+/// Leaves walls as they are before openings are cut out.
+class UncutWrapper : public fc::FcDrawInterfaceWrapper {
+ public:
+  using FcDrawInterfaceWrapper::FcDrawInterfaceWrapper;
+
+  void drawConstRepresentationItem(std::shared_ptr<const FcRepresentationItem> item,
+                                   const fc::FcDrawParams& params,
+                                   generate::draw::SurfaceDrawType type) override {
+    const RestoreClipping uncut(*this);
+    FcDrawInterfaceWrapper::drawConstRepresentationItem(std::move(item), params, type);
+  }
+  void drawRepresentationItem(std::shared_ptr<FcRepresentationItem> item,
+                              const fc::FcDrawParams& params,
+                              generate::draw::SurfaceDrawType type) override {
+    const RestoreClipping uncut(*this);
+    FcDrawInterfaceWrapper::drawRepresentationItem(std::move(item), params, type);
+  }
+};
+
+std::unique_ptr<fc::FcDrawInterfaceWrapper> wrapperOf(generate::draw::DrawInterface& target,
+                                                      const DrawingOptions& options) {
+  if (options.noOpenings) return std::make_unique<UncutWrapper>(target);
+  return std::make_unique<fc::FcDrawInterfaceWrapper>(target);
+}
+
 /// One walk over a model into one target.
 class Drawing {
  public:
   Drawing(const std::shared_ptr<fc::Data>& data, const fc::DrawStatus& status,
           RepresentationChoice* choice, generate::draw::DrawInterface& target,
-          bool skipExpensiveClipping, const std::function<void(double)>& tell)
+          const DrawingOptions& options, const std::function<void(double)>& tell)
       : m_document(data),
         m_target(target),
-        m_wrapper(target),
-        m_params(m_wrapper, m_document, status, *data, choice, nullptr, nullptr),
+        m_wrapper(wrapperOf(target, options)),
+        m_params(*m_wrapper, m_document, status, *data, choice, nullptr, nullptr),
         m_progress(tell, data->entities<FcProduct>().size()) {
-    m_params.skipExpensiveClipping = skipExpensiveClipping;
+    m_params.skipExpensiveClipping = options.skipExpensive;
     m_params.skipObjectCallback = [this](const Guid&) {
       m_progress.advance(m_done++);
       return false;
@@ -126,12 +132,12 @@ class Drawing {
       root->generate(m_params);
       return true;
     }
-    fc::FcDrawParams params(m_wrapper);
+    fc::FcDrawParams params(*m_wrapper);
     params.skipExpensiveClipping = m_params.skipExpensiveClipping;
     if (const auto item = fc::fcCast<FcRepresentationItem>(entity))
       return drawPart(*entity, [&] {
-        m_wrapper.drawConstRepresentationItem(item, params,
-                                              generate::draw::SurfaceDrawType::Surface);
+        m_wrapper->drawConstRepresentationItem(item, params,
+                                               generate::draw::SurfaceDrawType::Surface);
       });
     if (const auto representation = fc::fcCast<FcRepresentation>(entity))
       return drawPart(*entity, [&] { representation->draw(params); });
@@ -154,7 +160,7 @@ class Drawing {
 
   fc::document::Document m_document;
   generate::draw::DrawInterface& m_target;
-  fc::FcDrawInterfaceWrapper m_wrapper;
+  std::unique_ptr<fc::FcDrawInterfaceWrapper> m_wrapper;
   fc::FcGenerateParams m_params;
   step::Progress m_progress;
   std::size_t m_done = 0;
@@ -220,8 +226,7 @@ bool drawModel(const step::ReadResult& model, const DrawingOptions& options,
   math::Epsilon::current().set(1000.0, false);
   ProgressBar bar("Drawing", console);
   const fc::DrawStatus all = choice ? withAllContexts(status) : fc::DrawStatus();
-  Drawing drawing(model.data, choice ? all : status, choice, target, options.skipExpensive,
-                  bar.callback());
+  Drawing drawing(model.data, choice ? all : status, choice, target, options, bar.callback());
   for (const auto& root : roots) {
     if (drawing.draw(root)) continue;
     refuse(console,

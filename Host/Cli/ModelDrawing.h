@@ -21,6 +21,7 @@ struct DrawingOptions {
   double chord = 2;                ///< millimetres between a circle and its segments
   std::string segments = "16,72";  ///< of a full circle, at least and at most
   std::filesystem::path status{};  ///< file of a draw status; empty for the default one
+  bool noOpenings = false;         ///< draw bodies as they are before openings are cut out
   bool skipExpensive = false;      ///< leave out cuts by bodies that take the solid modeller long
 };
 

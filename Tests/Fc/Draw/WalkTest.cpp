@@ -177,6 +177,12 @@ TEST_F(Walk, RemembersTheModelOfARootUntilItIsForgotten) {
   EXPECT_EQ(FcGenerateParams::dataFromObject(wall), model.data.get());
   FcGenerateParams::removeCache(*model.data);
   EXPECT_EQ(FcGenerateParams::dataFromObject(wall), nullptr);
+
+  auto other = std::make_shared<Data>();
+  FcGenerateParams(wrapper, objects, status, *other, nullptr, nullptr, nullptr).object(wall);
+  EXPECT_EQ(FcGenerateParams::dataFromObject(wall), other.get());
+  other.reset();
+  EXPECT_EQ(FcGenerateParams::dataFromObject(wall), nullptr) << "the model is gone";
 }
 
 TEST_F(Walk, AsksForContextsAndRepresentations) {
