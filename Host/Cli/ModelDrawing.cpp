@@ -94,12 +94,6 @@ class UncutWrapper : public fc::FcDrawInterfaceWrapper {
     const RestoreClipping uncut(*this);
     FcDrawInterfaceWrapper::drawConstRepresentationItem(std::move(item), params, type);
   }
-  void drawRepresentationItem(std::shared_ptr<FcRepresentationItem> item,
-                              const fc::FcDrawParams& params,
-                              generate::draw::SurfaceDrawType type) override {
-    const RestoreClipping uncut(*this);
-    FcDrawInterfaceWrapper::drawRepresentationItem(std::move(item), params, type);
-  }
 };
 
 std::unique_ptr<fc::FcDrawInterfaceWrapper> wrapperOf(generate::draw::DrawInterface& target,

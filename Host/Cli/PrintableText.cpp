@@ -3,7 +3,6 @@
 #include <fmt/format.h>
 
 #include <iterator>
-#include <optional>
 
 #include "Qor/String/Utf8.h"
 
@@ -32,20 +31,11 @@ void appendEscape(std::string& out, char32_t control) {
 }  // namespace
 
 std::string printable(std::string_view text) {
-  std::string out;
-  out.reserve(text.size());
-  while (!text.empty()) {
-    const std::optional<Utf8CodePoint> next = firstCodePoint(text);
-    const std::size_t length = next ? next->length : 1;
-    if (!next)
-      appendUtf8(out, 0xFFFD);
-    else if (isControl(next->value))
-      appendEscape(out, next->value);
-    else
-      out += text.substr(0, length);
-    text.remove_prefix(length);
-  }
-  return out;
+  return repairedUtf8(text, [](std::string& out, char32_t c) {
+    if (!isControl(c)) return false;
+    appendEscape(out, c);
+    return true;
+  });
 }
 
 std::string inQuotes(std::string_view text) { return "'" + printable(text) + "'"; }

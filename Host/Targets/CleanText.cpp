@@ -1,7 +1,5 @@
 #include "Host/Targets/CleanText.h"
 
-#include <optional>
-
 #include "Qor/String/Utf8.h"
 
 namespace qor::host::targets {
@@ -16,20 +14,11 @@ bool isUnwelcome(char32_t c) {
 }  // namespace
 
 std::string cleanText(std::string_view text) {
-  std::string out;
-  out.reserve(text.size());
-  while (!text.empty()) {
-    const std::optional<Utf8CodePoint> next = firstCodePoint(text);
-    const std::size_t length = next ? next->length : 1;
-    if (!next)
-      appendUtf8(out, 0xFFFD);
-    else if (isUnwelcome(next->value))
-      out += ' ';
-    else
-      out += text.substr(0, length);
-    text.remove_prefix(length);
-  }
-  return out;
+  return repairedUtf8(text, [](std::string& out, char32_t c) {
+    if (!isUnwelcome(c)) return false;
+    out += ' ';
+    return true;
+  });
 }
 
 std::string xmlText(std::string_view text) {

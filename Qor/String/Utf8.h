@@ -29,4 +29,23 @@ QOR_API bool isValidUtf8(std::string_view text);
 /// U+10FFFF.
 QOR_API bool appendUtf8(std::string& text, char32_t codePoint);
 
+/// `text` as well-formed UTF-8, with U+FFFD for each byte that belongs to no code point, and with
+/// what `replacement` appends for the code points that it answers true for:
+/// `bool replacement(std::string& out, char32_t codePoint)`.
+template <class Replacement>
+std::string repairedUtf8(std::string_view text, const Replacement& replacement) {
+  std::string out;
+  out.reserve(text.size());
+  while (!text.empty()) {
+    const std::optional<Utf8CodePoint> next = firstCodePoint(text);
+    const std::size_t length = next ? next->length : 1;
+    if (!next)
+      appendUtf8(out, 0xFFFD);
+    else if (!replacement(out, next->value))
+      out += text.substr(0, length);
+    text.remove_prefix(length);
+  }
+  return out;
+}
+
 }  // namespace qor

@@ -2,9 +2,9 @@
 
 #include <optional>
 
+#include "Fc/Resource/Expect.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
 #include "Fc/Resource/Geometry/FcCurve.h"
-#include "Fc/Resource/Geometry/GeometryAssert.h"
 #include "Qor/Math/Angle.h"
 
 namespace qor::fc::resource::geometry {
@@ -32,7 +32,7 @@ std::optional<double> trimAngle(const FcCurve::Trim& trim, AngleOfPoint&& angleO
     return math::Angle(trim->ParameterValue()).calculateModulusTwoTimesPI();
   const auto& point = trim->CartesianPoint();
   if (!expectThat(point != nullptr, "FcTrimmingSelect::CartesianPoint is required",
-                  "FcConic::curveGet", __LINE__))
+                  "qor::fc::resource::geometry::FcConic::curveGet", __LINE__))
     return {};
   return math::Angle(angleOfPoint(point->point())).calculateModulusTwoTimesPI();
 }

@@ -5,7 +5,7 @@
 
 #include "Fc/NotImplemented.h"
 #include "Fc/Resource/Geometry/FcCurve.h"
-#include "Fc/Resource/Geometry/GeometryAssert.h"
+#include "Fc/Resource/Report.h"
 
 namespace qor::fc::resource::geometry {
 
@@ -27,9 +27,9 @@ CurveNesting::CurveNesting(const FcCurve& curve) {
   if (m_allowed)
     curves.push_back(&curve);
   else
-    reportBroken((again ? "Circular dependency in " : "Too many curves within each other, at ") +
-                     runTimeTypeName(curve),
-                 "CurveNesting::CurveNesting", __LINE__);
+    report((again ? "Circular dependency in " : "Too many curves within each other, at ") +
+               runTimeTypeName(curve),
+           "CurveNesting::CurveNesting", __LINE__);
 }
 
 CurveNesting::~CurveNesting() {

@@ -3,17 +3,18 @@
 #include <string>
 
 #include "Fc/Resource/Geometry/FcCurve.h"
-#include "Fc/Resource/Geometry/GeometryAssert.h"
+#include "Fc/Resource/Report.h"
 
 namespace qor::fc::resource::geometry {
 
 /// For curves that can only be evaluated whole: true when neither trims nor `reverse` are asked
 /// for. Else asserts "FcTrimmedCurve::curve2d not implemented for trimming", or for reverse, with
-/// the operation given.
+/// the operation given, which is named without its namespace.
 inline bool expectWhole(const FcCurve::Trim& trim1, const FcCurve::Trim& trim2, bool reverse,
                         const char* operation) {
   const auto refuse = [&](const char* what) {
-    reportBroken(std::string(operation) + " not implemented for " + what, operation, __LINE__);
+    const std::string function = std::string("qor::fc::resource::geometry::") + operation;
+    report(std::string(operation) + " not implemented for " + what, function.c_str(), __LINE__);
   };
   if (trim1 || trim2) refuse("trimming");
   if (reverse) refuse("reverse");

@@ -1,8 +1,8 @@
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
 
 #include "Fc/Reflection/MakeEntity.h"
+#include "Fc/Resource/Expect.h"
 #include "Fc/Resource/Geometry/FcDirection.h"
-#include "Fc/Resource/Geometry/GeometryAssert.h"
 
 namespace qor::fc::resource::geometry {
 
@@ -16,12 +16,13 @@ bool expectThreeDimensional(const FcDirection* direction, int line) {
   return expectThat(!direction || direction->dimension() == 3,
                     "Assertion failed: by formal propositions Axis must reference a "
                     "three-dimensional direction",
-                    "FcAxis2Placement3D::placementGet", line);
+                    "qor::fc::resource::geometry::FcAxis2Placement3D::placementGet", line);
 }
 
 /// The part of the reference direction at right angles to the Z axis, of length 1.
 Vector3d refDirectionAdjustedToBeOrthonormalTo(const Vector3d& z, const FcDirection& reference) {
-  static constexpr char operation[] = "FcAxis2Placement3D::refDirectionAdjustedToBeOrthonormalTo";
+  static constexpr char operation[] =
+      "qor::fc::resource::geometry::FcAxis2Placement3D::refDirectionAdjustedToBeOrthonormalTo";
   const Vector3d r = reference.vector().normalized();
   expectThat(!z.isNear({}), "Expect zAxis not to be Null Vector.", operation, __LINE__);
   expectThat(!r.isNear({}), "Expect RefDirection() not to be Null Vector.", operation, __LINE__);
@@ -56,12 +57,13 @@ FcAxis2Placement3D::FcAxis2Placement3D(const Matrix& matrix) {
   expectThat(!matrix.isMirror(),
              "Assertion failed in Constructor FcAxis2Placement3D: by formal propositions, "
              "placements must not allow mirroring",
-             "FcAxis2Placement3D::FcAxis2Placement3D", __LINE__);
+             "qor::fc::resource::geometry::FcAxis2Placement3D::FcAxis2Placement3D", __LINE__);
   setPlacement(matrix);
 }
 
 Matrix FcAxis2Placement3D::placementGet() const {
-  static constexpr char operation[] = "FcAxis2Placement3D::placementGet";
+  static constexpr char operation[] =
+      "qor::fc::resource::geometry::FcAxis2Placement3D::placementGet";
   expectThat(!Axis() == !RefDirection(),
              "Assertion failed: by formal propositions either both, Axis and RefDirection must be "
              "given, or neither of them.",
@@ -88,11 +90,11 @@ void FcAxis2Placement3D::setPlacement(const Matrix& matrix) {
   expectThat(!matrix.isMirror(),
              "Assertion failed in vPlacementSet: by formal propositions, placements must not allow "
              "mirroring",
-             "FcAxis2Placement3D::setPlacement", __LINE__);
+             "qor::fc::resource::geometry::FcAxis2Placement3D::setPlacement", __LINE__);
   expectThat(!matrix.z().normalized().cross(matrix.x().normalized()).isNear({}),
              "Assertion failed in vPlacementSet: by formal propositions, cross product of Axis() "
              "and RefDirection() must not be Null vector",
-             "FcAxis2Placement3D::setPlacement", __LINE__);
+             "qor::fc::resource::geometry::FcAxis2Placement3D::setPlacement", __LINE__);
   writeLocation(matrix.origin());
   if (matrix.x().isNear({1, 0, 0}) && matrix.z().isNear({0, 0, 1})) {
     clearAxis();
@@ -107,7 +109,7 @@ void FcAxis2Placement3D::transform(const Matrix& matrix) {
   expectThat(!matrix.isMirror(),
              "Assertion failed in transform: by formal propositions, placements must not allow "
              "mirroring",
-             "FcAxis2Placement3D::transform", __LINE__);
+             "qor::fc::resource::geometry::FcAxis2Placement3D::transform", __LINE__);
   if (!matrix.isIdentity()) setPlacement(placementGet() * matrix);
 }
 

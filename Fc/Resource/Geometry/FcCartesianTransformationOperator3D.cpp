@@ -1,8 +1,8 @@
 #include "Fc/Resource/Geometry/FcCartesianTransformationOperator3D.h"
 
+#include "Fc/Resource/Expect.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
 #include "Fc/Resource/Geometry/FcDirection.h"
-#include "Fc/Resource/Geometry/GeometryAssert.h"
 
 namespace qor::fc::resource::geometry {
 
@@ -43,7 +43,7 @@ void FcCartesianTransformationOperator3D::transform(const Matrix& matrix) {
       !differ(scales.x, scales.y) && !differ(scales.x, scales.z) && !differ(scales.y, scales.z),
       "FcCartesianTransformationOperator3D can only be uniform. You can use "
       "FcCartesianTransformationOperator3DNonUniform",
-      "FcCartesianTransformationOperator3D::transform", __LINE__);
+      "qor::fc::resource::geometry::FcCartesianTransformationOperator3D::transform", __LINE__);
 }
 
 }  // namespace qor::fc::resource::geometry

@@ -1,8 +1,8 @@
 #include "Fc/Resource/Geometry/FcCircle.h"
 
 #include "Fc/FcParams.h"
+#include "Fc/Resource/Expect.h"
 #include "Fc/Resource/Geometry/ConicArc.h"
-#include "Fc/Resource/Geometry/GeometryAssert.h"
 
 namespace qor::fc::resource::geometry {
 
@@ -58,8 +58,8 @@ bool FcCircle::is2d() const {
 }
 
 std::optional<std::vector<Point2d>> FcCircle::closedCurve2dGet(const FcParams& params) const {
-  if (!hasRadius(*this, "FcCircle::closedCurve2dGet") ||
-      !isFlat(*this, "FcCircle::closedCurve2dGet"))
+  if (!hasRadius(*this, "qor::fc::resource::geometry::FcCircle::closedCurve2dGet") ||
+      !isFlat(*this, "qor::fc::resource::geometry::FcCircle::closedCurve2dGet"))
     return {};
   const Point2d center = centerOf(Position().transformationGet());
   return params.curveDiscretization().discretizeCircle(center, Radius());
@@ -67,9 +67,12 @@ std::optional<std::vector<Point2d>> FcCircle::closedCurve2dGet(const FcParams& p
 
 std::optional<std::vector<Point2d>> FcCircle::curve2d(const FcParams& params, const Trim& trim1,
                                                       const Trim& trim2, bool reverse) const {
-  if (!hasRadius(*this, "FcCircle::curve2d") || !isFlat(*this, "FcCircle::curve2d")) return {};
+  if (!hasRadius(*this, "qor::fc::resource::geometry::FcCircle::curve2d") ||
+      !isFlat(*this, "qor::fc::resource::geometry::FcCircle::curve2d"))
+    return {};
   const Matrix position = Position().transformationGet();
-  const auto arc = arcBetween(position, trim1, trim2, reverse, "FcCircle::curve2d");
+  const auto arc =
+      arcBetween(position, trim1, trim2, reverse, "qor::fc::resource::geometry::FcCircle::curve2d");
   if (!arc) return {};
   const double offset = Vector2d(1, 0).counterClockwiseAngle({position.x().x, position.x().y});
   const double sense = position.z().z < 0 ? -1 : 1;  // seen from above, it may run the other way
@@ -81,9 +84,10 @@ std::optional<std::vector<Point2d>> FcCircle::curve2d(const FcParams& params, co
 
 std::vector<Point3d> FcCircle::curveGet(const FcParams& params, const Trim& trim1,
                                         const Trim& trim2, bool reverse) const {
-  if (!hasRadius(*this, "FcCircle::curveGet")) return {};
+  if (!hasRadius(*this, "qor::fc::resource::geometry::FcCircle::curveGet")) return {};
   const Matrix position = Position().transformationGet();
-  const auto arc = arcBetween(position, trim1, trim2, reverse, "FcCircle::curveGet");
+  const auto arc = arcBetween(position, trim1, trim2, reverse,
+                              "qor::fc::resource::geometry::FcCircle::curveGet");
   if (!arc) return {};
   return position.transform(params.curveDiscretization().discretizeCircularArc(
       Point2d(), Radius(), arc->start, arc->sweep));
@@ -94,7 +98,9 @@ void FcCircle::transform(const Matrix& matrix) {
   const double x = matrix.x().length(), y = matrix.y().length(), z = matrix.z().length();
   const bool uniform =
       std::abs(x - y) <= tolerance && std::abs(x - z) <= tolerance && std::abs(y - z) <= tolerance;
-  if (!expectThat(uniform, "Non uniform scale", "FcCircle::transform", __LINE__)) return;
+  if (!expectThat(uniform, "Non uniform scale", "qor::fc::resource::geometry::FcCircle::transform",
+                  __LINE__))
+    return;
   const Matrix moved = Position().transformationGet() * matrix;
   m_Position.setTransformation(moved);
   if (!moved.isIdentity()) setRadius(Radius() * x);

@@ -1,9 +1,9 @@
 #include "Fc/Resource/Geometry/FcCompositeCurve.h"
 
+#include "Fc/Resource/Expect.h"
 #include "Fc/Resource/Geometry/CurveNesting.h"
 #include "Fc/Resource/Geometry/CurveTrimming.h"
 #include "Fc/Resource/Geometry/FcSegment.h"
-#include "Fc/Resource/Geometry/GeometryAssert.h"
 
 namespace qor::fc::resource::geometry {
 
@@ -27,10 +27,11 @@ template <typename Point>
 void join(std::vector<Point>& points, const std::vector<Point>& segment) {
   auto first = segment.begin();
   if (!points.empty() && !segment.empty()) {
-    const bool joins = expectThat(points.back().isNear(*first),
-                                  "By informal proposition: when traversed in the direction "
-                                  "indicated by SameSense, the segments shall join end-to-end",
-                                  "FcCompositeCurve::curvePrivate", __LINE__);
+    const bool joins =
+        expectThat(points.back().isNear(*first),
+                   "By informal proposition: when traversed in the direction "
+                   "indicated by SameSense, the segments shall join end-to-end",
+                   "qor::fc::resource::geometry::FcCompositeCurve::curvePrivate", __LINE__);
     if (joins) ++first;
   }
   points.insert(points.end(), first, segment.end());
@@ -39,7 +40,7 @@ void join(std::vector<Point>& points, const std::vector<Point>& segment) {
 template <typename Point>
 std::vector<Point> curvePrivate(const FcCompositeCurve& curve, const FcParams& params,
                                 bool omitLastPoint) {
-  static constexpr char operation[] = "FcCompositeCurve::curvePrivate";
+  static constexpr char operation[] = "qor::fc::resource::geometry::FcCompositeCurve::curvePrivate";
   std::vector<Point> points;
   const CurveNesting nesting(curve);
   if (!nesting) return points;
@@ -59,7 +60,7 @@ std::vector<Point> curvePrivate(const FcCompositeCurve& curve, const FcParams& p
 }  // namespace
 
 bool FcCompositeCurve::isClosed(const FcParams& params) const {
-  static constexpr char operation[] = "FcCompositeCurve::isClosed";
+  static constexpr char operation[] = "qor::fc::resource::geometry::FcCompositeCurve::isClosed";
   if (Segments().empty()) return false;
   for (std::size_t i = 0; i + 1 < Segments().size(); ++i) {
     const auto& segment = Segments()[i];
@@ -84,10 +85,11 @@ bool FcCompositeCurve::is2d() const {
   const CurveNesting nesting(*this);
   if (!nesting) return false;
   for (const auto& segment : Segments()) {
-    if (!expectThat(segment != nullptr, missingSegment, "FcCompositeCurve::is2d", __LINE__) ||
+    if (!expectThat(segment != nullptr, missingSegment,
+                    "qor::fc::resource::geometry::FcCompositeCurve::is2d", __LINE__) ||
         !expectThat(segment->parentCurve() != nullptr,
                     "There is a Segment for which its ParentCurve is not set.",
-                    "FcCompositeCurve::is2d", __LINE__) ||
+                    "qor::fc::resource::geometry::FcCompositeCurve::is2d", __LINE__) ||
         !segment->is2d())
       return false;
   }

@@ -2,14 +2,14 @@
 
 #include <algorithm>
 
-#include "Fc/Resource/Geometry/GeometryAssert.h"
+#include "Fc/Resource/Expect.h"
 
 namespace qor::fc::resource::geometry {
 
 std::vector<math::Point3d> FcCompositeCurveSegment::curve(const FcParams& params) const {
   if (!expectThat(ParentCurve() != nullptr,
                   "Assertion failed: Expect to have ParentCurve set when requesting curve()",
-                  "FcCompositeCurveSegment::curve", __LINE__))
+                  "qor::fc::resource::geometry::FcCompositeCurveSegment::curve", __LINE__))
     return {};
   auto points = ParentCurve()->curveGet(params, {}, {}, false);
   if (!SameSense()) std::reverse(points.begin(), points.end());
@@ -20,7 +20,7 @@ std::optional<std::vector<math::Point2d>> FcCompositeCurveSegment::curve2d(
     const FcParams& params) const {
   if (!expectThat(ParentCurve() != nullptr,
                   "Assertion failed: Expect to have ParentCurve set when requesting curve2d()",
-                  "FcCompositeCurveSegment::curve2d", __LINE__))
+                  "qor::fc::resource::geometry::FcCompositeCurveSegment::curve2d", __LINE__))
     return {};
   auto points = ParentCurve()->curve2d(params, {}, {}, false);
   if (points && !SameSense()) std::reverse(points->begin(), points->end());

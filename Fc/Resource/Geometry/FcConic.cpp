@@ -2,7 +2,7 @@
 
 #include <numbers>
 
-#include "Fc/Resource/Geometry/GeometryAssert.h"
+#include "Fc/Resource/Expect.h"
 
 namespace qor::fc::resource::geometry {
 
@@ -16,7 +16,8 @@ void FcConic::transform(const math::Matrix& matrix) {
     return std::abs(row.length() - 1) <= tolerance;
   };
   const bool rigid = keepsLength(matrix.x()) && keepsLength(matrix.y()) && keepsLength(matrix.z());
-  if (expectThat(rigid, "Can't use scale or mirroring", "FcConic::transform", __LINE__))
+  if (expectThat(rigid, "Can't use scale or mirroring",
+                 "qor::fc::resource::geometry::FcConic::transform", __LINE__))
     m_Position.setTransformation(m_Position.transformationGet() * matrix);
 }
 

@@ -1,8 +1,8 @@
 #include "Fc/Resource/Geometry/FcEllipse.h"
 
 #include "Fc/FcParams.h"
+#include "Fc/Resource/Expect.h"
 #include "Fc/Resource/Geometry/ConicArc.h"
-#include "Fc/Resource/Geometry/GeometryAssert.h"
 #include "Qor/Math/Ellipse.h"
 
 namespace qor::fc::resource::geometry {
@@ -18,7 +18,7 @@ bool FcEllipse::is2d() const { return Position().transformationGet().isOnly2dTra
 /// The points in the frame of `Position`.
 std::vector<Point2d> FcEllipse::localPoints(const FcParams& params, const Trim& trim1,
                                             const Trim& trim2, bool reverse) const {
-  static constexpr char operation[] = "FcEllipse::curveGet";
+  static constexpr char operation[] = "qor::fc::resource::geometry::FcEllipse::curveGet";
   const double tolerance = math::Epsilon::current().length;
   if (!expectThat(SemiAxis1() > tolerance, "Ellipse should have positive SemiAxis1", operation,
                   __LINE__) ||
@@ -44,7 +44,9 @@ std::vector<Point2d> FcEllipse::localPoints(const FcParams& params, const Trim& 
 
 std::optional<std::vector<Point2d>> FcEllipse::curve2d(const FcParams& params, const Trim& trim1,
                                                        const Trim& trim2, bool reverse) const {
-  if (!expectThat(is2d(), "Curve has 3d points", "FcEllipse::curve2d", __LINE__)) return {};
+  if (!expectThat(is2d(), "Curve has 3d points", "qor::fc::resource::geometry::FcEllipse::curve2d",
+                  __LINE__))
+    return {};
   auto points = localPoints(params, trim1, trim2, reverse);
   if (points.empty()) return {};
   const math::Matrix2d position = Position().transformationGet().toMatrix2d();
@@ -59,7 +61,7 @@ std::vector<Point3d> FcEllipse::curveGet(const FcParams& params, const Trim& tri
 
 void FcEllipse::transform(const Matrix& matrix) {
   if (!expectThat(!matrix.isMirror(), "Must fixed implementation if mirror should be allowed",
-                  "FcEllipse::transform", __LINE__))
+                  "qor::fc::resource::geometry::FcEllipse::transform", __LINE__))
     return;
   const Matrix moved = Position().transformationGet() * matrix;
   m_Position.setTransformation(moved);

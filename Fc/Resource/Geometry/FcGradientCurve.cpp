@@ -1,5 +1,6 @@
 #include "Fc/Resource/Geometry/FcGradientCurve.h"
 
+#include "Fc/Resource/Expect.h"
 #include "Fc/Resource/Geometry/CurveNesting.h"
 #include "Fc/Resource/Geometry/CurveTrimming.h"
 #include "Fc/Resource/Geometry/FcBoundedCurve.h"
@@ -40,7 +41,7 @@ std::vector<Point3d> FcGradientCurve::curveGet(const FcParams& params, const Tri
   const auto heights = FcCompositeCurve::curveGet(params, {}, {}, false);
   const CurveNesting nesting(*this);
   if (!nesting || !expectThat(BaseCurve() != nullptr, "FcGradientCurve::BaseCurve is required",
-                              "FcGradientCurve::curveGet", __LINE__))
+                              "qor::fc::resource::geometry::FcGradientCurve::curveGet", __LINE__))
     return {};
   const auto path = BaseCurve()->curveGet(params, {}, {}, false);
   return gradientPath(path, lengthOf(*BaseCurve(), path), heights);
@@ -51,7 +52,7 @@ std::optional<std::vector<Point2d>> FcGradientCurve::curve2d(const FcParams& par
                                                              bool reverse) const {
   const CurveNesting nesting(*this);
   if (!nesting || !expectThat(BaseCurve() != nullptr, "FcGradientCurve::BaseCurve is required",
-                              "FcGradientCurve::curve2d", __LINE__))
+                              "qor::fc::resource::geometry::FcGradientCurve::curve2d", __LINE__))
     return {};
   return BaseCurve()->curve2d(params, trim1, trim2, reverse);
 }

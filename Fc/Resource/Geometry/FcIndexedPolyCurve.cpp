@@ -5,10 +5,10 @@
 #include "Fc/FcDrawParams.h"
 #include "Fc/FcParams.h"
 #include "Fc/Reflection/MakeEntity.h"
+#include "Fc/Resource/Expect.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList2D.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList3D.h"
 #include "Fc/Resource/Geometry/CurveTrimming.h"
-#include "Fc/Resource/Geometry/GeometryAssert.h"
 #include "Fc/Resource/Geometry/IndexedCurvePoints.h"
 #include "Qor/Math/MatrixFactory.h"
 
@@ -35,7 +35,8 @@ bool areEqualNeighbours(const std::vector<Point3d>& points) {
 }
 
 void drawPolylineOrPolygonFromPoints(std::vector<Point3d> points, const FcDrawParams& params) {
-  static constexpr char operation[] = "FcIndexedPolyCurve::drawPolylineOrPolygonFromPoints";
+  static constexpr char operation[] =
+      "qor::fc::resource::geometry::FcIndexedPolyCurve::drawPolylineOrPolygonFromPoints";
   if (!expectThat(points.size() >= 2,
                   "There are less than two points: cannot draw a (closed or open) polygonal curve",
                   operation, __LINE__))
@@ -95,7 +96,7 @@ bool FcIndexedPolyCurve::is2d() const {
 }
 
 bool FcIndexedPolyCurve::isClosed() const {
-  if (!hasList(*this, "FcIndexedPolyCurve::isClosed")) return false;
+  if (!hasList(*this, "qor::fc::resource::geometry::FcIndexedPolyCurve::isClosed")) return false;
   if (Segments()) {
     if (Segments()->empty()) return false;
     const auto first = IndexedCurvePoints<Point3d>::firstIndex(Segments()->front());
@@ -122,11 +123,11 @@ std::optional<std::vector<Point2d>> FcIndexedPolyCurve::planarPoints() const {
 std::optional<Profile2D> FcIndexedPolyCurve::closed2dCurveWithEdgeInformation(
     const FcParams& params, const Trim& trim1, const Trim& trim2, bool reverse) const {
   if (!expectWhole(trim1, trim2, reverse, "FcIndexedPolyCurve::curve2d") ||
-      !hasList(*this, "FcIndexedPolyCurve::curve2d"))
+      !hasList(*this, "qor::fc::resource::geometry::FcIndexedPolyCurve::curve2d"))
     return {};
   auto points = planarPoints();
   if (!points || !expectThat(!points->empty(), "There is not point list defined.",
-                             "FcIndexedPolyCurve::curve2d", __LINE__))
+                             "qor::fc::resource::geometry::FcIndexedPolyCurve::curve2d", __LINE__))
     return {};
   if (!Segments()) return Profile2D({std::move(*points)});
   IndexedCurvePoints<Point2d> walk(*points, *Segments(), params.curveDiscretization());
@@ -162,14 +163,15 @@ std::vector<Point3d> FcIndexedPolyCurve::computedPoints(const FcParams& params) 
 std::vector<Point3d> FcIndexedPolyCurve::curveGet(const FcParams& params, const Trim& trim1,
                                                   const Trim& trim2, bool reverse) const {
   if (!expectWhole(trim1, trim2, reverse, "FcIndexedPolyCurve::curveGet") ||
-      !hasList(*this, "FcIndexedPolyCurve::curveGet"))
+      !hasList(*this, "qor::fc::resource::geometry::FcIndexedPolyCurve::curveGet"))
     return {};
   return computedPoints(params);
 }
 
 std::vector<std::pair<double, FcCurve::ParameterType>> FcIndexedPolyCurve::parametricSegments()
     const {
-  if (!hasList(*this, "FcIndexedPolyCurve::parametricSegments")) return {};
+  if (!hasList(*this, "qor::fc::resource::geometry::FcIndexedPolyCurve::parametricSegments"))
+    return {};
   std::vector<std::pair<double, ParameterType>> result;
   if (!Segments()) {
     const auto count = static_cast<double>(Points()->size());
@@ -178,7 +180,8 @@ std::vector<std::pair<double, FcCurve::ParameterType>> FcIndexedPolyCurve::param
   for (const FcSegmentIndexSelect& segment : *Segments()) {
     const auto extent = parametricSegment(*Points(), segment);
     if (!expectThat(extent.has_value(), "Invalid IfcIndexedPolyCurve",
-                    "FcIndexedPolyCurve::parametricSegments", __LINE__))
+                    "qor::fc::resource::geometry::FcIndexedPolyCurve::parametricSegments",
+                    __LINE__))
       return {};
     result.push_back(*extent);
   }
@@ -186,7 +189,7 @@ std::vector<std::pair<double, FcCurve::ParameterType>> FcIndexedPolyCurve::param
 }
 
 void FcIndexedPolyCurve::draw(const FcDrawParams& params) const {
-  if (hasList(*this, "FcIndexedPolyCurve::draw"))
+  if (hasList(*this, "qor::fc::resource::geometry::FcIndexedPolyCurve::draw"))
     drawPolylineOrPolygonFromPoints(computedPoints(FcParams(params)), params);
 }
 

@@ -2,10 +2,10 @@
 #include <numbers>
 
 #include "Fc/Reflection/MakeEntity.h"
+#include "Fc/Resource/Expect.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList2D.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList3D.h"
 #include "Fc/Resource/Geometry/FcIndexedPolyCurve.h"
-#include "Fc/Resource/Geometry/GeometryAssert.h"
 #include "Fc/Resource/Geometry/RoundedPath.h"
 #include "Qor/Math/Arc.h"
 
@@ -79,15 +79,15 @@ bool FcIndexedPolyCurve::appendArcPoint(const Point2d& end, double radius, bool 
 }
 
 void FcIndexedPolyCurve::startAt(const Point2d& point) {
-  expectThat(Points() == nullptr, "Point list not should exist", "FcIndexedPolyCurve::startAt",
-             __LINE__);
+  expectThat(Points() == nullptr, "Point list not should exist",
+             "qor::fc::resource::geometry::FcIndexedPolyCurve::startAt", __LINE__);
   auto list = makeEntity<FcCartesianPointList2D>();
   list->pushBackPoint(point);
   setPoints(std::move(list));
 }
 
 void FcIndexedPolyCurve::lineTo(const Vector2d& move) {
-  auto* list = pathOf(*this, "FcIndexedPolyCurve::lineTo");
+  auto* list = pathOf(*this, "qor::fc::resource::geometry::FcIndexedPolyCurve::lineTo");
   if (!list) return;
   const std::int64_t from = lastIndex();
   list->pushBackPoint(list->point2d(list->size() - 1) + move);
@@ -95,7 +95,7 @@ void FcIndexedPolyCurve::lineTo(const Vector2d& move) {
 }
 
 void FcIndexedPolyCurve::arcTo(const Vector2d& move, double radius, bool counterClockwise) {
-  auto* list = pathOf(*this, "FcIndexedPolyCurve::arcTo");
+  auto* list = pathOf(*this, "qor::fc::resource::geometry::FcIndexedPolyCurve::arcTo");
   if (!list) return;
   const std::int64_t from = lastIndex();
   const Point2d end = list->point2d(list->size() - 1) + move;
@@ -108,7 +108,7 @@ void FcIndexedPolyCurve::arcTo(const Vector2d& move, double radius, bool counter
 }
 
 void FcIndexedPolyCurve::closeWithLine() {
-  auto* list = pathOf(*this, "FcIndexedPolyCurve::closeWithLine");
+  auto* list = pathOf(*this, "qor::fc::resource::geometry::FcIndexedPolyCurve::closeWithLine");
   if (!list) return;
   if (m_Segments)
     appendIndexToLine(lastIndex(), 1);
@@ -117,7 +117,7 @@ void FcIndexedPolyCurve::closeWithLine() {
 }
 
 void FcIndexedPolyCurve::closeWithArc(double radius, bool counterClockwise) {
-  auto* list = pathOf(*this, "FcIndexedPolyCurve::closeWithArc");
+  auto* list = pathOf(*this, "qor::fc::resource::geometry::FcIndexedPolyCurve::closeWithArc");
   if (!list) return;
   const std::int64_t from = lastIndex();
   if (appendArcPoint(list->point2d(0), radius, counterClockwise))

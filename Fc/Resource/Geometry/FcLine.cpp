@@ -2,10 +2,10 @@
 
 #include "Fc/FcDrawParams.h"
 #include "Fc/FcParams.h"
+#include "Fc/Resource/Expect.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
 #include "Fc/Resource/Geometry/FcDirection.h"
 #include "Fc/Resource/Geometry/FcVector.h"
-#include "Fc/Resource/Geometry/GeometryAssert.h"
 #include "Qor/Math/PointFactory.h"
 
 namespace qor::fc::resource::geometry {
@@ -29,7 +29,7 @@ std::optional<Point3d> trimPoint(const FcLine& line, const FcTrimmingSelect& tri
     return line.Pnt()->point() + line.Dir()->vector() * trim.ParameterValue();
   const auto& point = trim.CartesianPoint();
   if (!expectThat(point != nullptr, "FcTrimmingSelect::CartesianPoint is required",
-                  "FcLine::curveGet", __LINE__))
+                  "qor::fc::resource::geometry::FcLine::curveGet", __LINE__))
     return {};
   return point->point();
 }
@@ -46,7 +46,7 @@ bool FcLine::is2d() const {
 
 std::vector<Point3d> FcLine::curveGet(const FcParams& /*params*/, const Trim& trim1,
                                       const Trim& trim2, bool reverse) const {
-  if (!isComplete(*this, "FcLine::curveGet")) return {};
+  if (!isComplete(*this, "qor::fc::resource::geometry::FcLine::curveGet")) return {};
   const auto start = trim1 ? trimPoint(*this, *trim1) : Pnt()->point();
   const auto end = trim2 ? trimPoint(*this, *trim2) : Pnt()->point() + Dir()->vector();
   if (!start || !end) return {};
@@ -68,12 +68,13 @@ void FcLine::draw(const FcDrawParams& params) const {
   const auto points = curveGet(FcParams(params), {}, {}, false);
   if (points.empty()) return;
   expectThat(Pnt()->dimension() == Dir()->Orientation()->dimension(),
-             "Dimension of point and vector must be equal.", "FcLine::draw", __LINE__);
+             "Dimension of point and vector must be equal.",
+             "qor::fc::resource::geometry::FcLine::draw", __LINE__);
   params->vPolyline(points);
 }
 
 void FcLine::transform(const math::Matrix& matrix) {
-  if (!isComplete(*this, "FcLine::transform")) return;
+  if (!isComplete(*this, "qor::fc::resource::geometry::FcLine::transform")) return;
   const Point3d point = Pnt()->point() * matrix;
   const Vector3d vector = Dir()->vector() * matrix;
   const bool planar = vanishes(point.z) && vanishes(vector.z);

@@ -1,7 +1,7 @@
 #include "Fc/Resource/Geometry/FcPlane.h"
 
+#include "Fc/Resource/Expect.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
-#include "Fc/Resource/Geometry/GeometryAssert.h"
 
 namespace qor::fc::resource::geometry {
 
@@ -11,7 +11,7 @@ void FcPlane::transform(const Matrix& matrix) {
   if (matrix.isIdentity()) return;
   if (!expectThat(Position() != nullptr,
                   "Position() of plane is not set. Will assume standard coordinate system now.",
-                  "FcPlane::transform", __LINE__))
+                  "qor::fc::resource::geometry::FcPlane::transform", __LINE__))
     setPosition(makePlacement(Matrix()));
   if (matrix.isMirror()) {
     const Matrix moved = Position()->placementGet() * matrix;

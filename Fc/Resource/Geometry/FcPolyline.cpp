@@ -5,11 +5,11 @@
 #include "Fc/FcDrawParams.h"
 #include "Fc/FcParams.h"
 #include "Fc/Reflection/MakeEntity.h"
+#include "Fc/Resource/Expect.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList2D.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList3D.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
 #include "Fc/Resource/Geometry/FcIndexedPolyCurve.h"
-#include "Fc/Resource/Geometry/GeometryAssert.h"
 #include "Fc/Resource/Geometry/PolylineTrim.h"
 #include "Qor/Math/PointFactory.h"
 
@@ -37,7 +37,7 @@ std::vector<std::shared_ptr<FcCartesianPoint>> entitiesOf(const std::vector<Poin
 
 /// Whether the trims are none or two points; asserts for the other cases.
 bool canTrim(const FcCurve::Trim& trim1, const FcCurve::Trim& trim2) {
-  static constexpr char operation[] = "FcPolyline::curveGet";
+  static constexpr char operation[] = "qor::fc::resource::geometry::FcPolyline::curveGet";
   if (!trim1 && !trim2) return true;
   if (!expectThat(trim1 && trim2,
                   "FcPolyline::curveGet trimming on only one of the ends is not implemented",
@@ -57,13 +57,13 @@ bool canTrim(const FcCurve::Trim& trim1, const FcCurve::Trim& trim2) {
 
 void FcPolyline::setPoints(const std::vector<Point2d>& points, bool close) {
   if (expectThat(points.size() >= 2, "Assertion failed: need at least 2 points.",
-                 "FcPolyline::setPoints", __LINE__))
+                 "qor::fc::resource::geometry::FcPolyline::setPoints", __LINE__))
     setPoints(entitiesOf(points, close));
 }
 
 void FcPolyline::setPoints(const std::vector<Point3d>& points, bool close) {
   if (expectThat(points.size() >= 2, "Assertion failed: need at least 2 points.",
-                 "FcPolyline::setPoints", __LINE__))
+                 "qor::fc::resource::geometry::FcPolyline::setPoints", __LINE__))
     setPoints(entitiesOf(points, close));
 }
 
@@ -75,7 +75,7 @@ bool FcPolyline::hasAllPoints(const char* operation) const {
 /// Empty when one is missing, with an assert.
 std::vector<Point3d> FcPolyline::allPoints() const {
   std::vector<Point3d> result;
-  if (!hasAllPoints("FcPolyline::curveGet")) return result;
+  if (!hasAllPoints("qor::fc::resource::geometry::FcPolyline::curveGet")) return result;
   result.reserve(Points().size());
   for (const auto& point : Points()) result.push_back(point->point());
   return result;
@@ -139,7 +139,9 @@ std::vector<std::pair<double, FcCurve::ParameterType>> FcPolyline::parametricSeg
 }
 
 void FcPolyline::draw(const FcDrawParams& params) const {
-  if (!expectThat(!Points().empty(), "There are no points.", "FcPolyline::draw", __LINE__)) return;
+  if (!expectThat(!Points().empty(), "There are no points.",
+                  "qor::fc::resource::geometry::FcPolyline::draw", __LINE__))
+    return;
   auto points = allPoints();
   if (points.empty()) return;
   if (isClosed()) {
@@ -151,7 +153,7 @@ void FcPolyline::draw(const FcDrawParams& params) const {
 }
 
 void FcPolyline::transform(const Matrix& matrix) {
-  if (!hasAllPoints("FcPolyline::transform")) return;
+  if (!hasAllPoints("qor::fc::resource::geometry::FcPolyline::transform")) return;
   std::vector<FcCartesianPoint*> points;
   points.reserve(Points().size());
   for (const auto& point : Points()) points.push_back(point.get());
@@ -168,14 +170,14 @@ void FcPolyline::transform(const Matrix& matrix) {
 }
 
 std::optional<Extent> FcPolyline::boundingBox(const FcParams& /*params*/) const {
-  if (!hasAllPoints("FcPolyline::boundingBox")) return {};
+  if (!hasAllPoints("qor::fc::resource::geometry::FcPolyline::boundingBox")) return {};
   Extent box;
   for (const auto& point : Points()) box.include(point->point());
   return box.isValid() ? std::optional(box) : std::nullopt;
 }
 
 std::optional<Extent2d> FcPolyline::planarBox(const FcParams& /*params*/) const {
-  if (!hasAllPoints("FcPolyline::planarBox")) return {};
+  if (!hasAllPoints("qor::fc::resource::geometry::FcPolyline::planarBox")) return {};
   Extent2d box;
   for (const auto& point : Points()) box.include(point->point2d());
   return box.isValid() ? std::optional(box) : std::nullopt;

@@ -1,13 +1,13 @@
 #include "Fc/Resource/Geometry/FcPolynomialCurve.h"
 
-#include "Fc/Resource/Geometry/GeometryAssert.h"
+#include "Fc/Resource/Report.h"
 
 namespace qor::fc::resource::geometry {
 
 std::vector<std::pair<double, FcCurve::ParameterType>> FcPolynomialCurve::parametricSegments()
     const {
-  reportBroken("FcPolynominalCurve not implemented (new in IFC 4.3)",
-               "FcPolynomialCurve::parametricSegments", __LINE__);
+  report("FcPolynominalCurve not implemented (new in IFC 4.3)",
+         "qor::fc::resource::geometry::FcPolynomialCurve::parametricSegments", __LINE__);
   return {};
 }
 

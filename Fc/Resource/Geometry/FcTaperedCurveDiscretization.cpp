@@ -1,15 +1,17 @@
 #include "Fc/Resource/Geometry/FcTaperedCurveDiscretization.h"
 
-#include "Fc/Resource/Geometry/GeometryAssert.h"
+#include "Fc/Resource/Expect.h"
 
 namespace qor::fc::resource::geometry {
 
 std::size_t FcTaperedCurveDiscretization::numberOfCircleSegments(double radius) const {
   if (collecting)
     radii.push_back(radius);
-  else if (expectThat(nextRadius < radii.size(),
-                      "Number of collected radii is lower than radii used in seconds run",
-                      "FcTaperedCurveDiscretization::numberOfCircleSegments", __LINE__))
+  else if (expectThat(
+               nextRadius < radii.size(),
+               "Number of collected radii is lower than radii used in seconds run",
+               "qor::fc::resource::geometry::FcTaperedCurveDiscretization::numberOfCircleSegments",
+               __LINE__))
     radius = radii[nextRadius++];
   return CurveDiscretization::numberOfCircleSegments(radius);
 }

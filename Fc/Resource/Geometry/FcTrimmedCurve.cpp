@@ -1,8 +1,8 @@
 #include "Fc/Resource/Geometry/FcTrimmedCurve.h"
 
+#include "Fc/Resource/Expect.h"
 #include "Fc/Resource/Geometry/CurveNesting.h"
 #include "Fc/Resource/Geometry/CurveTrimming.h"
-#include "Fc/Resource/Geometry/GeometryAssert.h"
 
 namespace qor::fc::resource::geometry {
 
@@ -10,7 +10,8 @@ using math::Point2d;
 using math::Point3d;
 
 bool FcTrimmedCurve::validateAttributes() const {
-  static constexpr char operation[] = "FcTrimmedCurve::validateAttributes";
+  static constexpr char operation[] =
+      "qor::fc::resource::geometry::FcTrimmedCurve::validateAttributes";
   const bool basis = expectThat(BasisCurve() != nullptr, "FcTrimmedCurve::BasisCurve is required",
                                 operation, __LINE__);
   const bool first =

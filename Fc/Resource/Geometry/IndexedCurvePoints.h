@@ -2,8 +2,8 @@
 
 #include <vector>
 
+#include "Fc/Resource/Expect.h"
 #include "Fc/Resource/Geometry/FcSegmentIndexSelect.h"
-#include "Fc/Resource/Geometry/GeometryAssert.h"
 #include "Qor/Math/CurveDiscretization.h"
 
 namespace qor::fc::resource::geometry {
@@ -34,7 +34,8 @@ class IndexedCurvePoints {
   std::vector<bool>& softFlags() { return m_softFlags; }
 
  private:
-  static constexpr char operation[] = "FcIndexedPolyCurve::getPolylineOrPolygonPointsFromSegments";
+  static constexpr char operation[] =
+      "qor::fc::resource::geometry::FcIndexedPolyCurve::getPolylineOrPolygonPointsFromSegments";
   using Index = std::int64_t;
 
   static void expectChained(const FcSegmentIndexSelect& before, const FcSegmentIndexSelect& after) {
@@ -52,8 +53,8 @@ class IndexedCurvePoints {
       case FcSegmentIndexSelect::Types::ArcIndex:
         return appendArc(segment.ArcIndex().value());
       default:
-        reportBroken("detected a segments which is neither of type LineIndex nor ArcIndex",
-                     operation, __LINE__);
+        report("detected a segments which is neither of type LineIndex nor ArcIndex", operation,
+               __LINE__);
     }
   }
 
