@@ -1,8 +1,10 @@
 #pragma once
 
+#include <Standard_OutOfRange.hxx>
 #include <TopoDS_Shape.hxx>
 #include <TopoDS_Solid.hxx>
 #include <TopoDS_Wire.hxx>
+#include <cmath>
 #include <functional>
 #include <gp_Ax3.hxx>
 #include <gp_Dir.hxx>
@@ -44,7 +46,16 @@ QOR_API void transformOpenCascadeShape(TopoDS_Shape& shape, const math::Matrix& 
 /// one vertex. An assert and a null wire when there is no edge.
 QOR_API TopoDS_Wire getClosedWireFromPoints(const std::vector<math::Point3d>& points);
 
-inline gp_Pnt toOpenCascade(const math::Point3d& point) { return {point.x, point.y, point.z}; }
+/// Metres. What lies farther out along an axis is no place in a model, and sends searches of Open
+/// CASCADE on for ever.
+constexpr double farthestCoordinate = 1e9;
+/// Throws `Standard_OutOfRange` for a point beyond `farthestCoordinate` and for one of no numbers.
+inline gp_Pnt toOpenCascade(const math::Point3d& point) {
+  for (const double coordinate : {point.x, point.y, point.z})
+    if (!(std::abs(coordinate) <= farthestCoordinate))
+      throw Standard_OutOfRange("A coordinate is no place in a model");
+  return {point.x, point.y, point.z};
+}
 inline gp_Vec toOpenCascade(const math::Vector3d& vector) { return {vector.x, vector.y, vector.z}; }
 /// Throws `Standard_Failure` for a vector without length.
 inline gp_Dir toOpenCascadeDirection(const math::Vector3d& vector) {

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "Fc/ComplexGeometry/FcComplexGeometryProcessorQueueContext.h"
+#include "Fc/HelperFunctionsOC.h"
 
 namespace qor::fc {
 namespace {
@@ -37,7 +38,9 @@ FcThreadedComplexGeometryProcessor::~FcThreadedComplexGeometryProcessor() {
 
 std::unique_ptr<FcComplexGeometryTaskResult> FcThreadedComplexGeometryProcessor::process(
     const FcComplexGeometryTask& task) const {
-  return task.process();
+  std::unique_ptr<FcComplexGeometryTaskResult> result;
+  guardOpenCascade([&] { result = task.process(); }, "OpenCascade failed in a task.");
+  return result;
 }
 
 std::future<std::unique_ptr<FcComplexGeometryTaskResult>>

@@ -99,7 +99,7 @@ const TopoDS_Vertex& ocMemoizer::pointVertex(const Point& point) {
   TopoDS_Vertex& vertex = m_pointVertices[&point];
   if (vertex.IsNull()) {
     const auto& at = point.Coordinates();
-    vertex = BRepBuilderAPI_MakeVertex(gp_Pnt(at[0], at[1], at[2]));
+    vertex = BRepBuilderAPI_MakeVertex(toOpenCascade(math::Point3d(at[0], at[1], at[2])));
   }
   return vertex;
 }

@@ -9,11 +9,12 @@
 #include <stdexcept>
 #include <vector>
 
+#include "Fc/HelperFunctionsOC.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
 
 // From the lists of a B-spline in the model to the arrays that Open CASCADE takes, which begin
 // at 1. Each throws `std::invalid_argument` for a list that can't be one: empty, ragged, with a
-// point missing.
+// point missing; and `Standard_OutOfRange` for a point that is no place in a model.
 namespace qor::fc::bspline {
 
 template <class Points>
@@ -34,7 +35,7 @@ Array numbers(const Numbers& list) {
 inline gp_Pnt pole(const std::shared_ptr<resource::geometry::FcCartesianPoint>& point) {
   if (!point) throw std::invalid_argument("a point is missing");
   const auto& at = point->Coordinates();
-  return {at[0], at[1], at[2]};
+  return toOpenCascade(math::Point3d(at[0], at[1], at[2]));
 }
 
 template <class Points>

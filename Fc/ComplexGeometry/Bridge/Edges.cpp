@@ -71,11 +71,13 @@ Vertex FcVertexPoint::ocVertex(ocMemoizer& /*memoizer*/) const {
            "qor::fc::resource::topology::FcVertexPoint::ocVertex", __LINE__);
     return {};
   }
-  auto vertex = std::make_shared<TopoDS_Vertex>();
-  const BRep_Builder builder;
-  builder.MakeVertex(*vertex);
-  builder.UpdateVertex(*vertex, toOpenCascade(point->point()), math::Epsilon::current().length);
-  return vertex;
+  return guarded<Vertex>(kFailed, [&] {
+    auto vertex = std::make_shared<TopoDS_Vertex>();
+    const BRep_Builder builder;
+    builder.MakeVertex(*vertex);
+    builder.UpdateVertex(*vertex, toOpenCascade(point->point()), math::Epsilon::current().length);
+    return vertex;
+  });
 }
 
 Edge FcEdge::ocEdge(ocMemoizer& memoizer) const {
