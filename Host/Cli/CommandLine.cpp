@@ -187,10 +187,8 @@ class CommandLine {
 }  // namespace
 
 ExitCode runFctool(int argc, const char* const* argv, Console& console) noexcept try {
-  Watch watch(console.err);
-  const AssertLines asserts(console.err, watch);
-  Console watched{console.out, console.err, console.showProgress, &watch};
-  return CommandLine().run(argc, argv, watched);
+  const AssertLines asserts(console.err, console.watch);
+  return CommandLine().run(argc, argv, console);
 } catch (const std::bad_alloc&) {
   console.err << "fctool: out of memory\n";
   return ExitCode::impossible;

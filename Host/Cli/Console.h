@@ -10,8 +10,8 @@ class Watch;
 struct Console {
   std::ostream& out;          ///< results
   std::ostream& err;          ///< messages, each in one line
+  Watch& watch;               ///< is told what a long run is at
   bool showProgress = false;  ///< a person watches `err`
-  Watch* watch = nullptr;     ///< of the run; `runFctool` gives one to its commands
 };
 
 /// How a command ends, as the exit code of the program.

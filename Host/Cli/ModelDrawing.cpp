@@ -66,15 +66,17 @@ std::shared_ptr<fc::FcBase> findEntity(const step::ReadResult& model, const std:
   return nullptr;
 }
 
-/// What is drawn when nothing is asked for: the project, and what it doesn't lead to, of which a
-/// line tells.
+/// What is drawn when nothing is asked for: the project, and what its walk may not come by, since it
+/// is nested in another object, or since no project leads to it, of which a line tells. Parents come
+/// before what belongs to them; what the walk has met it doesn't draw again.
 std::vector<std::shared_ptr<fc::FcBase>> allRoots(const step::ReadResult& model, Console& console) {
   std::vector<std::shared_ptr<fc::FcBase>> roots;
   std::size_t outside = 0;
   step::EntityNumbers numbers(*model.data, model.instances);
   const auto numberOf = [&](const fc::FcBase& entity) { return numbers.numberOf(entity); };
   walkModelTree(*model.data, numberOf, [&](const TreeNode& node) {
-    if (node.depth == 0) roots.push_back(node.object);
+    const auto* product = fc::fcCast<FcProduct>(node.object.get());
+    if (node.depth == 0 || (product && product->Representation())) roots.push_back(node.object);
     outside += node.relation == TreeRelation::outside ? 1 : 0;
     return true;
   });
@@ -222,8 +224,8 @@ bool drawModel(const step::ReadResult& model, const DrawingOptions& options,
   math::Epsilon::current().set(1000.0, false);
   ProgressBar bar("Drawing", console);
   const fc::DrawStatus all = choice ? withAllContexts(status) : fc::DrawStatus();
-  const Watch::Walk walk(*console.watch, model);
-  Drawing drawing(model.data, choice ? all : status, choice, target, options, *console.watch,
+  const Watch::Walk walk(console.watch, model);
+  Drawing drawing(model.data, choice ? all : status, choice, target, options, console.watch,
                   bar.callback());
   for (const auto& root : roots) {
     if (drawing.draw(root)) continue;

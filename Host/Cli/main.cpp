@@ -14,7 +14,8 @@ int main(int argc, char** argv) {
   Watch::endInOrderWhenInterrupted();
   OutputBuffer buffer(stdout);
   std::ostream out(&buffer);
-  Console console{out, std::cerr, qor::isTerminal(stderr)};
+  Watch watch(std::cerr);
+  Console console{out, std::cerr, watch, qor::isTerminal(stderr)};
   const ExitCode code = runFctool(argc, argv, console);
   out.flush();
   // Whoever closes the pipe has seen enough; whatever else keeps the results back is a failure.

@@ -15,6 +15,7 @@
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
 #include "Fc/Resource/Geometry/FcDirection.h"
 #include "Host/Cli/ModelDrawing.h"
+#include "Host/Cli/Watch.h"
 #include "Host/Targets/SceneTarget.h"
 #include "Tests/Support/SharedModels.h"
 
@@ -91,7 +92,8 @@ TEST_P(PlacementChain, IsTheFrameOfEachProduct) {
   const auto previous = Assert::setHandler([](const AssertInfo&) {});
   const host::step::ReadResult model = host::step::readStepFile(GetParam());
   std::ostringstream out, err;
-  host::cli::Console console{out, err};
+  host::cli::Watch watch(err);
+  host::cli::Console console{out, err, watch};
   host::targets::SceneTarget target({0.002, 16, 72});
   const bool drawn =
       host::cli::drawModel(model, {.file = GetParam()}, {}, nullptr, target, console);
