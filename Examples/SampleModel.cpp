@@ -133,6 +133,7 @@ class SampleHouse {
     auto site = createSpatial<FcSite>("Meadow", {}, nullptr);
     m_shapes.showBody(*site, RepresentationType::Tessellation,
                       {m_shapes.painted(substance::grass, createMeadow(m_model))});
+    // The model's Y axis looks 16 degrees east of north.
     m_project->setTrueNorth(m_model.data(), math::Vector2d(-0.28, 0.96));
     return site;
   }
@@ -205,7 +206,8 @@ class SampleHouse {
     auto wall = m_model.createRoot<FcWall>(name);
     m_model.place(*wall, frame, storey);
     wall->setPredefinedType(FcWallTypeEnum::SOLIDWALL);
-    m_shapes.showAxis(*wall, {0, wallThickness / 2}, {along, wallThickness / 2});
+    constexpr double middle = wallThickness / 2;  // axes meet in the corners
+    m_shapes.showAxis(*wall, {middle, middle}, {along - middle, middle});
     m_shapes.showBody(*wall, type, {m_shapes.painted(substance::brick, body)});
     return wall;
   }
