@@ -86,6 +86,19 @@ std::vector<std::shared_ptr<fc::FcBase>> allRoots(const step::ReadResult& model,
   return roots;
 }
 
+/// Gives what is left of a cut item the look of the item.
+class StylingWrapper : public fc::FcDrawInterfaceWrapper {
+ public:
+  using FcDrawInterfaceWrapper::FcDrawInterfaceWrapper;
+
+  void drawConstRepresentationItem(std::shared_ptr<const FcRepresentationItem> item,
+                                   const fc::FcDrawParams& params,
+                                   generate::draw::SurfaceDrawType type) override {
+    if (isClipping()) checkStyles(*item);
+    FcDrawInterfaceWrapper::drawConstRepresentationItem(std::move(item), params, type);
+  }
+};
+
 /// Leaves walls as they are before openings are cut out.
 class UncutWrapper : public fc::FcDrawInterfaceWrapper {
  public:
@@ -102,7 +115,7 @@ class UncutWrapper : public fc::FcDrawInterfaceWrapper {
 std::unique_ptr<fc::FcDrawInterfaceWrapper> wrapperOf(generate::draw::DrawInterface& target,
                                                       const DrawingOptions& options) {
   if (options.noOpenings) return std::make_unique<UncutWrapper>(target);
-  return std::make_unique<fc::FcDrawInterfaceWrapper>(target);
+  return std::make_unique<StylingWrapper>(target);
 }
 
 /// One walk over a model into one target.
