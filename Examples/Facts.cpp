@@ -69,7 +69,7 @@ void Facts::describeWalls() {
        createProperty("ThermalTransmittance", FcThermalTransmittanceMeasure(0.24))});
   auto relation = m_model.createRoot<FcRelDefinesByProperties>();
   relation->setRelatedObjects(m_model.all<FcWall, FcObjectDefinition>());
-  relation->setRelatingPropertyDefinition(std::static_pointer_cast<FcPropertySetDefinition>(set));
+  relation->setRelatingPropertyDefinition(set);
 }
 
 void Facts::describe(FcWallType& type) {
@@ -98,7 +98,7 @@ void Facts::measure(const std::shared_ptr<FcWall>& wall, double length, double h
   set->setQuantities({along, area});
   auto relation = m_model.createRoot<FcRelDefinesByProperties>();
   relation->setRelatedObjects({wall});
-  relation->setRelatingPropertyDefinition(std::static_pointer_cast<FcPropertySetDefinition>(set));
+  relation->setRelatingPropertyDefinition(set);
 }
 
 // What others know them by
@@ -122,7 +122,7 @@ void Facts::associateMaterial(const std::string& name,
   material->setName(name);
   auto relation = m_model.createRoot<FcRelAssociatesMaterial>();
   for (const auto& element : elements) relation->insertRelatedObjects(element);
-  relation->setRelatingMaterial(FcMaterialSelect(material));
+  relation->setRelatingMaterial(material);
 }
 
 }  // namespace sample

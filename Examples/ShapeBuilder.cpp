@@ -172,7 +172,7 @@ std::shared_ptr<FcSurfaceStyle> ShapeBuilder::createStyle(const Substance& subst
   auto style = m_model.create<FcSurfaceStyle>();
   style->setName(substance.name);
   style->setSide(FcSurfaceSide::BOTH);
-  style->insertStyles(FcSurfaceStyleElementSelect(rendering));
+  style->insertStyles(rendering);
   return style;
 }
 
