@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "Fc/Resource/Profile/ProfilePath.h"
+#include "Fc/Resource/Profile/IShapePath.h"
 #include "Fc/Resource/Report.h"
 
 namespace qor::fc::resource::profile {
@@ -14,32 +14,11 @@ FcAsymmetricIShapeProfileDef::generateIndexedPolycurve() const {
         "Optional for historic reasons, should be provided. Bottom flange thickness wil lbe used",
         "qor::fc::resource::profile::FcAsymmetricIShapeProfileDef::generateIndexedPolycurve",
         __LINE__);
-  const double depth = OverallDepth();
-  const double bottomWidth = BottomFlangeWidth();
-  const double topWidth = TopFlangeWidth();
   const double bottom = BottomFlangeThickness();
   const double top = TopFlangeThickness() ? TopFlangeThickness()->value() : bottom;
-  const double bottomFillet = BottomFlangeFilletRadius().value_or(0.0);
-  const double topFillet = TopFlangeFilletRadius().value_or(0.0);
-  const double bottomLedge = (bottomWidth - WebThickness()) / 2 - bottomFillet;
-  const double topLedge = (topWidth - WebThickness()) / 2 - topFillet;
-  const double web = depth - (bottom + top + bottomFillet + topFillet);
-  return ProfilePath(-bottomWidth / 2, -depth / 2)
-      .line(bottomWidth, 0)
-      .line(0, bottom)
-      .line(-bottomLedge, 0)
-      .rightTurn(bottomFillet, -1, 1)
-      .line(0, web)
-      .rightTurn(topFillet, 1, 1)
-      .line(topLedge, 0)
-      .line(0, top)
-      .line(-topWidth, 0)
-      .line(0, -top)
-      .line(topLedge, 0)
-      .rightTurn(topFillet, 1, -1)
-      .line(0, -web)
-      .rightTurn(bottomFillet, -1, -1)
-      .line(-bottomLedge, 0)
+  return iShapePath(OverallDepth(), WebThickness(),
+                    {BottomFlangeWidth(), bottom, BottomFlangeFilletRadius().value_or(0.0)},
+                    {TopFlangeWidth(), top, TopFlangeFilletRadius().value_or(0.0)})
       .placedAt(validPosition());
 }
 
