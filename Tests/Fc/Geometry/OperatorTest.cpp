@@ -47,19 +47,17 @@ TEST(TransformationOperator, CompletesItsAxes) {
   EXPECT_EQ(op.getTransformation(), Matrix({0, 1, 0}, {0, 0, -1}, {1, 0, 0}, {}));
 }
 
-struct ScaleCase {
-  OptionalScale scale, scale2, scale3;
-  Vector3d in2d, in3d;
-  Vector2d planar;
-};
-
 TEST(TransformationOperator, TakesMissingScalesFromTheFirst) {
-  const ScaleCase cases[] = {{{}, {}, {}, {1, 1, 1}, {1, 1, 1}, {1, 1}},
-                             {2, {}, {}, {2, 2, 2}, {2, 2, 2}, {2, 2}},
-                             {{}, 3, {}, {1, 3, 1}, {1, 3, 1}, {1, 1}},
-                             {2, 3, {}, {2, 3, 2}, {2, 3, 2}, {2, 3}},
-                             {2, {}, 4, {2, 2, 2}, {2, 2, 4}, {2, 2}}};
-  for (const ScaleCase& test : cases) {
+  const struct {
+    OptionalScale scale, scale2, scale3;
+    Vector3d in2d, in3d;
+    Vector2d planar;
+  } cases[] = {{{}, {}, {}, {1, 1, 1}, {1, 1, 1}, {1, 1}},
+               {2, {}, {}, {2, 2, 2}, {2, 2, 2}, {2, 2}},
+               {{}, 3, {}, {1, 3, 1}, {1, 3, 1}, {1, 1}},
+               {2, 3, {}, {2, 3, 2}, {2, 3, 2}, {2, 3}},
+               {2, {}, 4, {2, 2, 2}, {2, 2, 4}, {2, 2}}};
+  for (const auto& test : cases) {
     NonUniform2D planar;
     NonUniform3D spatial;
     if (test.scale) planar.setScale(FcReal(*test.scale));

@@ -38,10 +38,8 @@ const char* const onlyOneDirection =
     "neither of them.";
 
 struct DirectionCase {
-  std::optional<Vector3d> axis;
-  std::optional<Vector3d> reference;
-  Vector3d x;
-  Vector3d z;
+  std::optional<Vector3d> axis, reference;
+  Vector3d x, z;
   std::vector<test::ExpectedAssert> asserts{};
   Point3d origin = {1, 2, 3};
 };
@@ -91,16 +89,24 @@ TEST(Placement, ReportsDirectionsOfThePlane) {
   EXPECT_EQ(placement.placementGet(), Matrix({}, {0, 1, 0}, {1, 0, 0}));
 }
 
-TEST(Placement, GivesBackTheFrameThatWasSet) {
+TEST(Placement, GivesBackTheFrameThatWasSetInThePartsThatItHas) {
+  const ExpectAsserts none;
   RandomGeometry random;
-  const auto placement = makePlacement(Matrix());
+  const auto placement = makePlacement(Matrix({1, 2, 3}, {0, 2, 0}, {1, 0, 0}));
+  const auto location = placement->Location();
+  const auto axis = placement->Axis(), reference = placement->RefDirection();
+  EXPECT_EQ(reference->vector(), Vector3d(0, 2, 0)) << "of the length that it was given";
   for (int i = 0; i < 1000; ++i) {
     const Matrix frame = random.frame(1e6);
     placement->setPlacement(frame);
     EXPECT_LT(deviation(placement->placementGet(), frame), 1e-14);
+    EXPECT_EQ(placement->Location(), location);
+    EXPECT_EQ(placement->Axis(), axis);
+    EXPECT_EQ(placement->RefDirection(), reference);
     const Matrix move = random.frame(1e3);
-    placement->transform(move);
-    EXPECT_LT(deviation(placement->placementGet(), frame * move), 1e-9);
+    const auto moved = makePlacement(frame);
+    moved->transform(move);
+    EXPECT_LT(deviation(moved->placementGet(), frame * move), 1e-9);
   }
   placement->setPlacement(Matrix::createTranslation({4, 5, 6}));
   EXPECT_EQ(placement->Axis(), nullptr);
@@ -116,16 +122,17 @@ TEST(Placement, MovesAllThatShareItsPoint) {
   EXPECT_EQ(other.placementGet().origin(), Point3d(1, 0, 5));
 }
 
-TEST(Placement, ReportsMirrorsAndStoresThem) {
-  const Matrix mirror({-1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {});
+TEST(Placement, ReportsMirrorsAndParallelAxesAndStoresThem) {
+  const std::string formal = "by formal propositions, ",
+                    inSetter = "Assertion failed in vPlacementSet: " + formal;
   const ExpectAsserts expected(
-      {"Assertion failed in Constructor FcAxis2Placement3D: by formal propositions, placements "
-       "must "
-       "not allow mirroring",
-       "Assertion failed in vPlacementSet: by formal propositions, placements must not allow "
-       "mirroring"});
-  const FcAxis2Placement3D placement(mirror);
+      {"Assertion failed in Constructor FcAxis2Placement3D: " + formal +
+           "placements must not allow mirroring",
+       inSetter + "placements must not allow mirroring",
+       inSetter + "cross product of Axis() and RefDirection() must not be Null vector"});
+  FcAxis2Placement3D placement(Matrix({-1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {}));
   EXPECT_EQ(placement.RefDirection()->vector(), Vector3d(-1, 0, 0));
+  placement.setPlacement(Matrix({0, 0, 1}, {0, 1, 0}, {0, 0, 1}, {}));
 }
 
 TEST(Placement2D, TurnsInThePlane) {

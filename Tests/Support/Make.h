@@ -1,0 +1,64 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <memory>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+#include "Fc/FcBase.h"
+#include "Fc/Reflection/MakeEntity.h"
+
+namespace qor::test {
+
+/// An attribute's name and what it shall hold: a number, a flag, a text or enumerator, an entity or
+/// a list of entities.
+struct Attribute {
+  template <class T>
+  Attribute(const char* attributeName, const T& content)  // NOLINT: reads as a pair
+      : name(attributeName), value(valueOf(content)) {}
+
+  const char* name;
+  fc::LocalValue value;
+
+ private:
+  template <class T>
+  static fc::LocalValue valueOf(const T& content) {
+    if constexpr (std::is_same_v<T, bool>)
+      return fc::LocalValue(content);
+    else if constexpr (std::is_arithmetic_v<T>)
+      return fc::LocalValue(static_cast<double>(content));
+    else if constexpr (std::is_convertible_v<T, std::string>)
+      return fc::LocalValue(std::string(content));
+    else
+      return fc::LocalValue(std::shared_ptr<fc::FcBase>(content));
+  }
+  template <class T>
+  static fc::LocalValue valueOf(const std::vector<std::shared_ptr<T>>& entities) {
+    fc::LocalValue::List list;
+    for (const auto& entity : entities) list.push_back(valueOf(entity));
+    return fc::LocalValue(std::move(list));
+  }
+};
+
+/// A new entity with these attributes; the test fails on one that the class doesn't have or that
+/// can't hold the value.
+///
+///     make<FcBlock>({{"XLength", 2}, {"YLength", 3}, {"Position", makePlacement(frame)}})
+template <class T>
+std::shared_ptr<T> make(std::initializer_list<Attribute> attributes = {}) {
+  auto entity = fc::makeEntity<T>();
+  for (const Attribute& attribute : attributes) {
+    const object::PropertyId id(attribute.name);
+    const auto* number = std::get_if<double>(&attribute.value.value);
+    const bool isSet =
+        entity->setLocalValue(attribute.value, id) ||
+        (number && entity->setLocalValue(fc::LocalValue(static_cast<std::int64_t>(*number)), id));
+    EXPECT_TRUE(isSet) << entity->ifcName() << '.' << attribute.name;
+  }
+  return entity;
+}
+
+}  // namespace qor::test
