@@ -8,6 +8,7 @@
 #include <type_traits>
 #include <vector>
 
+#include "Fc/Data.h"
 #include "Fc/FcBase.h"
 #include "Fc/Reflection/MakeEntity.h"
 
@@ -43,21 +44,34 @@ struct Attribute {
   }
 };
 
-/// A new entity with these attributes; the test fails on one that the class doesn't have or that
+/// Gives the entity these attributes; the test fails on one that its class doesn't have or that
 /// can't hold the value.
+inline void give(fc::FcBase& entity, std::initializer_list<Attribute> attributes) {
+  for (const Attribute& attribute : attributes) {
+    const object::PropertyId id(attribute.name);
+    const auto* number = std::get_if<double>(&attribute.value.value);
+    const bool isSet =
+        entity.setLocalValue(attribute.value, id) ||
+        (number && entity.setLocalValue(fc::LocalValue(static_cast<std::int64_t>(*number)), id));
+    EXPECT_TRUE(isSet) << entity.ifcName() << '.' << attribute.name;
+  }
+}
+
+/// A new entity with these attributes.
 ///
 ///     make<FcBlock>({{"XLength", 2}, {"YLength", 3}, {"Position", makePlacement(frame)}})
 template <class T>
 std::shared_ptr<T> make(std::initializer_list<Attribute> attributes = {}) {
   auto entity = fc::makeEntity<T>();
-  for (const Attribute& attribute : attributes) {
-    const object::PropertyId id(attribute.name);
-    const auto* number = std::get_if<double>(&attribute.value.value);
-    const bool isSet =
-        entity->setLocalValue(attribute.value, id) ||
-        (number && entity->setLocalValue(fc::LocalValue(static_cast<std::int64_t>(*number)), id));
-    EXPECT_TRUE(isSet) << entity->ifcName() << '.' << attribute.name;
-  }
+  give(*entity, attributes);
+  return entity;
+}
+
+/// The same in a model.
+template <class T>
+std::shared_ptr<T> make(fc::Data& data, std::initializer_list<Attribute> attributes = {}) {
+  auto entity = data.create<T>();
+  give(*entity, attributes);
   return entity;
 }
 

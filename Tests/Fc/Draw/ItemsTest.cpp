@@ -28,9 +28,7 @@ namespace {
 
 using namespace resource::geometricmodel;
 using namespace resource::geometry;
-using math::CurveDiscretization;
-using math::Extent;
-using math::Matrix;
+using namespace math;
 using resource::presentationdefinition::FcTextLiteralWithExtent;
 using test::drawn;
 using test::ExpectAsserts;

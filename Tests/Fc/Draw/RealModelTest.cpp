@@ -24,14 +24,9 @@
 namespace qor::fc {
 namespace {
 
-using core::kernel::FcProduct;
-using core::kernel::FcRoot;
-using math::Matrix;
-using math::Point3d;
-using math::Vector3d;
-using resource::geometricconstraint::FcLinearPlacement;
-using resource::geometricconstraint::FcLocalPlacement;
-using resource::geometricconstraint::FcObjectPlacement;
+using namespace core::kernel;
+using namespace math;
+using namespace resource::geometricconstraint;
 using namespace resource::geometry;
 
 Vector3d ratios(const std::shared_ptr<FcDirection>& direction, const Vector3d& otherwise) {

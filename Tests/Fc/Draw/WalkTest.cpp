@@ -26,22 +26,12 @@
 namespace qor::fc {
 namespace {
 
-using core::kernel::FcProduct;
-using core::kernel::FcProjectLibrary;
-using core::kernel::FcRelAggregates;
-using core::kernel::FcRelDeclares;
-using core::kernel::FcRoot;
-using core::productextension::FcOpeningElement;
-using core::productextension::FcRelReferencedInSpatialStructure;
-using core::productextension::FcRelSpaceBoundary;
-using core::productextension::FcRelVoidsElement;
-using core::productextension::FcSpace;
+using namespace core::kernel;
+using namespace core::productextension;
 using math::Matrix;
 using resource::presentationorganization::FcPresentationLayerAssignment;
-using resource::representation::FcGeometricRepresentationContext;
-using resource::representation::FcRepresentation;
-using shared::buildingelements::FcWall;
-using shared::buildingelements::FcWallType;
+using namespace resource::representation;
+using namespace shared::buildingelements;
 using shared::buildingserviceelements::FcDistributionPort;
 using test::drawn;
 using test::ExpectAsserts;

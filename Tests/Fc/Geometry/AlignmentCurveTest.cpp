@@ -15,10 +15,7 @@
 namespace qor::fc::resource::geometry {
 namespace {
 
-using math::Matrix;
-using math::Point2d;
-using math::Point3d;
-using math::Vector3d;
+using namespace math;
 using std::numbers::pi;
 using test::ExpectAsserts;
 

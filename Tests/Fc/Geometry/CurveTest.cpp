@@ -22,9 +22,7 @@
 namespace qor::fc::resource::geometry {
 namespace {
 
-using math::Matrix;
-using math::Point2d;
-using math::Point3d;
+using namespace math;
 using std::numbers::pi;
 using test::ExpectAsserts;
 using test::make;

@@ -16,11 +16,8 @@
 namespace qor::fc::resource::geometry {
 namespace {
 
-using geometricmodel::FcCartesianPointList2D;
-using geometricmodel::FcCartesianPointList3D;
-using math::Point2d;
-using math::Point3d;
-using math::Vector3d;
+using namespace geometricmodel;
+using namespace math;
 using std::numbers::pi;
 using test::ExpectAsserts;
 using Parameter = FcCurve::ParameterType;

@@ -11,14 +11,7 @@
 namespace qor::fc::resource::geometry {
 namespace {
 
-using math::Matrix;
-using math::Matrix2d;
-using math::MatrixMultiplyOrder;
-using math::Point2d;
-using math::Point3d;
-using math::RandomGeometry;
-using math::Vector2d;
-using math::Vector3d;
+using namespace math;
 using measure::FcReal;
 using test::ExpectAsserts;
 using Uniform2D = FcCartesianTransformationOperator2D;

@@ -19,17 +19,8 @@
 namespace qor::fc::resource::geometry {
 namespace {
 
-using geometricconstraint::FcGridPlacement;
-using geometricconstraint::FcLinearPlacement;
-using geometricconstraint::FcLocalPlacement;
-using geometricconstraint::FcObjectPlacement;
-using math::Matrix;
-using math::Matrix2d;
-using math::Point2d;
-using math::Point3d;
-using math::RandomGeometry;
-using math::Vector2d;
-using math::Vector3d;
+using namespace geometricconstraint;
+using namespace math;
 using std::numbers::pi;
 using test::ExpectAsserts;
 

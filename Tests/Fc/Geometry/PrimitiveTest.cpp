@@ -24,9 +24,7 @@
 namespace qor::fc::resource::geometricmodel {
 namespace {
 
-using math::Extent;
-using math::Matrix;
-using math::Point3d;
+using namespace math;
 using std::numbers::pi;
 using test::DrawRecorder;
 using test::ExpectAsserts;

@@ -30,10 +30,7 @@ using fc::test::makeProfile;
 using fc::test::planarPosition;
 using fc::test::ProfileCase;
 using generate::draw::Profile2D;
-using math::Extent2d;
-using math::Matrix2d;
-using math::Point2d;
-using math::Polygon2d;
+using namespace math;
 using qor::test::ExpectAsserts;
 using std::numbers::pi;
 

@@ -16,9 +16,7 @@ namespace qor::fc::resource::geometry {
 namespace {
 
 using core::kernel::FcProduct;
-using geometricconstraint::FcLinearPlacement;
-using geometricconstraint::FcLocalPlacement;
-using geometricconstraint::FcObjectPlacement;
+using namespace geometricconstraint;
 using math::Matrix;
 using math::Point3d;
 

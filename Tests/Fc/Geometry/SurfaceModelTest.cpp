@@ -18,13 +18,8 @@
 namespace qor::fc::resource::geometricmodel {
 namespace {
 
-using geometry::makePlacement;
-using geometry::params;
-using geometry::Points2d;
-using geometry::polyline;
-using math::Extent;
-using math::Matrix;
-using math::Point3d;
+using namespace geometry;
+using namespace math;
 using test::DrawRecorder;
 using test::ExpectAsserts;
 using test::make;

@@ -16,10 +16,7 @@ namespace {
 
 using generate::draw::PolygonalFaceSetOpenGL;
 using generate::draw::Profile2D;
-using math::Matrix;
-using math::Point2d;
-using math::Point3d;
-using math::Vector3d;
+using namespace math;
 using std::numbers::pi;
 using test::ExpectAsserts;
 using test::isClosedSolidOfVolume;

@@ -24,12 +24,8 @@ namespace {
 
 using fc::test::makeProfile;
 using fc::test::ProfileCase;
-using geometry::circle;
-using geometry::polyline;
-using math::Extent;
-using math::Matrix;
-using math::Point3d;
-using math::Vector3d;
+using namespace geometry;
+using namespace math;
 using profile::FcProfileDef;
 using qor::test::DrawRecorder;
 using qor::test::ExpectAsserts;

@@ -16,11 +16,7 @@ namespace qor::fc::resource::geometry {
 namespace {
 
 using geometricmodel::FcCartesianPointList2D;
-using math::Matrix;
-using math::Point2d;
-using math::Point3d;
-using math::RandomGeometry;
-using math::Vector3d;
+using namespace math;
 using std::numbers::pi;
 using test::ExpectAsserts;
 

@@ -29,8 +29,7 @@ namespace {
 using namespace resource::measure;
 using namespace resource::property;
 using namespace resource::quantity;
-using core::productextension::FcBuilding;
-using core::productextension::FcElementQuantity;
+using namespace core::productextension;
 using object::PropertyId;
 using unit::QuantityPresentationFactory;
 

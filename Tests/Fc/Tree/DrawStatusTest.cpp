@@ -19,11 +19,8 @@ namespace qor::fc {
 namespace {
 
 using core::kernel::FcRoot;
-using resource::representation::FcGeometricRepresentationContext;
-using resource::representation::FcGeometricRepresentationSubContext;
-using resource::representation::FcShapeRepresentation;
-using shared::buildingelements::FcWall;
-using shared::buildingelements::FcWallType;
+using namespace resource::representation;
+using namespace shared::buildingelements;
 using test::ExpectAsserts;
 using testing::ElementsAre;
 using testing::HasSubstr;
