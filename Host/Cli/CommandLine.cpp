@@ -187,8 +187,10 @@ class CommandLine {
 }  // namespace
 
 ExitCode runFctool(int argc, const char* const* argv, Console& console) noexcept try {
-  const AssertLines asserts(console.err);
-  return CommandLine().run(argc, argv, console);
+  Watch watch(console.err);
+  const AssertLines asserts(console.err, watch);
+  Console watched{console.out, console.err, console.showProgress, &watch};
+  return CommandLine().run(argc, argv, watched);
 } catch (const std::bad_alloc&) {
   console.err << "fctool: out of memory\n";
   return ExitCode::impossible;

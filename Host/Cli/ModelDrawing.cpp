@@ -26,6 +26,7 @@
 #include "Host/Cli/PrintableText.h"
 #include "Host/Cli/ProcessorScope.h"
 #include "Host/Cli/ProgressBar.h"
+#include "Host/Cli/Watch.h"
 #include "Host/StepFile/EntityNumbers.h"
 #include "Host/StepFile/Progress.h"
 #include "Qor/Math/Epsilon.h"
@@ -107,14 +108,15 @@ class Drawing {
  public:
   Drawing(const std::shared_ptr<fc::Data>& data, const fc::DrawStatus& status,
           RepresentationChoice* choice, generate::draw::DrawInterface& target,
-          const DrawingOptions& options, const std::function<void(double)>& tell)
+          const DrawingOptions& options, Watch& watch, const std::function<void(double)>& tell)
       : m_document(data),
         m_target(target),
         m_wrapper(wrapperOf(target, options)),
         m_params(*m_wrapper, m_document, status, *data, choice, nullptr, nullptr),
         m_progress(tell, data->entities<FcProduct>().size()) {
     m_params.skipExpensiveClipping = options.skipExpensive;
-    m_params.skipObjectCallback = [this](const Guid&) {
+    m_params.skipObjectCallback = [this, &watch](const Guid& guid) {
+      watch.at(guid);
       m_progress.advance(m_done++);
       return false;
     };
@@ -220,7 +222,9 @@ bool drawModel(const step::ReadResult& model, const DrawingOptions& options,
   math::Epsilon::current().set(1000.0, false);
   ProgressBar bar("Drawing", console);
   const fc::DrawStatus all = choice ? withAllContexts(status) : fc::DrawStatus();
-  Drawing drawing(model.data, choice ? all : status, choice, target, options, bar.callback());
+  const Watch::Walk walk(*console.watch, model);
+  Drawing drawing(model.data, choice ? all : status, choice, target, options, *console.watch,
+                  bar.callback());
   for (const auto& root : roots) {
     if (drawing.draw(root)) continue;
     refuse(console,

@@ -5,11 +5,13 @@
 
 #include "Host/Cli/CommandLine.h"
 #include "Host/Cli/OutputBuffer.h"
+#include "Host/Cli/Watch.h"
 #include "Qor/Platform/StandardStreams.h"
 
 int main(int argc, char** argv) {
   using namespace qor::host::cli;
   qor::surviveClosedPipes();
+  Watch::endInOrderWhenInterrupted();
   OutputBuffer buffer(stdout);
   std::ostream out(&buffer);
   Console console{out, std::cerr, qor::isTerminal(stderr)};

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "Host/Cli/AssertLines.h"
 #include "Host/Cli/PrintableText.h"
 #include "Tests/Host/Cli/RunTool.h"
 
@@ -72,16 +71,6 @@ TEST(CommandLine, ShowsProgressToAWatcherAloneAndTakesItAway) {
   const std::string bar = runTool({"info", sampleFile()}, true).err;
   EXPECT_THAT(bar, StartsWith("\rReading ["));
   EXPECT_THAT(bar, testing::EndsWith("\r\033[K"));
-}
-
-TEST(AssertLines, TellsEachAssertOnceInOneLine) {
-  std::ostringstream err;
-  {
-    const host::cli::AssertLines lines(err);
-    for (const char* message : {"first\nof two", "second", "first\nof two"})
-      Assert::addAssert({.message = message, .function = "f"});
-  }
-  EXPECT_EQ(err.str(), "fctool: assert: first\\nof two (f)\nfctool: assert: second (f)\n");
 }
 
 TEST(PrintableText, KeepsUtf8AndEscapesControlCharacters) {
