@@ -6,7 +6,6 @@
 #include "Fc/Resource/Geometry/FcClothoid.h"
 #include "Fc/Resource/Geometry/FcCurveSegment.h"
 #include "Fc/Resource/Geometry/FcGradientCurve.h"
-#include "Fc/Resource/Geometry/FcSegmentedReferenceCurve.h"
 #include "Fc/Resource/Geometry/GradientPath.h"
 #include "Fc/Resource/Geometry/TurningPath.h"
 #include "Items.h"
@@ -131,13 +130,6 @@ TEST(GradientCurve, LiftsItsBaseCurve) {
   EXPECT_NEAR(points[1].z, 146, 1e-3);
   EXPECT_NEAR(points.back().z, 140.5, 1e-3);
   EXPECT_EQ(*gradient->curve2d(params, {}, {}, false), *base->curve2d(params, {}, {}, false));
-}
-
-TEST(SegmentedReferenceCurve, HasNoPoints) {
-  const ExpectAsserts expected(
-      {"curveGet not implemented for class: class "
-       "qor::fc::resource::geometry::FcSegmentedReferenceCurve"});
-  EXPECT_TRUE(pointsOf(*alignment<FcSegmentedReferenceCurve>()).empty());
 }
 
 }  // namespace

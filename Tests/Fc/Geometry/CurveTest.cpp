@@ -12,6 +12,7 @@
 #include "Fc/Resource/Geometry/FcPcurve.h"
 #include "Fc/Resource/Geometry/FcPolynomialCurve.h"
 #include "Fc/Resource/Geometry/FcReparametrisedCompositeCurveSegment.h"
+#include "Fc/Resource/Geometry/FcSegmentedReferenceCurve.h"
 #include "Fc/Resource/Geometry/FcTaperedCurveDiscretization.h"
 #include "Fc/Resource/Geometry/FcTrimmedCurve.h"
 #include "Items.h"
@@ -302,7 +303,8 @@ TEST(Curve, WithoutPointsNamesItsClass) {
        "curve2d" + without + "FcClothoid", "curveGet" + without + "FcClothoid",
        "FcSpiral not implemented (new in IFC 4.3)",
        "FcPolynominalCurve not implemented (new in IFC 4.3)",
-       "curveGet" + without + "FcBSplineCurveWithKnots"});
+       "curveGet" + without + "FcBSplineCurveWithKnots",
+       "curveGet" + without + "FcSegmentedReferenceCurve"});
   EXPECT_FALSE(curve.isClosed(params));
   EXPECT_FALSE(curve.is2d());
   EXPECT_EQ(curve.getAsIndexedPolyCurve(params), nullptr);
@@ -312,6 +314,7 @@ TEST(Curve, WithoutPointsNamesItsClass) {
   EXPECT_TRUE(curve.parametricSegments().empty());
   EXPECT_TRUE(FcPolynomialCurve().parametricSegments().empty());
   EXPECT_TRUE(RecordedLines(FcBSplineCurveWithKnots()).polylines.empty());
+  EXPECT_TRUE(pointsOf(FcSegmentedReferenceCurve()).empty());
 }
 
 TEST(Curve, RunsItsParameterOverItsPieces) {

@@ -3,7 +3,6 @@
 #include <cmath>
 #include <numbers>
 
-#include "Fc/Reflection/MakeEntity.h"
 #include "Fc/Resource/GeometricConstraint/FcGridPlacement.h"
 #include "Fc/Resource/GeometricConstraint/FcLinearPlacement.h"
 #include "Fc/Resource/GeometricConstraint/FcLocalPlacement.h"
@@ -145,19 +144,15 @@ TEST(Placement2D, TurnsInThePlane) {
 
 TEST(Placement1, IsATranslationThatMoves) {
   FcAxis1Placement placement;
-  {
-    const ExpectAsserts expected({"Should have location", "Should have location"});
-    EXPECT_EQ(placement.transformationGet(), Matrix());
-    EXPECT_EQ(placement.transformation2dGet(), Matrix2d());
-  }
+  const char* const noPoint = "Should have location";
+  const char* const spatial = "Should have two dimension";
+  const ExpectAsserts expected({noPoint, noPoint, spatial, spatial});
+  EXPECT_EQ(placement.transformationGet(), Matrix());
+  EXPECT_EQ(placement.transformation2dGet(), Matrix2d());
   placement.setLocation(makePoint(Point2d(1, 2)));
-  {
-    const ExpectAsserts expected({"Should have two dimension"});
-    EXPECT_EQ(placement.transformationGet(), Matrix::createTranslation({1, 2, 0}));
-    EXPECT_EQ(placement.transformation2dGet(), Matrix2d::createTranslation({1, 2}));
-  }
+  EXPECT_EQ(placement.transformationGet(), Matrix::createTranslation({1, 2, 0}));
+  EXPECT_EQ(placement.transformation2dGet(), Matrix2d::createTranslation({1, 2}));
   placement.transform(Matrix::createTranslation({0, 0, 3}));
-  const ExpectAsserts expected({"Should have two dimension"});
   EXPECT_EQ(placement.transformation2dGet(), Matrix2d::createTranslation({1, 2}));
 }
 
@@ -196,12 +191,10 @@ TEST(LocalPlacement, MultipliesItsChain) {
 
 TEST(LocalPlacement, StandsWhereItsBaseStandsWithoutAFrameOfItsOwn) {
   const auto base = localPlacement(Matrix::createTranslation({1, 2, 3}));
-  FcLocalPlacement empty;
-  EXPECT_EQ(empty.placementGet(false), Matrix());
-  const auto placement = std::make_shared<FcLocalPlacement>();
-  placement->setPlacementRelTo(base);
+  const auto placement = test::make<FcLocalPlacement>({{"PlacementRelTo", base}});
   EXPECT_EQ(placement->placementGet(false), Matrix::createTranslation({1, 2, 3}));
   EXPECT_EQ(placement->placementGet(true), Matrix());
+  EXPECT_EQ(FcLocalPlacement().placementGet(false), Matrix());
 }
 
 TEST(LocalPlacement, SurvivesAChainOfAHundredThousand) {
@@ -216,24 +209,16 @@ TEST(LocalPlacement, NamesThePlacementAtWhichItsChainTurnsBack) {
   const auto top = localPlacement(step), middle = localPlacement(step, top),
              bottom = localPlacement(step, middle);
   top->setPlacementRelTo(middle);
-  const auto wall = std::make_shared<shared::buildingelements::FcWall>();
-  Guid guid;
-  ASSERT_TRUE(guid.boSet("3vB2YO$MX4xv5uCqZZG05x"));
-  wall->setGlobalId(guid);
-  wall->setName("South wall");
-  wall->setObjectPlacement(middle);
+  const auto wall = test::make<shared::buildingelements::FcWall>(
+      {{"Name", "South wall"}, {"ObjectPlacement", middle}});
+  ASSERT_TRUE(wall->setAttributeFromString("GlobalId", "3vB2YO$MX4xv5uCqZZG05x"));
   const std::string circle =
       " leads in a circle back to the placement of IFCWALL 3vB2YO$MX4xv5uCqZZG05x (South wall)";
-  {
-    const ExpectAsserts expected({"PlacementRelTo of the placement" + circle});
-    EXPECT_EQ(bottom->placementGet(false).origin(), Point3d(3, 0, 0));
-  }
-  {
-    const ExpectAsserts expected(
-        {"PlacementRelTo of the placement of IFCWALL 3vB2YO$MX4xv5uCqZZG05x (South wall)" +
-         circle});
-    EXPECT_EQ(middle->placementGet(false).origin(), Point3d(2, 0, 0));
-  }
+  const ExpectAsserts expected(
+      {"PlacementRelTo of the placement" + circle,
+       "PlacementRelTo of the placement of IFCWALL 3vB2YO$MX4xv5uCqZZG05x (South wall)" + circle});
+  EXPECT_EQ(bottom->placementGet(false).origin(), Point3d(3, 0, 0));
+  EXPECT_EQ(middle->placementGet(false).origin(), Point3d(2, 0, 0));
   top->clearPlacementRelTo();
 }
 

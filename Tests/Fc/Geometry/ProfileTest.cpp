@@ -4,7 +4,6 @@
 #include <limits>
 #include <numbers>
 
-#include "Fc/FcParams.h"
 #include "Fc/NotImplemented.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList2D.h"
 #include "Fc/Resource/Geometry/FcIndexedPolyCurve.h"

@@ -1,13 +1,10 @@
 #include <gmock/gmock.h>
 
-#include "Fc/Core/Kernel/FcActor.h"
 #include "Fc/Core/Kernel/FcPropertySet.h"
 #include "Fc/Core/Kernel/FcRelAggregates.h"
-#include "Fc/Core/Kernel/FcRelAssignsToActor.h"
 #include "Fc/Core/Kernel/FcRelAssignsToProduct.h"
 #include "Fc/Core/Kernel/FcRelDeclares.h"
 #include "Fc/Core/Kernel/FcRelDefinesByProperties.h"
-#include "Fc/Core/Kernel/FcRelDefinesByType.h"
 #include "Fc/Core/Kernel/FcRelNests.h"
 #include "Fc/Core/ProductExtension/FcBuildingStorey.h"
 #include "Fc/Core/ProductExtension/FcRelContainedInSpatialStructure.h"
@@ -168,15 +165,6 @@ TEST(SetOfReferences, KeepsBothSidesInStep) {
                                       &Rel::eraseRelatedObjects, "RelatedObjects", "Decomposes"});
 }
 
-TEST(SetOfReferences, KeepsBothSidesInStepWhenASubclassInheritsIt) {
-  using Rel = FcRelAssignsToActor;
-  using Base = FcRelAssigns;
-  expectInStep<FcWall>(Kind::set,
-                       ListSetters<Rel, std::shared_ptr<FcObjectDefinition>>{
-                           &Base::setRelatedObjects, &Base::insertRelatedObjects,
-                           &Base::eraseRelatedObjects, "RelatedObjects", "HasAssignments"});
-}
-
 TEST(ListOfReferences, KeepsBothSidesInStep) {
   using Rel = FcRelNests;
   expectInStep<FcWall>(Kind::list, ListSetters<Rel, std::shared_ptr<FcObjectDefinition>>{
@@ -243,19 +231,6 @@ TEST(Erasing, WhatIsNoMemberResetsItsReferenceAllTheSame) {
   foreign->eraseRelatedObjects(wall);
   EXPECT_THAT(mine->RelatedObjects(), ElementsAre(wall));
   EXPECT_EQ(wall->Decomposes().lock(), nullptr);
-}
-
-TEST(Typing, IsMirroredByTheRelationshipLinkedLast) {
-  const auto first = make<FcRelDefinesByType>(), second = make<FcRelDefinesByType>();
-  const auto wall = make<FcWall>();
-  const auto type = make<FcWallType>();
-  for (const auto& rel : {first, second}) {
-    rel->insertRelatedObjects(wall);
-    rel->setRelatingType(type);
-  }
-  EXPECT_EQ(wall->IsTypedBy().lock(), second);
-  EXPECT_EQ(type->Types().lock(), second);
-  EXPECT_THAT(first->RelatedObjects(), ElementsAre(wall)) << "no setter repairs the other holder";
 }
 
 TEST(PropertyDefinition, IsNotMirroredInASetOfThemThoughItIsWalked) {

@@ -5,7 +5,6 @@
 
 #include "Fc/Core/Kernel/FcProject.h"
 #include "Fc/Core/Kernel/FcRelDeclares.h"
-#include "Fc/Data.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
 #include "Fc/Resource/Geometry/FcDirection.h"
 #include "Fc/Resource/Measure/FcDerivedUnit.h"
