@@ -206,16 +206,16 @@ TEST(RevolvedAreaSolid, RefusesToBeMirroredOrStretched) {
 
 TEST(ExtrudedAreaSolidTapered, PairsTheArcsOfBothProfiles) {
   const ExpectAsserts none;
-  FcExtrudedAreaSolidTapered solid;
-  solid.setExtrudedDirection(geometry::makeDirection(Vector3d(0, 0, -1)));
-  solid.setDepth(3.0);
-  solid.setPosition(slantedPosition());
-  solid.setSweptArea(makeProfile("IfcCircleProfileDef", "Radius 2"));
-  solid.setEndSweptArea(makeProfile("IfcCircleProfileDef", "Radius 0.01"));
+  const auto solid = make<FcExtrudedAreaSolidTapered>(
+      {{"ExtrudedDirection", geometry::makeDirection(Vector3d(0, 0, -1))},
+       {"Depth", 3},
+       {"Position", slantedPosition()},
+       {"SweptArea", makeProfile("IfcCircleProfileDef", "Radius 2")},
+       {"EndSweptArea", makeProfile("IfcCircleProfileDef", "Radius 0.01")}});
   // A target whose circles have corners by their size, so that the smaller one alone would have
   // few.
   DrawRecorder recorder(math::CurveDiscretization(0.01, 4, 400));
-  recorder.draw(solid);
+  recorder.draw(*solid);
   ASSERT_EQ(recorder.polygonalSets.size(), 2u);
   SolidMesh mesh;
   for (const auto& set : recorder.polygonalSets) mesh.add(set.what, set.frame);
@@ -248,14 +248,13 @@ TEST(TaperedSolids, TellProfilesThatDoNotPair) {
 
 TEST(RevolvedAreaSolid, StandsInItsPositionWithinItsBox) {
   for (const double angle : {0.4, pi, 2 * pi}) {
-    FcRevolvedAreaSolid solid;
-    solid.setPosition(slantedPosition());
-    solid.setSweptArea(rectangle());
-    solid.setAxis(axis({3, 0, 0}, {0, 2, 0}));
-    solid.setAngle(angle);
-    const Drawing drawing(solid);
+    const auto solid = make<FcRevolvedAreaSolid>({{"Position", slantedPosition()},
+                                                  {"SweptArea", rectangle()},
+                                                  {"Axis", axis({3, 0, 0}, {0, 2, 0})},
+                                                  {"Angle", angle}});
+    const Drawing drawing(*solid);
     EXPECT_TRUE(isClosedSolidOfVolume(drawing.mesh, 2 * 3 * angle, 0.002));
-    expectInItsBox(solid, drawing);
+    expectInItsBox(*solid, drawing);
   }
 }
 
