@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 #include <vector>
@@ -60,7 +61,14 @@ TEST(ExtrudedFaceSet, SharesThePointsOfSharpEdgesAndKeepsSidesSoftWithAFlagAtEit
     EXPECT_EQ(set.coordinates.size(), test.points);
     ASSERT_EQ(set.faces.size(), 6u);
     std::size_t soft = 0;
-    for (std::size_t i = 0; i < set.faces.size(); ++i) soft += set.isHard(i) ? 0 : 1;
+    for (std::size_t i = 0; i < set.faces.size(); ++i) {
+      if (set.isHard(i)) continue;
+      ++soft;
+      const auto isFlagged = [&](std::uint32_t point) {
+        return set.coordinates[point].isNear({2, 0, 0});
+      };
+      EXPECT_TRUE(std::any_of(set.faces[i].outer.begin(), set.faces[i].outer.end(), isFlagged));
+    }
     EXPECT_EQ(soft, test.soft);
   }
 }
