@@ -14,8 +14,8 @@
 
 namespace qor::test {
 
-/// An attribute's name and what it shall hold: a number, a flag, a text or enumerator, an entity or
-/// a list of entities.
+/// An attribute's name and what it shall hold: a number, a flag, a text or enumerator, an entity,
+/// or a list of any of them.
 struct Attribute {
   template <class T>
   Attribute(const char* attributeName, const T& content)  // NOLINT: reads as a pair
@@ -27,19 +27,19 @@ struct Attribute {
  private:
   template <class T>
   static fc::LocalValue valueOf(const T& content) {
-    if constexpr (std::is_same_v<T, bool>)
+    if constexpr (std::is_same_v<T, bool> || std::is_floating_point_v<T>)
       return fc::LocalValue(content);
-    else if constexpr (std::is_arithmetic_v<T>)
-      return fc::LocalValue(static_cast<double>(content));
+    else if constexpr (std::is_integral_v<T>)
+      return fc::LocalValue(static_cast<std::int64_t>(content));
     else if constexpr (std::is_convertible_v<T, std::string>)
       return fc::LocalValue(std::string(content));
     else
       return fc::LocalValue(std::shared_ptr<fc::FcBase>(content));
   }
   template <class T>
-  static fc::LocalValue valueOf(const std::vector<std::shared_ptr<T>>& entities) {
+  static fc::LocalValue valueOf(const std::vector<T>& elements) {
     fc::LocalValue::List list;
-    for (const auto& entity : entities) list.push_back(valueOf(entity));
+    for (const T& element : elements) list.push_back(valueOf(element));
     return fc::LocalValue(std::move(list));
   }
 };
@@ -49,10 +49,10 @@ struct Attribute {
 inline void give(fc::FcBase& entity, std::initializer_list<Attribute> attributes) {
   for (const Attribute& attribute : attributes) {
     const object::PropertyId id(attribute.name);
-    const auto* number = std::get_if<double>(&attribute.value.value);
+    const auto* whole = std::get_if<std::int64_t>(&attribute.value.value);
     const bool isSet =
         entity.setLocalValue(attribute.value, id) ||
-        (number && entity.setLocalValue(fc::LocalValue(static_cast<std::int64_t>(*number)), id));
+        (whole && entity.setLocalValue(fc::LocalValue(static_cast<double>(*whole)), id));
     EXPECT_TRUE(isSet) << entity.ifcName() << '.' << attribute.name;
   }
 }

@@ -52,20 +52,16 @@ std::shared_ptr<FcCartesianPointList3D> points(std::vector<Point3d> coordinates)
   return result;
 }
 
-std::shared_ptr<FcIndexedPolygonalFace> face(std::initializer_list<int> ring) {
-  auto result = make<FcIndexedPolygonalFace>();
-  result->setCoordIndex(positions(ring));
-  return result;
+using Ring = std::vector<int>;
+
+std::shared_ptr<FcIndexedPolygonalFace> face(const Ring& ring) {
+  return make<FcIndexedPolygonalFace>({{"CoordIndex", ring}});
 }
 
-std::shared_ptr<FcIndexedPolygonalFace> faceWithVoids(
-    std::initializer_list<int> ring, std::initializer_list<std::initializer_list<int>> voids) {
-  auto result = make<FcIndexedPolygonalFaceWithVoids>();
-  result->setCoordIndex(positions(ring));
-  std::vector<Positions> inner;
-  for (const auto& hole : voids) inner.push_back(positions(hole));
-  result->setInnerCoordIndices(std::move(inner));
-  return result;
+std::shared_ptr<FcIndexedPolygonalFace> faceWithVoids(const Ring& ring,
+                                                      const std::vector<Ring>& voids) {
+  return make<FcIndexedPolygonalFaceWithVoids>(
+      {{"CoordIndex", ring}, {"InnerCoordIndices", voids}});
 }
 
 /// Six points: the corners of a square from (0, 0) to (1, 1), and two more above it.
@@ -89,12 +85,11 @@ std::shared_ptr<FcTriangulatedFaceSet> triangulated(
 
 /// Red, green and blue, and for each face which of them it has, from 1.
 std::shared_ptr<FcIndexedColourMap> colour(const std::shared_ptr<FcTessellatedFaceSet>& set,
-                                           std::initializer_list<int> colourOfFace) {
-  auto list = make<FcColourRgbList>();
+                                           const std::vector<int>& colourOfFace) {
+  const auto list = make<FcColourRgbList>();
   list->setColourList({{1., 0., 0.}, {0., 1., 0.}, {0., 0., 1.}});
-  auto map = make<FcIndexedColourMap>({{"Colours", list}, {"MappedTo", set}});
-  map->setColourIndex(positions(colourOfFace));
-  return map;
+  return make<FcIndexedColourMap>(
+      {{"Colours", list}, {"MappedTo", set}, {"ColourIndex", colourOfFace}});
 }
 
 std::vector<Indices> outerRings(const PolygonalFaceSetOpenGL& set) {
@@ -170,7 +165,7 @@ TEST(PolygonalFaceSet, ComesInOneSetForEachColourThatIsUsed) {
 
 /// With colours that don't fit, it comes in one part without a colour.
 template <class Set, class Drawn>
-void expectDrawnPlain(const Set& set, const Drawn& whole, std::initializer_list<int> colours,
+void expectDrawnPlain(const Set& set, const Drawn& whole, const std::vector<int>& colours,
                       const std::string& message) {
   const auto map = colour(set, colours);
   const ExpectAsserts expected({message});
