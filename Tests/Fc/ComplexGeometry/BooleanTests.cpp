@@ -29,15 +29,13 @@ const auto kNoItem = std::shared_ptr<FcPolygonalFaceSet>();
 std::shared_ptr<FcPolygonalBoundedHalfSpace> boundedHalfSpace(const math::Point3d& point,
                                                               const math::Vector3d& normal,
                                                               double size) {
-  const auto plain = halfSpace(point, normal);
-  auto solid = std::make_shared<FcPolygonalBoundedHalfSpace>();
-  solid->setBaseSurface(plain->BaseSurface());
-  solid->setPosition(geometry::makePlacement(math::Matrix()));
-  auto boundary = std::make_shared<geometry::FcPolyline>();
+  const auto boundary = test::make<geometry::FcPolyline>();
   boundary->setPoints(std::vector<math::Point2d>{{-1, -1}, {size, -1}, {size, size}, {-1, size}},
                       true);
-  solid->setPolygonalBoundary(boundary);
-  return solid;
+  return test::make<FcPolygonalBoundedHalfSpace>(
+      {{"BaseSurface", halfSpace(point, normal)->BaseSurface()},
+       {"Position", geometry::makePlacement(math::Matrix())},
+       {"PolygonalBoundary", boundary}});
 }
 
 TEST(BooleanResult, HasTheVolumeOfItsOperation) {
@@ -127,36 +125,26 @@ TEST(BooleanResult, ReportsOperandsThatDontFit) {
       {boolean(Operator::UNION, box, space), message("Second", "union")},
   };
   for (const auto& [result, expected] : cases) {
-    {
-      const ExpectAsserts asserts({expected});
-      EXPECT_TRUE(result->ocRepresentation(params()).empty());
-    }
-    const ExpectAsserts asserts({expected});
+    const ExpectAsserts asserts({expected, expected});
+    EXPECT_TRUE(result->ocRepresentation(params()).empty());
     EXPECT_FALSE(result->boundingBox(params()));
   }
 }
 
 TEST(BooleanResult, LeavesTheBodyUncutByAToolThatIsNone) {
   const auto box = boxItem({0, 0, 0}, {1, 1, 1});
-  const auto left = [&](const auto& tool) {
-    return volumeOf(difference(box, tool)->ocRepresentation(params()));
-  };
-  const char* const skipped =
-      "Skipping a ifc clipping operation because the second operand was invalid.";
-  {
-    const ExpectAsserts expected({skipped});
-    EXPECT_NEAR(left(std::make_shared<FcHalfSpaceSolid>()), 1, 1e-9);
-  }
-  {
-    const ExpectAsserts expected(
-        {skipped, "Polygons extrusion direction can't be parallel to the half space surface."});
-    EXPECT_NEAR(left(boundedHalfSpace({0, 0, 0}, {1, 0, 0}, 1)), 1, 1e-9);
-  }
-  {
-    const ExpectAsserts expected(
-        {skipped,
-         "Assertion failed: Tessellated face set must be closed if used in boolean operations"});
-    EXPECT_NEAR(left(boxItem({0, 0, 0}, {1, 1, 0.5}, 1)), 1, 1e-9);
+  const std::pair<std::shared_ptr<geometry::FcRepresentationItem>, const char*> tools[] = {
+      {std::make_shared<FcHalfSpaceSolid>(), nullptr},
+      {boundedHalfSpace({0, 0, 0}, {1, 0, 0}, 1),
+       "Polygons extrusion direction can't be parallel to the half space surface."},
+      {boxItem({0, 0, 0}, {1, 1, 0.5}, 1),
+       "Assertion failed: Tessellated face set must be closed if used in boolean operations"}};
+  for (const auto& [tool, reason] : tools) {
+    std::vector<test::ExpectedAssert> asserts{
+        "Skipping a ifc clipping operation because the second operand was invalid."};
+    if (reason) asserts.emplace_back(reason);
+    const ExpectAsserts expected(asserts);
+    EXPECT_NEAR(volumeOf(difference(box, tool)->ocRepresentation(params())), 1, 1e-9);
   }
 }
 
@@ -224,17 +212,12 @@ TEST(BooleanOperand, TakesTheFirstAlternativeThatTheItemFits) {
 
 TEST(BooleanOperand, ReportsAnAlternativeThatIsntTheOneAskedFor) {
   const FcBooleanOperand box(std::shared_ptr<FcTessellatedFaceSet>(boxItem({0, 0, 0}, {1, 1, 1})));
-  {
-    const ExpectAsserts expected({"Expect operand to be a half space solid."});
-    EXPECT_FALSE(box.HalfSpaceSolidAssert());
-  }
-  {
-    const ExpectAsserts expected({"Expect to have a valid boolean result."});
-    EXPECT_FALSE(FcBooleanOperand(FcBooleanOperand::Types::BooleanResult).BooleanResultAssert());
-  }
   const ExpectAsserts expected(
-      {"Assertion failed: boolean operand not set when requesting as asserted geometric "
+      {"Expect operand to be a half space solid.", "Expect to have a valid boolean result.",
+       "Assertion failed: boolean operand not set when requesting as asserted geometric "
        "representation item"});
+  EXPECT_FALSE(box.HalfSpaceSolidAssert());
+  EXPECT_FALSE(FcBooleanOperand(FcBooleanOperand::Types::BooleanResult).BooleanResultAssert());
   EXPECT_FALSE(FcBooleanOperand().asGeometricRepresentationItemAssert());
 }
 

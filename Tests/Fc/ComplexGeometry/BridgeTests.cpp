@@ -8,26 +8,20 @@
 #include "Fc/ComplexGeometry/FaceSetsFromShapes.h"
 #include "Fc/ComplexGeometry/ocMemoizer.h"
 #include "Fc/HelperFunctionsOC.h"
-#include "Fc/Resource/Geometry/FcCartesianPoint.h"
-#include "Fc/Resource/Topology/FcClosedShell.h"
-#include "Fc/Resource/Topology/FcFace.h"
-#include "Fc/Resource/Topology/FcFaceOuterBound.h"
-#include "Fc/Resource/Topology/FcPolyLoop.h"
 #include "Tests/Fc/ComplexGeometry/Items.h"
 #include "Tests/Fc/ComplexGeometry/ShapeMeasures.h"
+#include "Tests/Fc/Geometry/Faces.h"
 #include "Tests/Support/ExpectAsserts.h"
 #include "Tests/Support/SolidMesh.h"
 
 namespace qor::fc {
 namespace {
 
-using resource::geometry::FcCartesianPoint;
-using resource::topology::FcPolyLoop;
 using test::ExpectAsserts;
 using test::isClosedSolidOfVolume;
 using test::params;
 using test::volumeOf;
-using Points = std::vector<std::shared_ptr<FcCartesianPoint>>;
+using namespace resource::topology;
 
 Points modelPoints(const std::vector<math::Point3d>& places) {
   Points points;
@@ -35,65 +29,43 @@ Points modelPoints(const std::vector<math::Point3d>& places) {
   return points;
 }
 
-std::shared_ptr<FcPolyLoop> loopOf(const Points& points) {
-  auto loop = std::make_shared<FcPolyLoop>();
-  loop->setPolygon(points);
-  return loop;
-}
-
-std::shared_ptr<resource::topology::FcFace> faceOf(const std::shared_ptr<FcPolyLoop>& outer,
-                                                   bool orientation = true) {
-  auto bound = std::make_shared<resource::topology::FcFaceOuterBound>();
-  bound->setBound(outer);
-  bound->setOrientation(orientation);
-  auto face = std::make_shared<resource::topology::FcFace>();
-  face->setBounds({bound});
-  return face;
-}
-
 // A box of polygon faces; each corner is one point, or one for each face when `shared` is false.
-std::shared_ptr<resource::topology::FcClosedShell> boxShell(bool shared, bool inward,
-                                                            std::size_t missing = 0) {
+std::shared_ptr<FcClosedShell> boxShell(bool shared, bool inward, std::size_t missing = 0) {
   const auto places = test::boxCorners({0, 0, 0}, {1, 2, 3});
   const Points corners = modelPoints(places);
-  std::vector<std::shared_ptr<resource::topology::FcFace>> faces;
+  std::vector<std::shared_ptr<FcFace>> faces;
   for (std::size_t i = 0; i + missing < test::boxSides.size(); ++i) {
     Points points;
     for (const std::uint32_t corner : test::boxSides[i])
       points.push_back(shared ? corners[corner] : resource::geometry::makePoint(places[corner]));
-    faces.push_back(faceOf(loopOf(points), !inward));
+    faces.push_back(face({bound(loop(points), !inward)}));
   }
-  auto shell = std::make_shared<resource::topology::FcClosedShell>();
-  shell->setCfsFaces(faces);
-  return shell;
+  return shell<FcClosedShell>(faces);
 }
 
 TEST(OpenCascade, ReportsWhatItThrowsAndWhatItDoesntMake) {
-  {
-    const ExpectAsserts expected({{"failed", "qor::fc::tryOpenCascadeConstruction"}});
-    EXPECT_TRUE(tryOpenCascadeConstruction<TopoDS_Shape>(
-                    []() -> TopoDS_Shape { throw Standard_DivideByZero(); }, "failed", "null")
-                    .IsNull());
-  }
-  {
-    const ExpectAsserts expected({"null"});
-    EXPECT_TRUE(
-        tryOpenCascadeConstruction<TopoDS_Solid>([] { return TopoDS_Solid(); }, "failed", "null")
-            .IsNull());
-  }
+  const ExpectAsserts expected({{"failed", "qor::fc::tryOpenCascadeConstruction"}, "null"});
+  EXPECT_TRUE(tryOpenCascadeConstruction<TopoDS_Shape>(
+                  []() -> TopoDS_Shape { throw Standard_DivideByZero(); }, "failed", "null")
+                  .IsNull());
+  EXPECT_TRUE(
+      tryOpenCascadeConstruction<TopoDS_Solid>([] { return TopoDS_Solid(); }, "failed", "null")
+          .IsNull());
   EXPECT_THROW(tryOpenCascadeConstruction<TopoDS_Shape>(
                    []() -> TopoDS_Shape { throw std::runtime_error("other"); }, "failed", "null"),
                std::runtime_error);
 }
 
 TEST(OpenCascade, MovesScalesAndMirrorsShapesThatStayOutward) {
-  const ExpectAsserts none;
+  const ExpectAsserts expected({"Could not perform OpenCascade Move operation"});
   const auto moved = [](const math::Matrix& matrix) {
     TopoDS_Shape shape = BRepPrimAPI_MakeBox(1, 2, 3).Solid();
     transformOpenCascadeShape(shape, matrix);
     return shape;
   };
   EXPECT_TRUE(moved({}).Location().IsIdentity());
+  const math::Matrix noFrame({0, 0, 0}, {0, 0, 0}, {0, 0, 0}, {1, 0, 0});
+  EXPECT_TRUE(moved(noFrame).Location().IsIdentity());
   const math::Matrix turned =
       math::Matrix::createZRotate(0.3) * math::Matrix::createTranslation({5, 0, 0});
   const struct {
@@ -110,13 +82,6 @@ TEST(OpenCascade, MovesScalesAndMirrorsShapesThatStayOutward) {
     EXPECT_TRUE(isClosedSolidOfVolume(faceSetsFromShapes({shape}, params().curveDiscretization()),
                                       volume, 1e-6));
   }
-}
-
-TEST(OpenCascade, ReportsAFrameThatIsNone) {
-  const ExpectAsserts expected({"Could not perform OpenCascade Move operation"});
-  TopoDS_Shape shape = BRepPrimAPI_MakeBox(1, 2, 3).Solid();
-  transformOpenCascadeShape(shape, math::Matrix({0, 0, 0}, {0, 0, 0}, {0, 0, 0}, {1, 0, 0}));
-  EXPECT_TRUE(shape.Location().IsIdentity());
 }
 
 TEST(OpenCascade, ClosesARingWhetherItsEndIsRepeatedOrNot) {
@@ -167,23 +132,20 @@ TEST(FaceSets, LoseAFaceThatIsOffItsPlane) {
                                         "Could not create opencascade face of FcFace. Its points "
                                         "was probably not on a plane."));
   generate::draw::PolygonalFaceSetOpenGL bent = *item->createQorPolygonalFaceSet();
-  bent.coordinates[7].x += 0.01;
-  bent.coordinates[7].y += 0.01;
-  bent.coordinates[7].z += 0.01;
+  bent.coordinates[7] = bent.coordinates[7] + math::Vector3d(0.01, 0.01, 0.01);
   item = resource::geometricmodel::FcPolygonalFaceSet::fromQorPolygonalFaceSet(bent).first;
   EXPECT_EQ(test::countOf(item->ocRepresentation(params())[0], TopAbs_FACE), 3);
 }
 
 TEST(Shells, BecomeOutwardSolidsHoweverTheirFacesLookAndShareTheirPoints) {
   const ExpectAsserts none;
-  for (const bool shared : {true, false}) {
+  for (const bool shared : {true, false})
     for (const bool inward : {true, false}) {
       const auto shapes = boxShell(shared, inward)->ocRepresentation(params());
       ASSERT_EQ(shapes.size(), 1u);
       EXPECT_EQ(shapes[0].ShapeType(), TopAbs_SOLID);
       EXPECT_NEAR(volumeOf(shapes), 6, 1e-9);
     }
-  }
   const auto open = boxShell(true, false, 1)->ocRepresentation(params());
   ASSERT_EQ(open.size(), 1u);
   EXPECT_EQ(open[0].ShapeType(), TopAbs_SHELL);
@@ -193,8 +155,8 @@ TEST(Memoizer, SharesTheEdgesOfLoopsThatRunAlongThem) {
   const ExpectAsserts none;
   const Points p = modelPoints({{0, 0, 0}, {1, 0, 0}, {1, 1, 0}, {0, 1, 0}});
   ocMemoizer memoizer;
-  const TopoDS_Wire a = memoizer.getWire(*loopOf({p[0], p[1], p[2]}));
-  const TopoDS_Wire b = memoizer.getWire(*loopOf({p[0], p[2], p[2], p[3]}));
+  const TopoDS_Wire a = memoizer.getWire(*loop({p[0], p[1], p[2]}));
+  const TopoDS_Wire b = memoizer.getWire(*loop({p[0], p[2], p[2], p[3]}));
   int common = 0;
   for (TopExp_Explorer i(a, TopAbs_EDGE); i.More(); i.Next()) {
     for (TopExp_Explorer j(b, TopAbs_EDGE); j.More(); j.Next()) {
@@ -215,7 +177,7 @@ TEST(Memoizer, RefusesLoopsThatGoRoundNothing) {
   ocMemoizer memoizer;
   for (const Points& points : {Points{p[0], p[1]}, Points{p[0], p[1], p[0], p[1]},
                                Points{p[0], p[0], p[0]}, Points{p[0], nullptr, p[1]}})
-    EXPECT_TRUE(memoizer.getWire(*loopOf(points)).IsNull());
+    EXPECT_TRUE(memoizer.getWire(*loop(points)).IsNull());
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include "Fc/Resource/Geometry/FcPlane.h"
 #include "Qor/Math/CurveDiscretization.h"
 #include "Qor/Math/Matrix.h"
+#include "Tests/Support/Make.h"
 
 // Items that tests of the solid modeller are made of.
 namespace qor::test {
@@ -53,13 +54,11 @@ inline std::shared_ptr<fc::resource::geometricmodel::FcHalfSpaceSolid> halfSpace
   const math::Vector3d across =
       std::abs(normal.x) < 0.5 ? math::Vector3d(1, 0, 0) : math::Vector3d(0, 1, 0);
   const math::Vector3d x = across.cross(normal).normalized();
-  auto plane = std::make_shared<fc::resource::geometry::FcPlane>();
-  plane->setPosition(
-      fc::resource::geometry::makePlacement(math::Matrix(point, x, normal.normalized())));
-  auto solid = std::make_shared<fc::resource::geometricmodel::FcHalfSpaceSolid>();
-  solid->setBaseSurface(plane);
-  solid->setAgreementFlag(agreement);
-  return solid;
+  const auto position =
+      fc::resource::geometry::makePlacement(math::Matrix(point, x, normal.normalized()));
+  return make<fc::resource::geometricmodel::FcHalfSpaceSolid>(
+      {{"BaseSurface", make<fc::resource::geometry::FcPlane>({{"Position", position}})},
+       {"AgreementFlag", agreement}});
 }
 
 template <class First, class Second>

@@ -248,16 +248,6 @@ class CurrentProcessor : public testing::Test {
   ~CurrentProcessor() override { setCurrentComplexGeometryProcessor(nullptr); }
 };
 
-TEST_F(CurrentProcessor, IsNoneUntilOneIsInstalled) {
-  EXPECT_EQ(getCurrentComplexGeometryProcessor(), nullptr);
-  auto pool = std::make_unique<Pool>(1);
-  const auto* installed = pool.get();
-  setCurrentComplexGeometryProcessor(std::move(pool));
-  EXPECT_EQ(getCurrentComplexGeometryProcessor(), installed);
-  setCurrentComplexGeometryProcessor(nullptr);
-  EXPECT_EQ(getCurrentComplexGeometryProcessor(), nullptr);
-}
-
 TEST_F(CurrentProcessor, WaitsForItsWorkersWhenItIsReplaced) {
   setCurrentComplexGeometryProcessor(std::make_unique<Pool>(2));
   const FcComplexGeometryProcessorQueueContext context;

@@ -19,38 +19,30 @@
 #include "Fc/Shared/BuildingElements/FcDoor.h"
 #include "Fc/Shared/BuildingElements/FcWall.h"
 #include "Fc/SkipAttributeParams.h"
+#include "Tests/Support/Make.h"
 #include "Tests/Support/RandomModel.h"
 
 namespace qor::fc {
 namespace {
 
-using resource::actor::FcActorRole;
-using resource::actor::FcPerson;
+using test::make;
+using namespace resource::actor;
 using resource::geometricconstraint::FcLocalPlacement;
-using resource::geometricmodel::FcBooleanOperand;
-using resource::geometricmodel::FcBooleanResult;
-using resource::geometry::FcCartesianPoint;
-using resource::geometry::FcPolyline;
-using resource::measure::FcLengthMeasure;
-using resource::measure::FcMeasureWithUnit;
-using resource::measure::FcValue;
-using shared::buildingelements::FcDoor;
-using shared::buildingelements::FcWall;
+using namespace resource::geometricmodel;
+using namespace resource::geometry;
+using namespace resource::measure;
+using namespace shared::buildingelements;
 
 std::shared_ptr<FcCartesianPoint> point(double x, double y) {
-  auto result = std::make_shared<FcCartesianPoint>();
-  result->setCoordinates({x, y});
-  return result;
+  return makePoint(math::Point2d(x, y));
 }
 
-std::shared_ptr<FcPolyline> polyline(std::vector<std::shared_ptr<FcCartesianPoint>> points) {
-  auto result = std::make_shared<FcPolyline>();
-  result->setPoints(std::move(points));
-  return result;
+std::shared_ptr<FcPolyline> polyline(const std::vector<std::shared_ptr<FcCartesianPoint>>& points) {
+  return make<FcPolyline>({{"Points", points}});
 }
 
 std::shared_ptr<FcMeasureWithUnit> measure(FcValue value) {
-  auto result = std::make_shared<FcMeasureWithUnit>();
+  auto result = make<FcMeasureWithUnit>();
   result->setValueComponent(std::move(value));
   return result;
 }
@@ -81,21 +73,14 @@ TEST(Comparison, IsAStrictWeakOrderOnEntitiesOfManyClasses) {
 }
 
 TEST(Comparison, OrdersByKindAsStated) {
-  struct Case {
+  const auto named = [](const char* name) { return make<FcPerson>({{"FamilyName", name}}); };
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  const struct {
     const char* what;
     std::shared_ptr<FcBase> less, greater;
-  };
-  auto nobody = std::make_shared<FcPerson>();
-  auto somebody = std::make_shared<FcPerson>();
-  somebody->setFamilyName("");
-  auto umlaut = std::make_shared<FcPerson>();
-  umlaut->setFamilyName("\xC3\x84");
-  auto zed = std::make_shared<FcPerson>();
-  zed->setFamilyName("Z");
-  const double nan = std::numeric_limits<double>::quiet_NaN();
-  const Case cases[] = {
-      {"absent before present", nobody, somebody},
-      {"bytes unsigned", zed, umlaut},
+  } cases[] = {
+      {"absent before present", make<FcPerson>(), named("")},
+      {"bytes unsigned", named("Z"), named("\xC3\x84")},
       {"the shorter list, whatever it holds", polyline({point(9, 9)}),
        polyline({point(0, 0), point(0, 0)})},
       {"the first difference of equally long lists", polyline({point(0, 0), point(9, 9)}),
@@ -110,7 +95,7 @@ TEST(Comparison, OrdersByKindAsStated) {
       {"selects by value then", measure(FcLengthMeasure(1)), measure(FcLengthMeasure(2))},
       {"a set select before none", measure(FcLengthMeasure(1)), measure({})},
   };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     EXPECT_TRUE(c.less->isLessThan(*c.greater)) << c.what;
     EXPECT_FALSE(c.greater->isLessThan(*c.less)) << c.what;
     EXPECT_FALSE(c.less->isEqualTo(*c.greater)) << c.what;
@@ -140,13 +125,9 @@ TEST(Comparison, PassesOverWhatTheSkipFunctionNamesAtAnyDepth) {
 
 TEST(Comparison, ComparesWhatIsSharedManyTimesOverOnce) {
   const auto tower = [] {
-    auto level = std::make_shared<FcBooleanResult>();
-    for (int i = 0; i < 40; ++i) {
-      auto next = std::make_shared<FcBooleanResult>();
-      next->setFirstOperand(FcBooleanOperand(level));
-      next->setSecondOperand(FcBooleanOperand(level));
-      level = next;
-    }
+    auto level = make<FcBooleanResult>();
+    for (int i = 0; i < 40; ++i)
+      level = make<FcBooleanResult>({{"FirstOperand", level}, {"SecondOperand", level}});
     return level;
   };
   EXPECT_TRUE(tower()->isEqualTo(*tower()));
@@ -154,10 +135,8 @@ TEST(Comparison, ComparesWhatIsSharedManyTimesOverOnce) {
 
 TEST(Comparison, EndsOnCyclesAndOnLongChains) {
   const auto ring = [] {
-    auto a = std::make_shared<FcLocalPlacement>();
-    auto b = std::make_shared<FcLocalPlacement>();
+    const auto a = make<FcLocalPlacement>(), b = make<FcLocalPlacement>({{"PlacementRelTo", a}});
     a->setPlacementRelTo(b);
-    b->setPlacementRelTo(a);
     return a;
   };
   const auto one = ring(), two = ring();
@@ -167,12 +146,8 @@ TEST(Comparison, EndsOnCyclesAndOnLongChains) {
   two->clearPlacementRelTo();
 
   const auto chain = [] {
-    std::shared_ptr<FcBase> last;
-    for (int i = 0; i < 200000; ++i) {
-      auto next = FcLocalPlacement::info().create();
-      if (last) next->setLocalValue(LocalValue(last), object::PropertyId("PlacementRelTo"));
-      last = next;
-    }
+    auto last = make<FcLocalPlacement>();
+    for (int i = 0; i < 200000; ++i) last = make<FcLocalPlacement>({{"PlacementRelTo", last}});
     return last;
   };
   EXPECT_TRUE(chain()->isEqualTo(*chain()));

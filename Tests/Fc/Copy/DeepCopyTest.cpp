@@ -1,8 +1,9 @@
 #include <gtest/gtest.h>
 
 #include "Fc/Core/Kernel/FcRelDefinesByType.h"
-#include "Fc/Data.h"
 #include "Fc/FcCopySettings.h"
+#include "Fc/Resource/Actor/FcPerson.h"
+#include "Fc/Resource/Actor/FcPostalAddress.h"
 #include "Fc/Resource/GeometricConstraint/FcLocalPlacement.h"
 #include "Fc/Resource/GeometricModel/FcTriangulatedFaceSet.h"
 #include "Fc/Resource/PresentationAppearance/FcIndexedTriangleTextureMap.h"
@@ -12,27 +13,27 @@
 #include "Fc/Resource/Utility/FcOwnerHistory.h"
 #include "Fc/Shared/BuildingElements/FcWall.h"
 #include "Fc/Shared/BuildingElements/FcWallType.h"
+#include "Fc/ValueAttributes.h"
+#include "Tests/Support/Make.h"
 #include "Tests/Support/RandomModel.h"
 
 namespace qor::fc {
 namespace {
 
+using namespace resource::actor;
 using core::kernel::FcRelDefinesByType;
 using resource::geometricconstraint::FcLocalPlacement;
 using resource::geometricmodel::FcTriangulatedFaceSet;
-using resource::presentationappearance::FcIndexedTriangleTextureMap;
-using resource::presentationappearance::FcStyledItem;
-using resource::representation::FcGeometricRepresentationContext;
-using resource::representation::FcShapeRepresentation;
+using test::make;
+using namespace resource::presentationappearance;
+using namespace resource::representation;
 using resource::utility::FcOwnerHistory;
-using shared::buildingelements::FcWall;
-using shared::buildingelements::FcWallType;
+using namespace shared::buildingelements;
 
 std::shared_ptr<FcWall> placedWall() {
-  auto wall = std::make_shared<FcWall>();
+  auto wall = make<FcWall>(
+      {{"ObjectPlacement", make<FcLocalPlacement>()}, {"OwnerHistory", make<FcOwnerHistory>()}});
   wall->setGuid(Guid::generate());
-  wall->setObjectPlacement(std::make_shared<FcLocalPlacement>());
-  wall->setOwnerHistory(std::make_shared<FcOwnerHistory>());
   return wall;
 }
 
@@ -79,10 +80,8 @@ TEST(DeepCopy, GivesNewGuidsInARunAndCopiesWhatIsSharedOnce) {
 }
 
 TEST(DeepCopy, EndsOnACycleWithTheSameCycle) {
-  auto a = std::make_shared<FcLocalPlacement>();
-  auto b = std::make_shared<FcLocalPlacement>();
+  const auto a = make<FcLocalPlacement>(), b = make<FcLocalPlacement>({{"PlacementRelTo", a}});
   a->setPlacementRelTo(b);
-  b->setPlacementRelTo(a);
   const auto copy = fcCast<FcLocalPlacement>(a->deepCopy());
   EXPECT_EQ(fcCast<FcLocalPlacement>(copy->PlacementRelTo())->PlacementRelTo(), copy);
   copy->clearPlacementRelTo();
@@ -113,11 +112,9 @@ TEST(DeepCopy, MakesAnotherCopyWhereReuseIsRefused) {
 }
 
 TEST(DeepCopy, ListsCopiesInTheTargetWithStylesAndTexturesWhenTheRunEnds) {
-  auto faceSet = std::make_shared<FcTriangulatedFaceSet>();
-  auto style = std::make_shared<FcStyledItem>();
-  style->setItem(faceSet);
-  auto texture = std::make_shared<FcIndexedTriangleTextureMap>();
-  texture->setMappedTo(faceSet);
+  const auto faceSet = make<FcTriangulatedFaceSet>();
+  const auto style = make<FcStyledItem>({{"Item", faceSet}});
+  const auto texture = make<FcIndexedTriangleTextureMap>({{"MappedTo", faceSet}});
   const auto target = std::make_shared<Data>();
   {
     FcCopySettings settings;
@@ -136,9 +133,7 @@ TEST(DeepCopy, ListsCopiesInTheTargetWithStylesAndTexturesWhenTheRunEnds) {
 TEST(DeepCopy, ResolvesAnEqualContextToThatOfTheTarget) {
   const auto source = std::make_shared<Data>(), target = std::make_shared<Data>();
   const auto context = [](Data& data, const char* type) {
-    auto result = data.create<FcGeometricRepresentationContext>();
-    result->setContextType(type);
-    return result;
+    return make<FcGeometricRepresentationContext>(data, {{"ContextType", type}});
   };
   const auto plan = context(*source, "Plan"), model = context(*source, "Model");
   const auto known = context(*target, "Model");
@@ -150,6 +145,29 @@ TEST(DeepCopy, ResolvesAnEqualContextToThatOfTheTarget) {
   EXPECT_EQ(fcCast<FcShapeRepresentation>(shape->deepCopy(settings))->ContextOfItems(), known);
   EXPECT_EQ(target->entities<FcGeometricRepresentationContext>().size(), 1U);
   EXPECT_NE(plan->deepCopy(settings), known);
+}
+
+TEST(ShallowCopy, HasTheValuesAndNoReferences) {
+  const auto person = make<FcPerson>(
+      {{"FamilyName", "Noether"}, {"Addresses", std::vector{make<FcPostalAddress>()}}});
+  const auto copy = fcCast<FcPerson>(person->shallowCopy());
+  EXPECT_EQ(copy->FamilyName(), "Noether");
+  EXPECT_FALSE(copy->Addresses().has_value());
+}
+
+TEST(ValueAttributes, AreCopiedWithTheGuidAndWithWhatIsAbsent) {
+  auto source = std::make_shared<FcWall>();
+  source->setGuid(Guid::generate());
+  source->setPredefinedType(FcWallTypeEnum::SOLIDWALL);
+  const auto target =
+      make<FcWall>({{"Name", "old"}, {"ObjectPlacement", make<FcLocalPlacement>()}});
+  mergeValueAttributes(*target, *source);
+  EXPECT_EQ(target->Name(), "old");
+  EXPECT_EQ(target->GlobalId(), source->GlobalId());
+  copyValueAttributes(*target, *source);
+  EXPECT_FALSE(target->Name().has_value());
+  EXPECT_EQ(target->PredefinedType(), source->PredefinedType());
+  EXPECT_NE(target->ObjectPlacement(), nullptr);
 }
 
 TEST(Model, LetsGoOfALongChainWithoutExhaustingTheStack) {

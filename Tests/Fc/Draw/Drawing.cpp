@@ -12,11 +12,9 @@
 namespace qor::test {
 
 using namespace fc::resource::geometry;
-using fc::core::productextension::FcBuildingStorey;
-using fc::core::productextension::FcRelContainedInSpatialStructure;
+using namespace fc::core::productextension;
 using fc::resource::geometricconstraint::FcLocalPlacement;
-using fc::resource::representation::FcProductDefinitionShape;
-using fc::resource::representation::FcShapeRepresentation;
+using namespace fc::resource::representation;
 
 SmallModel::SmallModel() {
   project = make<fc::core::kernel::FcProject>("Project");

@@ -6,10 +6,8 @@
 #include "Fc/FcDrawInterfaceWrapper.h"
 #include "Fc/FcParams.h"
 #include "Fc/NotImplemented.h"
-#include "Fc/Resource/GeometricModel/FcAdvancedBrepWithVoids.h"
 #include "Fc/Resource/GeometricModel/FcBooleanClippingResult.h"
 #include "Fc/Resource/GeometricModel/FcBoundingBox.h"
-#include "Fc/Resource/GeometricModel/FcCsgSolid.h"
 #include "Fc/Resource/GeometricModel/FcExtrudedAreaSolidTapered.h"
 #include "Fc/Resource/GeometricModel/FcGeometricCurveSet.h"
 #include "Fc/Resource/GeometricModel/FcSectionedSurface.h"
@@ -22,18 +20,18 @@
 #include "Fc/Utilities/DrawForDebug.h"
 #include "Tests/Fc/Draw/Drawing.h"
 #include "Tests/Support/ExpectAsserts.h"
+#include "Tests/Support/Make.h"
 
 namespace qor::fc {
 namespace {
 
 using namespace resource::geometricmodel;
 using namespace resource::geometry;
-using math::CurveDiscretization;
-using math::Extent;
-using math::Matrix;
+using namespace math;
 using resource::presentationdefinition::FcTextLiteralWithExtent;
 using test::drawn;
 using test::ExpectAsserts;
+using test::make;
 using test::shapesOf;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -45,10 +43,8 @@ class Items : public testing::Test {
  protected:
   std::shared_ptr<FcMappedItem> moved(const test::SmallModel::Map& map, double x) {
     auto item = model.mapped(map);
-    auto place = model.make<FcCartesianTransformationOperator3D>();
-    place->setLocalOrigin(makePoint(math::Point3d(x, 0, 0)));
-    place->setScale(2.0);
-    item->setMappingTarget(place);
+    item->setMappingTarget(make<FcCartesianTransformationOperator3D>(
+        {{"LocalOrigin", makePoint(math::Point3d(x, 0, 0))}, {"Scale", 2}}));
     return item;
   }
 
@@ -80,19 +76,11 @@ TEST_F(Items, CutAMapThatLiesWithinItself) {
   const auto first = model.mapped(map), second = model.mapped(map);
   map->MappedRepresentation()->setItems({model.line(), first, second, model.line(2)});
   const auto outer = model.mapped(map);
-  {
-    const ExpectAsserts expected({circular, circular});
-    EXPECT_THAT(shapesOf(drawn(outer)),
-                ElementsAre("polyline (0 0 0) (1 0 0)", "polyline (2 0 0) (3 0 0)"));
-  }
-  {
-    const ExpectAsserts expected({circular, circular});
-    EXPECT_EQ(drawn(first).size(), 3U);  // the same again: no flag stays behind
-  }
-  {
-    const ExpectAsserts expected({circular});
-    EXPECT_EQ(outer->boundingBox(fine), std::nullopt);
-  }
+  const ExpectAsserts expected({circular, circular, circular, circular, circular});
+  EXPECT_THAT(shapesOf(drawn(outer)),
+              ElementsAre("polyline (0 0 0) (1 0 0)", "polyline (2 0 0) (3 0 0)"));
+  EXPECT_EQ(drawn(first).size(), 3U) << "the same again: no flag stays behind";
+  EXPECT_EQ(outer->boundingBox(fine), std::nullopt);
   map->MappedRepresentation()->setItems({});  // a circle would own itself for ever
 }
 
@@ -101,41 +89,6 @@ TEST_F(Items, CutMapsThatLieTooDeepInEachOther) {
   for (int i = 0; i < 100000; ++i) item = model.mapped(model.map({model.line(i), item}));
   const ExpectAsserts expected({circular});
   EXPECT_EQ(shapesOf(drawn(item)).size(), 256U);
-}
-
-TEST_F(Items, StandForWhatTheyConsistOf) {
-  const auto set = model.make<FcGeometricCurveSet>();
-  set->setElements(
-      {FcGeometricSetSelect(std::static_pointer_cast<FcCurve>(model.line())),
-       FcGeometricSetSelect(),
-       FcGeometricSetSelect(std::shared_ptr<FcPoint>(makePoint(math::Point3d(7, 8, 9))))});
-  set->transform(Matrix::createTranslation({0, 0, 1}));
-  EXPECT_THAT(shapesOf(drawn(set)), ElementsAre("polyline (0 0 1) (1 0 1)", "polyline (7 8 10)"));
-  EXPECT_EQ(set->boundingBox(fine), Extent({0, 0, 1}, {7, 8, 10}));
-
-  const auto text = model.make<FcTextLiteralWithExtent>();
-  text->setLiteral("Room 12");
-  text->setPlacement(std::make_shared<FcAxis2Placement3D>(Matrix::createTranslation({1, 2, 3})));
-  text->transform(Matrix::createTranslation({1, 0, 0}));
-  EXPECT_THAT(shapesOf(drawn(text)), ElementsAre("text Room 12 (2 2 3)"));
-
-  const auto box = model.make<FcBoundingBox>();
-  box->setCorner(makePoint(math::Point3d(1, 1, 1)));
-  box->setXDim(2.0);
-  box->setYDim(3.0);
-  box->setZDim(4.0);
-  box->transform(Matrix::createZRotate(std::acos(-1) / 2));
-  EXPECT_THAT(shapesOf(drawn(box)), IsEmpty());
-  const auto turned = box->boundingBox(fine);
-  ASSERT_TRUE(turned);
-  EXPECT_NEAR(turned->minimum().x, -4, 1e-12);
-  EXPECT_NEAR(turned->maximum().y, 3, 1e-12);
-
-  const ExpectAsserts expected(
-      {"Not implemented for FcAdvancedBrepWithVoids, voids will not be drawn",
-       "Outer should exist"});
-  EXPECT_THAT(shapesOf(drawn(model.make<FcAdvancedBrepWithVoids>())), IsEmpty());
-  EXPECT_THAT(shapesOf(drawn(model.make<FcCsgSolid>())), IsEmpty());
 }
 
 // Every class of items can be asked everything while it is empty, and every base form names it.
@@ -171,23 +124,25 @@ TEST(ItemNames, AreThoseOfTheClassesInTheSource) {
 }
 
 TEST(Representations, SayWhatTheirItemsAre) {
-  const auto numbers = [](const FcRepresentationItem& item) {
-    const auto found = item.representationGet();
-    return found.empty()
-               ? std::pair(-1, -1)
-               : std::pair(static_cast<int>(*found.identifier), static_cast<int>(*found.type));
-  };
-  EXPECT_EQ(numbers(FcCartesianPoint()), std::pair(2, 1));
-  EXPECT_EQ(numbers(FcPolyline()), std::pair(2, 3));
-  EXPECT_EQ(numbers(FcGeometricSet()), std::pair(2, 12));
-  EXPECT_EQ(numbers(FcGeometricCurveSet()), std::pair(2, 13));
-  EXPECT_EQ(numbers(FcTriangulatedIrregularNetwork()), std::pair(7, 16));
-  EXPECT_EQ(numbers(FcExtrudedAreaSolid()), std::pair(7, 18));
-  EXPECT_EQ(numbers(FcExtrudedAreaSolidTapered()), std::pair(7, 19));
-  EXPECT_EQ(numbers(FcBooleanClippingResult()), std::pair(7, 22));
-  EXPECT_EQ(numbers(resource::presentationorganization::FcLightSourceSpot()), std::pair(10, 26));
-  EXPECT_EQ(numbers(FcMappedItem()), std::pair(7, 27));
-  EXPECT_EQ(numbers(FcBoundingBox()), std::pair(-1, -1));
+  const struct {
+    std::shared_ptr<FcRepresentationItem> item;
+    int identifier, type;
+  } cases[] = {{make<FcCartesianPoint>(), 2, 1},
+               {make<FcPolyline>(), 2, 3},
+               {make<FcGeometricSet>(), 2, 12},
+               {make<FcGeometricCurveSet>(), 2, 13},
+               {make<FcTriangulatedIrregularNetwork>(), 7, 16},
+               {make<FcExtrudedAreaSolid>(), 7, 18},
+               {make<FcExtrudedAreaSolidTapered>(), 7, 19},
+               {make<FcBooleanClippingResult>(), 7, 22},
+               {make<resource::presentationorganization::FcLightSourceSpot>(), 10, 26},
+               {make<FcMappedItem>(), 7, 27}};
+  for (const auto& [item, identifier, type] : cases) {
+    const auto found = item->representationGet();
+    EXPECT_EQ(static_cast<int>(found.identifier.value()), identifier) << item->ifcName();
+    EXPECT_EQ(static_cast<int>(found.type.value()), type) << item->ifcName();
+  }
+  EXPECT_TRUE(FcBoundingBox().representationGet().empty());
 }
 
 TEST_F(Items, UniteTheirBoxesUnlessOneHasNone) {
@@ -250,12 +205,14 @@ TEST(Parameters, OfAHostsOwnWrapperAreThoseOfTheTarget) {
   EXPECT_EQ(FcParams(FcDrawParams(wrapper)).curveDiscretization().maxSegmentsOfFullCircle(), 7U);
 }
 
-TEST_F(Items, HandAPolylineThroughTheWrapperAsItIs) {
+TEST_F(Items, HandPolylinesAndTextsThroughTheWrapperAsTheyAre) {
   test::RecordingTarget target;
   FcDrawInterfaceWrapper wrapper(target);
   const std::vector<math::Point3d> points(1000000);
   wrapper.vPolyline(points);
   EXPECT_EQ(target.lastPoints, points.data());
+  wrapper.vTextLiteral("Room 12", 7);
+  EXPECT_THAT(target.callsOf("text"), ElementsAre("text Room 12 (0 0 0)"));
 }
 
 TEST_F(Items, ShowForDebuggingWhatHasSomethingToShow) {

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "Fc/Document/Document.h"
 #include "Fc/Resource/Geometry/FcCartesianTransformationOperator2D.h"
 #include "Fc/Resource/PresentationAppearance/FcBlobTexture.h"
 #include "Fc/Resource/PresentationAppearance/FcColourRgb.h"
@@ -14,6 +15,7 @@
 #include "Fc/Resource/PresentationAppearance/FcTextStyle.h"
 #include "Tests/Fc/Draw/Drawing.h"
 #include "Tests/Support/ExpectAsserts.h"
+#include "Tests/Support/Make.h"
 
 namespace qor::fc {
 namespace {
@@ -21,6 +23,7 @@ namespace {
 using namespace resource::presentationappearance;
 using generate::draw::Color;
 using test::ExpectAsserts;
+using test::make;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -29,41 +32,31 @@ class Styles : public testing::Test {
   using Item = test::SmallModel::Item;
 
   std::shared_ptr<FcColourRgb> colour(double red, double green, double blue) {
-    auto colour = model.data->create<FcColourRgb>();
-    colour->setRed(red);
-    colour->setGreen(green);
-    colour->setBlue(blue);
-    return colour;
+    return make<FcColourRgb>({{"Red", red}, {"Green", green}, {"Blue", blue}});
   }
   std::shared_ptr<FcSurfaceStyle> surface(std::vector<FcSurfaceStyleElementSelect> elements) {
-    auto style = model.data->create<FcSurfaceStyle>();
+    auto style = make<FcSurfaceStyle>();
     style->setStyles(std::move(elements));
     return style;
   }
   std::shared_ptr<FcSurfaceStyleShading> shading(double red) {
-    auto shading = model.data->create<FcSurfaceStyleShading>();
-    shading->setSurfaceColour(colour(red, 0, 0));
-    return shading;
+    return make<FcSurfaceStyleShading>({{"SurfaceColour", colour(red, 0, 0)}});
   }
   std::shared_ptr<FcCurveStyle> curve(double blue) {
-    auto style = model.data->create<FcCurveStyle>();
-    style->setCurveColour(std::shared_ptr<FcColourSpecification>(colour(0, 0, blue)));
-    return style;
+    return make<FcCurveStyle>({{"CurveColour", colour(0, 0, blue)}});
   }
-  Item styled(std::vector<std::shared_ptr<FcPresentationStyle>> styles) {
+  Item styled(const std::vector<std::shared_ptr<FcPresentationStyle>>& styles) {
     auto item = model.line();
     auto styledItem = model.data->create<FcStyledItem>();
-    styledItem->setStyles(std::move(styles));
+    styledItem->setStyles(styles);
     styledItem->setItem(item);
     return item;
   }
   std::vector<std::string> materials(const std::vector<Item>& items) {
     model.give(*model.storey, {model.shape("Body", items)});
-    const auto calls = test::drawn(model);
-    std::vector<std::string> found;
-    for (const auto& call : calls)
-      if (call.rfind("material", 0) == 0) found.push_back(call);
-    return found;
+    test::RecordingTarget target;
+    document::Document(model.data).generate(target);
+    return target.callsOf("material");
   }
 
   test::SmallModel model;
@@ -71,7 +64,7 @@ class Styles : public testing::Test {
 
 TEST_F(Styles, OfSeveralOfAKindTheLastCountsAndSurfacesBeforeCurves) {
   EXPECT_THAT(materials({styled({curve(1), surface({shading(0.25), shading(0.5)}), nullptr}),
-                         styled({curve(1), model.data->create<FcTextStyle>(), curve(0.5)})}),
+                         styled({curve(1), make<FcTextStyle>(), curve(0.5)})}),
               ElementsAre("material 0.5 0 0", "material 0 0 0.5"));
 }
 
@@ -95,11 +88,10 @@ TEST_F(Styles, BecomeOneMaterialEachHoweverOftenTheyAreUsed) {
 }
 
 TEST_F(Styles, RenderingsGiveTheirFurtherColours) {
-  const auto rendering = model.data->create<FcSurfaceStyleRendering>();
-  rendering->setSurfaceColour(colour(0.5, 1, 0));
-  rendering->setTransparency(0.25);
+  const auto rendering = make<FcSurfaceStyleRendering>({{"SurfaceColour", colour(0.5, 1, 0)},
+                                                        {"SpecularColour", colour(1, 1, 1)},
+                                                        {"Transparency", 0.25}});
   rendering->setDiffuseColour(resource::measure::FcNormalisedRatioMeasure(0.5));
-  rendering->setSpecularColour(colour(1, 1, 1));
   rendering->setSpecularHighlight(FcSpecularExponent(12));
   const auto material = rendering->getMaterial();
   EXPECT_EQ(material->getSurfaceColor(), Color(0.5F, 1, 0));
@@ -118,19 +110,13 @@ TEST_F(Styles, RenderingsGiveTheirFurtherColours) {
 }
 
 TEST_F(Styles, TexturesGiveTheirImages) {
-  const auto image = model.data->create<FcImageTexture>();
-  image->setURLReference("brick.png");
-  image->setRepeatS(true);
-  image->setRepeatT(false);
-  const auto blob = model.data->create<FcBlobTexture>();
-  blob->setRasterFormat("PNG");
+  const auto image =
+      make<FcImageTexture>({{"URLReference", "brick.png"}, {"RepeatS", true}, {"RepeatT", false}});
+  const auto blob = make<FcBlobTexture>({{"RasterFormat", "PNG"}});
   blob->setRasterCode({1, 2, 3});
-  const auto pixels = model.data->create<FcPixelTexture>();
-  pixels->setWidth(2);
-  pixels->setHeight(1);
-  pixels->setColourComponents(3);
+  const auto pixels = make<FcPixelTexture>({{"Width", 2}, {"Height", 1}, {"ColourComponents", 3}});
   pixels->setPixel({{1, 2, 3}, {4, 5, 6}});
-  const auto textures = model.data->create<FcSurfaceStyleWithTextures>();
+  const auto textures = make<FcSurfaceStyleWithTextures>();
   textures->setTextures({image, nullptr, blob, pixels});
   test::RecordingTarget target;
   test::drawn(styled({surface({shading(1), textures})}), target);

@@ -22,26 +22,17 @@
 #include "Fc/Shared/BuildingServiceElements/FcDistributionPort.h"
 #include "Tests/Fc/Draw/Drawing.h"
 #include "Tests/Support/ExpectAsserts.h"
+#include "Tests/Support/Make.h"
 
 namespace qor::fc {
 namespace {
 
-using core::kernel::FcProduct;
-using core::kernel::FcProjectLibrary;
-using core::kernel::FcRelAggregates;
-using core::kernel::FcRelDeclares;
-using core::kernel::FcRoot;
-using core::productextension::FcOpeningElement;
-using core::productextension::FcRelReferencedInSpatialStructure;
-using core::productextension::FcRelSpaceBoundary;
-using core::productextension::FcRelVoidsElement;
-using core::productextension::FcSpace;
+using namespace core::kernel;
+using namespace core::productextension;
 using math::Matrix;
 using resource::presentationorganization::FcPresentationLayerAssignment;
-using resource::representation::FcGeometricRepresentationContext;
-using resource::representation::FcRepresentation;
-using shared::buildingelements::FcWall;
-using shared::buildingelements::FcWallType;
+using namespace resource::representation;
+using namespace shared::buildingelements;
 using shared::buildingserviceelements::FcDistributionPort;
 using test::drawn;
 using test::ExpectAsserts;
@@ -190,10 +181,9 @@ TEST_F(Walk, AsksForContextsAndRepresentations) {
   std::vector<test::SmallModel::Shape> shapes;
   for (const auto& [identifier, type, x] :
        {std::tuple{"Axis", "Plan", 1}, {"Body", "Plan", 2}, {"Body", "Model", 3}}) {
-    auto context = model.make<FcGeometricRepresentationContext>();
-    context->setContextType(type);
     shapes.push_back(model.shape(identifier, {model.line(x)}));
-    shapes.back()->setContextOfItems(context);
+    shapes.back()->setContextOfItems(
+        test::make<FcGeometricRepresentationContext>({{"ContextType", type}}));
   }
   shapes.push_back(model.shape("Body", {model.line(4)}));
   model.give(*wall, shapes);
@@ -231,21 +221,18 @@ TEST_F(Walk, DrawsBoundariesInTheFrameOfTheirSpace) {
   const auto space = model.make<FcSpace>("Room");
   model.storey->aggregatesConnect(*model.data, space);
   model.place(*space, Matrix::createTranslation({10, 0, 0}));
-  const auto geometry = model.make<resource::geometricconstraint::FcConnectionPointGeometry>();
-  geometry->setPointOnRelatingElement(std::shared_ptr<resource::geometry::FcPoint>(
-      resource::geometry::makePoint(math::Point3d(1, 2, 3))));
-  const auto boundary = model.make<FcRelSpaceBoundary>("Boundary");
-  boundary->setRelatingSpace(space);
-  boundary->setConnectionGeometry(geometry);
+  const auto geometry = test::make<resource::geometricconstraint::FcConnectionPointGeometry>(
+      {{"PointOnRelatingElement", resource::geometry::makePoint(math::Point3d(1, 2, 3))}});
+  test::give(*model.make<FcRelSpaceBoundary>("Boundary"),
+             {{"RelatingSpace", space}, {"ConnectionGeometry", geometry}});
   EXPECT_THAT(shapesOf(drawn(model)), ElementsAre("polyline (11 2 3)"));
 }
 
 TEST_F(Walk, DrawsTheOneTypeThatItIsFor) {
   const auto library = model.make<FcProjectLibrary>("Library");
   const auto declare = [&](auto& context, const auto& what) {
-    const auto relation = model.make<FcRelDeclares>();
-    relation->setRelatingContext(context);
-    relation->setRelatedDefinitions({std::shared_ptr<core::kernel::FcObjectDefinition>(what)});
+    test::give(*model.make<FcRelDeclares>(),
+               {{"RelatingContext", context}, {"RelatedDefinitions", std::vector{what}}});
   };
   declare(model.project, library);
   for (const int x : {1, 2}) {
@@ -302,14 +289,12 @@ TEST_F(Walk, GoesAsDeepAsAModelDoes) {
   std::shared_ptr<core::kernel::FcObjectDefinition> whole = model.storey;
   for (int level = 0; level < 100000; ++level) {
     auto part = model.make<FcWall>();
-    const auto relation = model.make<FcRelAggregates>();
-    relation->setRelatingObject(whole);
-    relation->setRelatedObjects({part});
-    if (level % 1000 == 0) {
-      const auto hole = model.make<FcRelVoidsElement>();
-      hole->setRelatingBuildingElement(part);
-      hole->setRelatedOpeningElement(model.make<FcOpeningElement>());
-    }
+    test::give(*model.make<FcRelAggregates>(),
+               {{"RelatingObject", whole}, {"RelatedObjects", std::vector{part}}});
+    if (level % 1000 == 0)
+      test::give(*model.make<FcRelVoidsElement>(),
+                 {{"RelatingBuildingElement", part},
+                  {"RelatedOpeningElement", model.make<FcOpeningElement>()}});
     whole = part;
   }
   walk(params());

@@ -3,13 +3,9 @@
 #include <cmath>
 #include <numbers>
 
-#include "Fc/Resource/Geometry/FcCircle.h"
 #include "Fc/Resource/Geometry/FcClothoid.h"
 #include "Fc/Resource/Geometry/FcCurveSegment.h"
 #include "Fc/Resource/Geometry/FcGradientCurve.h"
-#include "Fc/Resource/Geometry/FcLine.h"
-#include "Fc/Resource/Geometry/FcSegmentedReferenceCurve.h"
-#include "Fc/Resource/Geometry/FcVector.h"
 #include "Fc/Resource/Geometry/GradientPath.h"
 #include "Fc/Resource/Geometry/TurningPath.h"
 #include "Items.h"
@@ -18,10 +14,7 @@
 namespace qor::fc::resource::geometry {
 namespace {
 
-using math::Matrix;
-using math::Point2d;
-using math::Point3d;
-using math::Vector3d;
+using namespace math;
 using std::numbers::pi;
 using test::ExpectAsserts;
 
@@ -70,37 +63,25 @@ TEST(GradientPath, GivesHeightsToAPathByItsLength) {
   EXPECT_TRUE(gradientPath(path, 20, {{30, 1, 0}, {40, 1, 0}}).empty());
 }
 
-std::shared_ptr<FcCurveSegment> segment(std::shared_ptr<FcCurve> parent, const Point2d& start,
-                                        const math::Vector2d& direction, double length) {
-  auto result = std::make_shared<FcCurveSegment>();
-  result->setParentCurve(std::move(parent));
-  result->setPlacement(
-      makePlacement(Matrix({start.x, start.y, 0}, {direction.x, direction.y, 0}, {0, 0, 1})));
+std::shared_ptr<FcCurveSegment> segment(const std::shared_ptr<FcCurve>& parent,
+                                        const Point2d& start, const math::Vector2d& direction,
+                                        double length) {
+  const auto placement =
+      makePlacement(Matrix({start.x, start.y, 0}, {direction.x, direction.y, 0}, {0, 0, 1}));
+  auto result = test::make<FcCurveSegment>({{"ParentCurve", parent}, {"Placement", placement}});
   result->setSegmentStart(FcCurveMeasureSelect(measure::FcLengthMeasure(0)));
   result->setSegmentLength(FcCurveMeasureSelect(measure::FcLengthMeasure(length)));
-  return result;
-}
-
-std::shared_ptr<FcLine> line() {
-  auto result = std::make_shared<FcLine>();
-  auto dir = std::make_shared<FcVector>();
-  dir->setVector({1, 0, 0}, 2);
-  result->setPnt(makePoint(Point2d()));
-  result->setDir(dir);
   return result;
 }
 
 /// A straight, a clothoid into a right bend, the bend, and the end, as a real alignment has them.
 template <typename Curve>
 std::shared_ptr<Curve> alignment() {
-  auto clothoid = std::make_shared<FcClothoid>();
-  clothoid->setClothoidConstant(-273.861278752584);
-  auto circle = std::make_shared<FcCircle>();
-  circle->setRadius(500.000000000002);
+  const auto clothoid = test::make<FcClothoid>({{"ClothoidConstant", -273.861278752584}});
   auto result = std::make_shared<Curve>();
-  result->pushBackSegments(segment(line(), {0, 0}, {1, 0}, 400));
+  result->pushBackSegments(segment(line({}, {2, 0, 0}), {0, 0}, {1, 0}, 400));
   result->pushBackSegments(segment(clothoid, {400, 0}, {1, 0}, 150));
-  result->pushBackSegments(segment(circle, {549.662851380011, -7.48795505445},
+  result->pushBackSegments(segment(circle(500.000000000002), {549.662851380011, -7.48795505445},
                                    {0.988771077936042, -0.149438132473604}, -400));
   return result;
 }
@@ -108,12 +89,10 @@ std::shared_ptr<Curve> alignment() {
 TEST(CurveSegment, BeginsWhereTheOneBeforeEnds) {
   const auto curve = alignment<FcCompositeCurve>();
   const ExpectAsserts none;  // so they join end to end
-  const auto points = curve->curveGet(params, {}, {}, false);
+  const auto points = pointsOf(*curve);
   ASSERT_GT(points.size(), 10u);
   EXPECT_TRUE(curve->is2d());
-  double length = 0;
-  for (std::size_t i = 1; i < points.size(); ++i) length += points[i].distance(points[i - 1]);
-  EXPECT_NEAR(length, 950, 0.15);  // 400 m round the bend in segments of five degrees
+  EXPECT_NEAR(lengthOf(points), 950, 0.15);  // 400 m round the bend in segments of five degrees
   EXPECT_EQ(curve->curve2d(params, {}, {}, false)->size(), points.size());
   const math::Vector2d radius(-0.149438132473604, -0.988771077936042);
   const Point2d center = Point2d(549.662851380011, -7.48795505445) + radius * 500;
@@ -121,13 +100,12 @@ TEST(CurveSegment, BeginsWhereTheOneBeforeEnds) {
 }
 
 TEST(CurveSegment, TakesParametersOfItsParent) {
-  auto circle = std::make_shared<FcCircle>();
-  circle->setRadius(2);
-  const auto quarter = segment(circle, {0, 0}, {1, 0}, 0);
+  const auto parent = circle(2);
+  const auto quarter = segment(parent, {0, 0}, {1, 0}, 0);
   quarter->setSegmentLength(FcCurveMeasureSelect(measure::FcParameterValue(pi / 2)));
   EXPECT_LT(quarter->curve(params).back().distance({2, 2, 0}), 1e-12);
   EXPECT_DOUBLE_EQ(*quarter->length(), pi);
-  circle->setRadius(0);
+  parent->setRadius(0);
   const ExpectAsserts expected(
       {"FcSegment::curve is not implemented for class "
        "qor::fc::resource::geometry::FcCurveSegment"});
@@ -137,29 +115,21 @@ TEST(CurveSegment, TakesParametersOfItsParent) {
 TEST(GradientCurve, LiftsItsBaseCurve) {
   auto gradient = std::make_shared<FcGradientCurve>();
   const double slope = -0.01, run = std::sqrt(1 - slope * slope);
-  gradient->pushBackSegments(segment(line(), {0, 150}, {run, slope}, 950 / run));
+  gradient->pushBackSegments(segment(line({}, {2, 0, 0}), {0, 150}, {run, slope}, 950 / run));
   {
     const ExpectAsserts expected({"FcGradientCurve::BaseCurve is required"});
-    EXPECT_TRUE(gradient->curveGet(params, {}, {}, false).empty());
+    EXPECT_TRUE(pointsOf(*gradient).empty());
   }
   const auto base = alignment<FcCompositeCurve>();
   gradient->setBaseCurve(base);
-  const auto points = gradient->curveGet(params, {}, {}, false);
-  const auto plan = base->curveGet(params, {}, {}, false);
+  const auto points = pointsOf(*gradient);
+  const auto plan = pointsOf(*base);
   ASSERT_EQ(points.size(), plan.size());
   for (std::size_t i = 0; i < points.size(); ++i)
     EXPECT_LT(Point2d(points[i].x, points[i].y).distance({plan[i].x, plan[i].y}), 1e-9);
   EXPECT_NEAR(points[1].z, 146, 1e-3);
   EXPECT_NEAR(points.back().z, 140.5, 1e-3);
   EXPECT_EQ(*gradient->curve2d(params, {}, {}, false), *base->curve2d(params, {}, {}, false));
-}
-
-TEST(SegmentedReferenceCurve, HasNoPoints) {
-  const auto curve = alignment<FcSegmentedReferenceCurve>();
-  const ExpectAsserts expected(
-      {"curveGet not implemented for class: class "
-       "qor::fc::resource::geometry::FcSegmentedReferenceCurve"});
-  EXPECT_TRUE(curve->curveGet(params, {}, {}, false).empty());
 }
 
 }  // namespace

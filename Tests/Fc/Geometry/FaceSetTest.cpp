@@ -5,8 +5,6 @@
 #include <limits>
 
 #include "Fc/FcParams.h"
-#include "Fc/Reflection/MakeEntity.h"
-#include "Fc/Resource/GeometricModel/ColourSplit.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList3D.h"
 #include "Fc/Resource/GeometricModel/FcIndexedPolygonalFaceWithVoids.h"
 #include "Fc/Resource/GeometricModel/FcPolygonalFaceSet.h"
@@ -19,6 +17,7 @@
 #include "Fc/Resource/PresentationAppearance/FcTextureVertexList.h"
 #include "Tests/Fc/Geometry/DrawRecorder.h"
 #include "Tests/Support/ExpectAsserts.h"
+#include "Tests/Support/Make.h"
 
 namespace qor::fc::resource::geometricmodel {
 namespace {
@@ -29,13 +28,12 @@ using generate::draw::TextureCoordinate;
 using generate::draw::TriangulatedFaceSetOpenGL;
 using math::Matrix;
 using math::Point3d;
-using presentationappearance::FcColourRgbList;
-using presentationappearance::FcIndexedColourMap;
+using namespace presentationappearance;
 using test::DrawRecorder;
 using test::ExpectAsserts;
+using test::make;
 using test::MaterialRecorder;
 using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::SizeIs;
 
 using Positions = std::vector<measure::FcPositiveInteger>;
@@ -48,29 +46,22 @@ Positions positions(std::initializer_list<int> list) {
   return result;
 }
 
-std::shared_ptr<FcCartesianPointList3D> points(
-    std::initializer_list<std::array<double, 3>> coordinates) {
-  std::vector<std::array<measure::FcLengthMeasure, 3>> list;
-  for (const auto& point : coordinates) list.push_back({point[0], point[1], point[2]});
-  auto result = makeEntity<FcCartesianPointList3D>();
-  result->setCoordList(std::move(list));
+std::shared_ptr<FcCartesianPointList3D> points(std::vector<Point3d> coordinates) {
+  auto result = make<FcCartesianPointList3D>();
+  result->setPoints(std::move(coordinates));
   return result;
 }
 
-std::shared_ptr<FcIndexedPolygonalFace> face(std::initializer_list<int> ring) {
-  auto result = makeEntity<FcIndexedPolygonalFace>();
-  result->setCoordIndex(positions(ring));
-  return result;
+using Ring = std::vector<int>;
+
+std::shared_ptr<FcIndexedPolygonalFace> face(const Ring& ring) {
+  return make<FcIndexedPolygonalFace>({{"CoordIndex", ring}});
 }
 
-std::shared_ptr<FcIndexedPolygonalFace> faceWithVoids(
-    std::initializer_list<int> ring, std::initializer_list<std::initializer_list<int>> voids) {
-  auto result = makeEntity<FcIndexedPolygonalFaceWithVoids>();
-  result->setCoordIndex(positions(ring));
-  std::vector<Positions> inner;
-  for (const auto& hole : voids) inner.push_back(positions(hole));
-  result->setInnerCoordIndices(std::move(inner));
-  return result;
+std::shared_ptr<FcIndexedPolygonalFace> faceWithVoids(const Ring& ring,
+                                                      const std::vector<Ring>& voids) {
+  return make<FcIndexedPolygonalFaceWithVoids>(
+      {{"CoordIndex", ring}, {"InnerCoordIndices", voids}});
 }
 
 /// Six points: the corners of a square from (0, 0) to (1, 1), and two more above it.
@@ -78,52 +69,33 @@ std::shared_ptr<FcCartesianPointList3D> sixPoints() {
   return points({{0, 0, 0}, {1, 0, 0}, {1, 1, 0}, {0, 1, 0}, {0, 0, 1}, {1, 0, 1}});
 }
 
-std::shared_ptr<FcPolygonalFaceSet> polygonal(
-    std::vector<std::shared_ptr<FcIndexedPolygonalFace>> faces) {
-  auto set = makeEntity<FcPolygonalFaceSet>();
-  set->setCoordinates(sixPoints());
-  set->setFaces(std::move(faces));
-  return set;
+using Faces = std::vector<std::shared_ptr<FcIndexedPolygonalFace>>;
+std::shared_ptr<FcPolygonalFaceSet> polygonal(const Faces& faces) {
+  return make<FcPolygonalFaceSet>({{"Coordinates", sixPoints()}, {"Faces", faces}});
 }
 
 std::shared_ptr<FcTriangulatedFaceSet> triangulated(
     std::initializer_list<std::array<int, 3>> triangles) {
   std::vector<std::array<measure::FcPositiveInteger, 3>> list;
   for (const auto& t : triangles) list.push_back({t[0], t[1], t[2]});
-  auto set = makeEntity<FcTriangulatedIrregularNetwork>();
-  set->setCoordinates(sixPoints());
+  auto set = make<FcTriangulatedIrregularNetwork>({{"Coordinates", sixPoints()}});
   set->setCoordIndex(std::move(list));
   return set;
 }
 
 /// Red, green and blue, and for each face which of them it has, from 1.
 std::shared_ptr<FcIndexedColourMap> colour(const std::shared_ptr<FcTessellatedFaceSet>& set,
-                                           std::initializer_list<int> colourOfFace) {
-  auto list = makeEntity<FcColourRgbList>();
+                                           const std::vector<int>& colourOfFace) {
+  const auto list = make<FcColourRgbList>();
   list->setColourList({{1., 0., 0.}, {0., 1., 0.}, {0., 0., 1.}});
-  auto map = makeEntity<FcIndexedColourMap>();
-  map->setColours(list);
-  map->setColourIndex(positions(colourOfFace));
-  map->setMappedTo(set);
-  return map;
+  return make<FcIndexedColourMap>(
+      {{"Colours", list}, {"MappedTo", set}, {"ColourIndex", colourOfFace}});
 }
 
 std::vector<Indices> outerRings(const PolygonalFaceSetOpenGL& set) {
   std::vector<Indices> rings;
   for (const Face& face : set.faces) rings.push_back(face.outer);
   return rings;
-}
-
-TEST(PolygonalFaceSet, DrawsAllFacesInOneSet) {
-  const auto set = polygonal({face({1, 2, 3, 4}), faceWithVoids({1, 2, 6, 5}, {{3, 4, 5}})});
-  DrawRecorder target;
-  target.draw(*set);
-
-  ASSERT_THAT(target.polygonalSets, SizeIs(1));
-  const PolygonalFaceSetOpenGL& drawn = target.polygonalSets[0].what;
-  EXPECT_THAT(drawn.coordinates, SizeIs(6));
-  EXPECT_THAT(drawn.faces, ElementsAre(Face{{0, 1, 2, 3}}, Face{{0, 1, 5, 4}, {{2, 3, 4}}}));
-  EXPECT_TRUE(drawn.hardEdges);
 }
 
 TEST(PolygonalFaceSet, LeavesOutTheSmallestPieceThatHoldsAFault) {
@@ -191,24 +163,31 @@ TEST(PolygonalFaceSet, ComesInOneSetForEachColourThatIsUsed) {
   EXPECT_THAT(withoutMaterials.polygonalSets, SizeIs(1));
 }
 
-TEST(PolygonalFaceSet, WhoseColoursDontFitIsDrawnPlain) {
-  const struct {
-    std::initializer_list<int> colours;
-    const char* message;
-  } cases[] = {
-      {{1}, "Mismatch between number of faces in PolygonalFaceSetOpenGL and IndexedColourMap"},
-      {{1, 4}, "Invalid colour index in FcIndexedColourMap."},
-      {{0, 1}, "Invalid colour index in FcIndexedColourMap."},
-  };
-  for (const auto& c : cases) {
-    const auto set = polygonal({face({1, 2, 3}), face({3, 4, 5})});
-    const auto map = colour(set, c.colours);
-    const ExpectAsserts expected({c.message});
-    const auto parts = set->createFaceSetsWithMaterials();
-    ASSERT_THAT(parts, SizeIs(1)) << c.message;
-    EXPECT_FALSE(parts[0].material);
-    EXPECT_THAT(parts[0].faceSet.faces, SizeIs(2));
-  }
+/// With colours that don't fit, it comes in one part without a colour.
+template <class Set, class Drawn>
+void expectDrawnPlain(const Set& set, const Drawn& whole, const std::vector<int>& colours,
+                      const std::string& message) {
+  const auto map = colour(set, colours);
+  const ExpectAsserts expected({message});
+  const auto parts = set->createFaceSetsWithMaterials();
+  ASSERT_THAT(parts, SizeIs(1)) << message;
+  EXPECT_FALSE(parts[0].material);
+  EXPECT_EQ(parts[0].faceSet, *whole);
+}
+
+TEST(FaceSets, WhoseColoursDontFitAreDrawnPlain) {
+  const std::string fewer = "Mismatch between number of faces in ",
+                    more = "FaceSetOpenGL and IndexedColourMap",
+                    invalid = "Invalid colour index in FcIndexedColourMap.";
+  const auto faces = polygonal({face({1, 2, 3}), face({3, 4, 5})});
+  const auto triangles = triangulated({{1, 2, 3}});
+  const auto drawnFaces = faces->createQorPolygonalFaceSet();
+  const auto drawnTriangles = triangles->createQorTriangulatedFaceSet();
+  expectDrawnPlain(faces, drawnFaces, {1}, fewer + "Polygonal" + more);
+  expectDrawnPlain(faces, drawnFaces, {1, 4}, invalid);
+  expectDrawnPlain(faces, drawnFaces, {0, 1}, invalid);
+  expectDrawnPlain(triangles, drawnTriangles, {1, 1}, fewer + "Triangulated" + more);
+  expectDrawnPlain(triangles, drawnTriangles, {4}, invalid);
 }
 
 TEST(PolygonalFaceSet, LeavesOutBrokenFacesOfAColour) {
@@ -289,7 +268,7 @@ TEST(PolygonalFaceSet, TellsOnceOfTextureCornersWithoutAPlace) {
 }
 
 TEST(PolygonalFaceSet, FindsPointsThatItHasAndAppendsOthers) {
-  auto set = makeEntity<FcPolygonalFaceSet>();
+  auto set = make<FcPolygonalFaceSet>();
   EXPECT_EQ(set->addPoint({1, 2, 3}).value(), 1);
   EXPECT_EQ(set->addPoint({1, 2, 3 + 1e-15}).value(), 2) << "no tolerance";
   EXPECT_EQ(set->addPoint({0, 0, 0}).value(), 3);
@@ -307,13 +286,9 @@ TEST(PolygonalFaceSet, FindsPointsThatItHasAndAppendsOthers) {
   EXPECT_EQ(set->addPoint({7, 7, 7}).value(), 1) << "the first of two equal ones";
   set->Coordinates()->pushBackPoint({9, 9, 9});
   EXPECT_EQ(set->addPoint({9, 9, 9}).value(), 4);
-}
-
-TEST(PolygonalFaceSet, FindsEachOfManyPoints) {
-  auto set = makeEntity<FcPolygonalFaceSet>();
   for (int round = 0; round < 2; ++round)
     for (int i = 0; i < 5000; ++i)
-      ASSERT_EQ(set->addPoint({i * 0.1, double(i % 3), -i * 1e-3}).value(), i + 1);
+      ASSERT_EQ(set->addPoint({i * 0.1, double(i % 3), -1 - i * 1e-3}).value(), i + 5);
 }
 
 const Matrix mirrorX({-1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {10, 0, 0});
@@ -350,25 +325,6 @@ TEST(TriangulatedFaceSet, SplitsByColourWithNormals) {
   EXPECT_THAT(parts[1].faceSet.coordinates(), SizeIs(4));
 }
 
-TEST(TriangulatedFaceSet, WhoseColoursDontFitIsDrawnPlain) {
-  const struct {
-    std::initializer_list<int> colours;
-    const char* message;
-  } cases[] = {
-      {{1, 1},
-       "Mismatch between number of faces in TriangulatedFaceSetOpenGL and IndexedColourMap"},
-      {{4}, "Invalid colour index in FcIndexedColourMap."},
-  };
-  for (const auto& c : cases) {
-    const auto set = triangulated({{1, 2, 3}});
-    const auto map = colour(set, c.colours);
-    const ExpectAsserts expected({c.message});
-    const auto parts = set->createFaceSetsWithMaterials();
-    ASSERT_THAT(parts, SizeIs(1)) << c.message;
-    EXPECT_FALSE(parts[0].material);
-  }
-}
-
 TEST(TriangulatedFaceSet, ComesBackFromTheModelAsItWasDrawn) {
   const ExpectAsserts noAsserts;
   TriangulatedFaceSetOpenGL drawn;
@@ -390,7 +346,7 @@ TEST(FaceSetTransform, KeepsFacesLookingOutwardUnderAMirror) {
   EXPECT_THAT(after.faces, ElementsAre(Face{{2, 1, 0}, {{3, 4, 5}}}, Face{{5, 4, 3}}));
   EXPECT_EQ(after.textureCoordinates, before.textureCoordinates) << "each point keeps its place";
   const ExpectAsserts expected({"Expect Coordinates() to be set."});
-  makeEntity<FcPolygonalFaceSet>()->transform(mirrorX);
+  make<FcPolygonalFaceSet>()->transform(mirrorX);
 }
 
 TEST(FaceSetTransform, MovesNormalsAsNormals) {
@@ -400,14 +356,6 @@ TEST(FaceSetTransform, MovesNormalsAsNormals) {
   EXPECT_THAT(set->CoordIndex(), ElementsAre(std::array<measure::FcPositiveInteger, 3>{3, 2, 1}));
   const math::Vector3d normal = set->getNormals()->at(0);
   EXPECT_TRUE(normal.isNear(math::Vector3d(-1, 2, 0) * (1 / std::sqrt(5.))));
-}
-
-TEST(FacesByColour, KeepsTheOrderOfFacesAndSkipsOthers) {
-  const FacesByColour split({1, 9, 0, 1, 2}, 3);
-  EXPECT_THAT(split.faces(0), ElementsAre(2u));
-  EXPECT_THAT(split.faces(1), ElementsAre(0u, 3u));
-  EXPECT_THAT(split.faces(2), ElementsAre(4u));
-  EXPECT_THAT(FacesByColour({}, 1).faces(0), IsEmpty());
 }
 
 }  // namespace

@@ -11,17 +11,13 @@
 #include "Items.h"
 #include "Qor/Assert/Exception.h"
 #include "Qor/Math/Polygon.h"
-#include "RecordedLines.h"
 #include "Tests/Support/ExpectAsserts.h"
 
 namespace qor::fc::resource::geometry {
 namespace {
 
-using geometricmodel::FcCartesianPointList2D;
-using geometricmodel::FcCartesianPointList3D;
-using math::Point2d;
-using math::Point3d;
-using math::Vector3d;
+using namespace geometricmodel;
+using namespace math;
 using std::numbers::pi;
 using test::ExpectAsserts;
 using Parameter = FcCurve::ParameterType;
@@ -52,27 +48,23 @@ std::string textOf(const Segments& segments) {
   return text;
 }
 
+template <class List, class Points>
+std::shared_ptr<FcIndexedPolyCurve> curve(const Points& points, std::optional<Segments> segments) {
+  auto list = std::make_shared<List>();
+  list->setPoints(points);
+  auto result = std::make_shared<FcIndexedPolyCurve>();
+  result->setPoints(list);
+  if (segments) result->setSegments(*segments);
+  return result;
+}
 std::shared_ptr<FcIndexedPolyCurve> curve(const Points2d& points,
                                           std::optional<Segments> segments = {}) {
-  auto list = std::make_shared<FcCartesianPointList2D>();
-  list->setPoints(points);
-  auto result = std::make_shared<FcIndexedPolyCurve>();
-  result->setPoints(list);
-  if (segments) result->setSegments(*segments);
-  return result;
+  return curve<FcCartesianPointList2D>(points, std::move(segments));
 }
-
 std::shared_ptr<FcIndexedPolyCurve> curve(const Points3d& points,
                                           std::optional<Segments> segments = {}) {
-  auto list = std::make_shared<FcCartesianPointList3D>();
-  list->setPoints(points);
-  auto result = std::make_shared<FcIndexedPolyCurve>();
-  result->setPoints(list);
-  if (segments) result->setSegments(*segments);
-  return result;
+  return curve<FcCartesianPointList3D>(points, std::move(segments));
 }
-
-Points3d pointsOf(const FcCurve& item) { return item.curveGet(params, {}, {}, false); }
 
 // Along the X axis, back on a half circle above it.
 const Points2d dome{{0, 0}, {4, 0}, {2, 2}};
@@ -120,19 +112,17 @@ TEST(IndexedPolyCurve, CountsAsPlanarInSpaceWithoutHeights) {
   EXPECT_FALSE(curve(Points3d{{0, 0, 0}, {4, 0, 1}, {2, 2, 0}})->curve2d(params, {}, {}, false));
 }
 
-struct BrokenCase {
-  Segments segments;
-  std::vector<test::ExpectedAssert> asserts;
-  std::size_t points;
-};
-
 TEST(IndexedPolyCurve, ReportsSegmentsThatMakeNoSense) {
   const char* const chain =
       "By formal proposition of FcIndexedPolyCurve, the last index of a segment (execpt the last "
       "segment) must equal the first index of the next segment";
   const char* const badLine = "Invalid indices contained in this LineIndex segment";
   const char* const badArc = "Invalid indices contained in this ArcSegment segment";
-  const BrokenCase cases[] = {
+  const struct {
+    Segments segments;
+    std::vector<test::ExpectedAssert> asserts;
+    std::size_t points;
+  } cases[] = {
       {{line({1, 2}), line({3, 4})}, {chain}, 3},  // joined all the same
       {{line({1, 5})}, {badLine}, 0},
       {{line({0, 1})}, {badLine}, 0},
@@ -146,7 +136,7 @@ TEST(IndexedPolyCurve, ReportsSegmentsThatMakeNoSense) {
       {{line({1, 2}), FcSegmentIndexSelect()},
        {chain, "detected a segments which is neither of type LineIndex nor ArcIndex"},
        2}};
-  for (const BrokenCase& test : cases) {
+  for (const auto& test : cases) {
     const ExpectAsserts expected(test.asserts);
     const auto broken = curve(Points2d{{0, 0}, {1, 0}, {1, 1}, {0, 1}}, test.segments);
     EXPECT_EQ(pointsOf(*broken).size(), test.points);
@@ -180,18 +170,15 @@ TEST(IndexedPolyCurve, ReportsWhatItCannotDraw) {
   EXPECT_THROW(curve(dome, Segments{FcSegmentIndexSelect()})->parametricSegments(), exception);
 }
 
-TEST(IndexedPolyCurve, IsBuiltOfLines) {
-  FcIndexedPolyCurve path;
-  path.startAt({1, 1});
-  path.lineTo({2, 0});
-  path.lineTo({0, 2});
-  path.closeWithLine();
-  EXPECT_FALSE(path.Segments());
-  EXPECT_EQ(path.curve2d(params, {}, {}, false), (Points2d{{1, 1}, {3, 1}, {3, 3}, {1, 1}}));
-  EXPECT_TRUE(path.isClosed());
-}
-
 TEST(IndexedPolyCurve, IsBuiltOfLinesAndArcs) {
+  FcIndexedPolyCurve triangle;
+  triangle.startAt({1, 1});
+  triangle.lineTo({2, 0});
+  triangle.lineTo({0, 2});
+  triangle.closeWithLine();
+  EXPECT_FALSE(triangle.Segments());
+  EXPECT_EQ(triangle.closedCurve2dGet(params), (Points2d{{1, 1}, {3, 1}, {3, 3}}));
+
   FcIndexedPolyCurve path;
   path.startAt({0, 0});
   path.lineTo({3, 0});
@@ -248,26 +235,21 @@ TEST(IndexedPolyCurve, RoundsTheCornersOfAPath) {
   const Points3d expected{{0, 0, 0}, {3, 0, 0},       {4 - in, in, 0}, {4, 1, 0},
                           {4, 3, 0}, {4, 4 - in, in}, {4, 4, 1},       {4, 4, 4}};
   EXPECT_LT(deviation(pipe.Points()->points(), expected), 1e-15);
-  double length = 0;
-  const auto points = pointsOf(pipe);
-  for (std::size_t i = 1; i < points.size(); ++i) length += points[i].distance(points[i - 1]);
-  EXPECT_NEAR(length, 8 + 72 * std::sin(pi / 72), 1e-12);  // two quarters in 18 segments
+  EXPECT_NEAR(lengthOf(pointsOf(pipe)), 8 + 72 * std::sin(pi / 72), 1e-12);  // in 18 segments each
 }
 
 TEST(RoundedPath, KeepsCornersThatCannotBeRounded) {
-  const auto lines = [](const Points3d& corners, double radius) {
+  const std::pair<Points3d, double> cases[] = {
+      {{{0, 0, 0}, {1, 0, 0}, {2, 0, 0}}, 1}, {{{0, 0, 0}, {1, 0, 0}, {0, 0, 0}}, 1},
+      {{{0, 0, 0}, {1, 0, 0}, {1, 1, 0}}, 0}, {{{0, 0, 0}, {1, 0, 0}}, 1},
+      {{{0, 0, 0}, {0, 0, 0}, {1, 1, 0}}, 1}, {{{0, 0, 0}, {1, 0, 0}, {1, NAN, 0}}, 1}};
+  for (const auto& [corners, radius] : cases) {
     const auto path = RoundedPath::through(corners, radius);
-    std::size_t count = 0;
-    for (const auto& piece : path.pieces) count += std::holds_alternative<RoundedPath::Line>(piece);
-    return std::pair(count, path.pieces.size() - count);
-  };
-  EXPECT_EQ(lines({{0, 0, 0}, {1, 0, 0}, {2, 0, 0}}, 1), std::pair(2ul, 0ul));  // straight on
-  EXPECT_EQ(lines({{0, 0, 0}, {1, 0, 0}, {0, 0, 0}}, 1), std::pair(2ul, 0ul));  // straight back
-  EXPECT_EQ(lines({{0, 0, 0}, {1, 0, 0}, {1, 1, 0}}, 0), std::pair(2ul, 0ul));
-  EXPECT_EQ(lines({{0, 0, 0}, {1, 0, 0}}, 1), std::pair(1ul, 0ul));
-  EXPECT_EQ(lines({{0, 0, 0}, {0, 0, 0}, {1, 1, 0}}, 1), std::pair(2ul, 0ul));
-  EXPECT_EQ(lines({{0, 0, 0}, {1, 0, 0}, {1, NAN, 0}}, 1), std::pair(2ul, 0ul));
-  EXPECT_EQ(lines({}, 1), std::pair(0ul, 0ul));
+    EXPECT_EQ(path.pieces.size(), corners.size() - 1);
+    for (const auto& piece : path.pieces)
+      EXPECT_TRUE(std::holds_alternative<RoundedPath::Line>(piece));
+  }
+  EXPECT_TRUE(RoundedPath::through({}, 1).pieces.empty());
 }
 
 TEST(RoundedPath, NeverRunsBackOnCrowdedCorners) {

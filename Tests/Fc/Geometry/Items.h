@@ -6,9 +6,14 @@
 #include "Fc/FcParams.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
+#include "Fc/Resource/Geometry/FcCircle.h"
 #include "Fc/Resource/Geometry/FcDirection.h"
+#include "Fc/Resource/Geometry/FcLine.h"
 #include "Fc/Resource/Geometry/FcPolyline.h"
 #include "Fc/Resource/Geometry/FcTrimmingSelect.h"
+#include "Fc/Resource/Geometry/FcVector.h"
+#include "Tests/Fc/Geometry/DrawRecorder.h"
+#include "Tests/Support/Make.h"
 
 // What tests of geometry say often.
 namespace qor::fc::resource::geometry {
@@ -26,16 +31,45 @@ inline FcTrimmingSelect at(const math::Point3d& point) {
   return FcTrimmingSelect(makePoint(point));
 }
 
-inline std::shared_ptr<FcPolyline> polyline(const Points2d& points, bool close = false) {
+/// Closed by one entity at both ends, when it shall be.
+template <class Point>
+std::shared_ptr<FcPolyline> polyline(const std::vector<Point>& points, bool close = false) {
   auto result = std::make_shared<FcPolyline>();
   result->setPoints(points, close);
   return result;
 }
-inline std::shared_ptr<FcPolyline> polyline(const Points3d& points, bool close = false) {
-  auto result = std::make_shared<FcPolyline>();
-  result->setPoints(points, close);
-  return result;
+
+inline std::shared_ptr<FcCircle> circle(double radius, const math::Matrix& position = {}) {
+  return test::make<FcCircle>({{"Radius", radius}, {"Position", makePlacement(position)}});
 }
+
+/// The vector in metres, one for each unit of the parameter.
+inline std::shared_ptr<FcLine> line(const math::Point3d& point, const math::Vector3d& vector) {
+  auto direction = std::make_shared<FcVector>();
+  direction->setVector(vector, 3);
+  return test::make<FcLine>({{"Pnt", makePoint(point)}, {"Dir", direction}});
+}
+
+inline Points3d pointsOf(const FcCurve& curve) { return curve.curveGet(params, {}, {}, false); }
+
+inline double lengthOf(const Points3d& points) {
+  double length = 0;
+  for (std::size_t i = 1; i < points.size(); ++i) length += points[i].distance(points[i - 1]);
+  return length;
+}
+
+/// The polylines and polygons that an item draws.
+struct RecordedLines {
+  explicit RecordedLines(const FcRepresentationItem& item) {
+    test::DrawRecorder target(params.curveDiscretization());
+    target.draw(item);
+    for (const auto& drawn : target.polylines) polylines.push_back(drawn.what);
+    for (const auto& drawn : target.polygons) polygons.push_back(drawn.what);
+  }
+
+  std::vector<Points3d> polylines;
+  std::vector<std::vector<Points3d>> polygons;
+};
 
 /// The greatest distance between two points at the same place in the lists; infinite for lists of
 /// different lengths.

@@ -3,7 +3,6 @@
 #include <cmath>
 #include <numbers>
 
-#include "Fc/Reflection/MakeEntity.h"
 #include "Fc/Resource/GeometricConstraint/FcGridPlacement.h"
 #include "Fc/Resource/GeometricConstraint/FcLinearPlacement.h"
 #include "Fc/Resource/GeometricConstraint/FcLocalPlacement.h"
@@ -19,17 +18,8 @@
 namespace qor::fc::resource::geometry {
 namespace {
 
-using geometricconstraint::FcGridPlacement;
-using geometricconstraint::FcLinearPlacement;
-using geometricconstraint::FcLocalPlacement;
-using geometricconstraint::FcObjectPlacement;
-using math::Matrix;
-using math::Matrix2d;
-using math::Point2d;
-using math::Point3d;
-using math::RandomGeometry;
-using math::Vector2d;
-using math::Vector3d;
+using namespace geometricconstraint;
+using namespace math;
 using std::numbers::pi;
 using test::ExpectAsserts;
 
@@ -38,10 +28,8 @@ const char* const onlyOneDirection =
     "neither of them.";
 
 struct DirectionCase {
-  std::optional<Vector3d> axis;
-  std::optional<Vector3d> reference;
-  Vector3d x;
-  Vector3d z;
+  std::optional<Vector3d> axis, reference;
+  Vector3d x, z;
   std::vector<test::ExpectedAssert> asserts{};
   Point3d origin = {1, 2, 3};
 };
@@ -91,16 +79,24 @@ TEST(Placement, ReportsDirectionsOfThePlane) {
   EXPECT_EQ(placement.placementGet(), Matrix({}, {0, 1, 0}, {1, 0, 0}));
 }
 
-TEST(Placement, GivesBackTheFrameThatWasSet) {
+TEST(Placement, GivesBackTheFrameThatWasSetInThePartsThatItHas) {
+  const ExpectAsserts none;
   RandomGeometry random;
-  const auto placement = makePlacement(Matrix());
+  const auto placement = makePlacement(Matrix({1, 2, 3}, {0, 2, 0}, {1, 0, 0}));
+  const auto location = placement->Location();
+  const auto axis = placement->Axis(), reference = placement->RefDirection();
+  EXPECT_EQ(reference->vector(), Vector3d(0, 2, 0)) << "of the length that it was given";
   for (int i = 0; i < 1000; ++i) {
     const Matrix frame = random.frame(1e6);
     placement->setPlacement(frame);
     EXPECT_LT(deviation(placement->placementGet(), frame), 1e-14);
+    EXPECT_EQ(placement->Location(), location);
+    EXPECT_EQ(placement->Axis(), axis);
+    EXPECT_EQ(placement->RefDirection(), reference);
     const Matrix move = random.frame(1e3);
-    placement->transform(move);
-    EXPECT_LT(deviation(placement->placementGet(), frame * move), 1e-9);
+    const auto moved = makePlacement(frame);
+    moved->transform(move);
+    EXPECT_LT(deviation(moved->placementGet(), frame * move), 1e-9);
   }
   placement->setPlacement(Matrix::createTranslation({4, 5, 6}));
   EXPECT_EQ(placement->Axis(), nullptr);
@@ -116,16 +112,17 @@ TEST(Placement, MovesAllThatShareItsPoint) {
   EXPECT_EQ(other.placementGet().origin(), Point3d(1, 0, 5));
 }
 
-TEST(Placement, ReportsMirrorsAndStoresThem) {
-  const Matrix mirror({-1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {});
+TEST(Placement, ReportsMirrorsAndParallelAxesAndStoresThem) {
+  const std::string formal = "by formal propositions, ",
+                    inSetter = "Assertion failed in vPlacementSet: " + formal;
   const ExpectAsserts expected(
-      {"Assertion failed in Constructor FcAxis2Placement3D: by formal propositions, placements "
-       "must "
-       "not allow mirroring",
-       "Assertion failed in vPlacementSet: by formal propositions, placements must not allow "
-       "mirroring"});
-  const FcAxis2Placement3D placement(mirror);
+      {"Assertion failed in Constructor FcAxis2Placement3D: " + formal +
+           "placements must not allow mirroring",
+       inSetter + "placements must not allow mirroring",
+       inSetter + "cross product of Axis() and RefDirection() must not be Null vector"});
+  FcAxis2Placement3D placement(Matrix({-1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {}));
   EXPECT_EQ(placement.RefDirection()->vector(), Vector3d(-1, 0, 0));
+  placement.setPlacement(Matrix({0, 0, 1}, {0, 1, 0}, {0, 0, 1}, {}));
 }
 
 TEST(Placement2D, TurnsInThePlane) {
@@ -147,19 +144,15 @@ TEST(Placement2D, TurnsInThePlane) {
 
 TEST(Placement1, IsATranslationThatMoves) {
   FcAxis1Placement placement;
-  {
-    const ExpectAsserts expected({"Should have location", "Should have location"});
-    EXPECT_EQ(placement.transformationGet(), Matrix());
-    EXPECT_EQ(placement.transformation2dGet(), Matrix2d());
-  }
+  const char* const noPoint = "Should have location";
+  const char* const spatial = "Should have two dimension";
+  const ExpectAsserts expected({noPoint, noPoint, spatial, spatial});
+  EXPECT_EQ(placement.transformationGet(), Matrix());
+  EXPECT_EQ(placement.transformation2dGet(), Matrix2d());
   placement.setLocation(makePoint(Point2d(1, 2)));
-  {
-    const ExpectAsserts expected({"Should have two dimension"});
-    EXPECT_EQ(placement.transformationGet(), Matrix::createTranslation({1, 2, 0}));
-    EXPECT_EQ(placement.transformation2dGet(), Matrix2d::createTranslation({1, 2}));
-  }
+  EXPECT_EQ(placement.transformationGet(), Matrix::createTranslation({1, 2, 0}));
+  EXPECT_EQ(placement.transformation2dGet(), Matrix2d::createTranslation({1, 2}));
   placement.transform(Matrix::createTranslation({0, 0, 3}));
-  const ExpectAsserts expected({"Should have two dimension"});
   EXPECT_EQ(placement.transformation2dGet(), Matrix2d::createTranslation({1, 2}));
 }
 
@@ -198,12 +191,10 @@ TEST(LocalPlacement, MultipliesItsChain) {
 
 TEST(LocalPlacement, StandsWhereItsBaseStandsWithoutAFrameOfItsOwn) {
   const auto base = localPlacement(Matrix::createTranslation({1, 2, 3}));
-  FcLocalPlacement empty;
-  EXPECT_EQ(empty.placementGet(false), Matrix());
-  const auto placement = std::make_shared<FcLocalPlacement>();
-  placement->setPlacementRelTo(base);
+  const auto placement = test::make<FcLocalPlacement>({{"PlacementRelTo", base}});
   EXPECT_EQ(placement->placementGet(false), Matrix::createTranslation({1, 2, 3}));
   EXPECT_EQ(placement->placementGet(true), Matrix());
+  EXPECT_EQ(FcLocalPlacement().placementGet(false), Matrix());
 }
 
 TEST(LocalPlacement, SurvivesAChainOfAHundredThousand) {
@@ -218,24 +209,16 @@ TEST(LocalPlacement, NamesThePlacementAtWhichItsChainTurnsBack) {
   const auto top = localPlacement(step), middle = localPlacement(step, top),
              bottom = localPlacement(step, middle);
   top->setPlacementRelTo(middle);
-  const auto wall = std::make_shared<shared::buildingelements::FcWall>();
-  Guid guid;
-  ASSERT_TRUE(guid.boSet("3vB2YO$MX4xv5uCqZZG05x"));
-  wall->setGlobalId(guid);
-  wall->setName("South wall");
-  wall->setObjectPlacement(middle);
+  const auto wall = test::make<shared::buildingelements::FcWall>(
+      {{"Name", "South wall"}, {"ObjectPlacement", middle}});
+  ASSERT_TRUE(wall->setAttributeFromString("GlobalId", "3vB2YO$MX4xv5uCqZZG05x"));
   const std::string circle =
       " leads in a circle back to the placement of IFCWALL 3vB2YO$MX4xv5uCqZZG05x (South wall)";
-  {
-    const ExpectAsserts expected({"PlacementRelTo of the placement" + circle});
-    EXPECT_EQ(bottom->placementGet(false).origin(), Point3d(3, 0, 0));
-  }
-  {
-    const ExpectAsserts expected(
-        {"PlacementRelTo of the placement of IFCWALL 3vB2YO$MX4xv5uCqZZG05x (South wall)" +
-         circle});
-    EXPECT_EQ(middle->placementGet(false).origin(), Point3d(2, 0, 0));
-  }
+  const ExpectAsserts expected(
+      {"PlacementRelTo of the placement" + circle,
+       "PlacementRelTo of the placement of IFCWALL 3vB2YO$MX4xv5uCqZZG05x (South wall)" + circle});
+  EXPECT_EQ(bottom->placementGet(false).origin(), Point3d(3, 0, 0));
+  EXPECT_EQ(middle->placementGet(false).origin(), Point3d(2, 0, 0));
   top->clearPlacementRelTo();
 }
 

@@ -7,7 +7,6 @@
 #include <numbers>
 
 #include "Fc/FcParams.h"
-#include "Fc/Reflection/MakeEntity.h"
 #include "Fc/Resource/GeometricModel/FcBlock.h"
 #include "Fc/Resource/GeometricModel/FcBoundingBox.h"
 #include "Fc/Resource/GeometricModel/FcCsgSolid.h"
@@ -19,61 +18,38 @@
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
 #include "Tests/Fc/Geometry/DrawRecorder.h"
 #include "Tests/Support/ExpectAsserts.h"
+#include "Tests/Support/Make.h"
 #include "Tests/Support/SolidMesh.h"
 
 namespace qor::fc::resource::geometricmodel {
 namespace {
 
-using math::Extent;
-using math::Matrix;
-using math::Point3d;
+using namespace math;
 using std::numbers::pi;
 using test::DrawRecorder;
 using test::ExpectAsserts;
 using test::isClosedSolidOfVolume;
+using test::make;
 using test::SolidMesh;
 
 const FcParams params(math::CurveDiscretization(1e-3, 24, 24));
 
 /// A quarter turn around X and a shift.
 const Matrix placed = Matrix::createXRotate(pi / 2) * Matrix::createTranslation({10, 20, 30});
-const Matrix mirrorX({-1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {});
 
 std::shared_ptr<FcBlock> block(double x, double y, double z) {
-  auto result = makeEntity<FcBlock>();
-  result->setXLength(x);
-  result->setYLength(y);
-  result->setZLength(z);
-  return result;
+  return make<FcBlock>({{"XLength", x}, {"YLength", y}, {"ZLength", z}});
 }
-
 std::shared_ptr<FcRectangularPyramid> pyramid(double x, double y, double height) {
-  auto result = makeEntity<FcRectangularPyramid>();
-  result->setXLength(x);
-  result->setYLength(y);
-  result->setHeight(height);
-  return result;
+  return make<FcRectangularPyramid>({{"XLength", x}, {"YLength", y}, {"Height", height}});
 }
-
 std::shared_ptr<FcRightCircularCone> cone(double radius, double height) {
-  auto result = makeEntity<FcRightCircularCone>();
-  result->setBottomRadius(radius);
-  result->setHeight(height);
-  return result;
+  return make<FcRightCircularCone>({{"BottomRadius", radius}, {"Height", height}});
 }
-
 std::shared_ptr<FcRightCircularCylinder> cylinder(double radius, double height) {
-  auto result = makeEntity<FcRightCircularCylinder>();
-  result->setRadius(radius);
-  result->setHeight(height);
-  return result;
+  return make<FcRightCircularCylinder>({{"Radius", radius}, {"Height", height}});
 }
-
-std::shared_ptr<FcSphere> sphere(double radius) {
-  auto result = makeEntity<FcSphere>();
-  result->setRadius(radius);
-  return result;
-}
+std::shared_ptr<FcSphere> sphere(double radius) { return make<FcSphere>({{"Radius", radius}}); }
 
 /// All that the item draws, as one mesh in the frame around it.
 SolidMesh meshOf(const geometry::FcRepresentationItem& item) {
@@ -113,33 +89,25 @@ std::vector<Case> primitives() {
           {"sphere", sphere(2), pi * 4 / 3 * 8, 0.03, {{-2, -2, -2}, {2, 2, 2}}}};
 }
 
-TEST(Primitive, IsAClosedBodyOfItsVolumeWhereverItStands) {
+TEST(Primitive, IsAClosedBodyOfItsVolumeInItsBoxWhereverItStands) {
   for (const Case& c : primitives()) {
     SCOPED_TRACE(c.name);
     EXPECT_TRUE(isClosedSolidOfVolume(meshOf(*c.primitive), c.volume, c.relativeError));
+    EXPECT_EQ(*c.primitive->boundingBox(params), c.box);
+    const math::Vector3d shift(10, 20, 30);
+    c.primitive->setPosition(geometry::makePlacement(Matrix::createTranslation(shift)));
+    EXPECT_EQ(*c.primitive->boundingBox(params),
+              Extent(c.box.minimum() + shift, c.box.maximum() + shift));
     c.primitive->setPosition(geometry::makePlacement(placed));
     EXPECT_TRUE(isClosedSolidOfVolume(meshOf(*c.primitive), c.volume, c.relativeError));
   }
 }
 
-TEST(Primitive, HasTheBoxOfItsSizesInItsFrame) {
-  for (const Case& c : primitives()) {
-    SCOPED_TRACE(c.name);
-    EXPECT_EQ(*c.primitive->boundingBox(params), c.box);
-    c.primitive->setPosition(geometry::makePlacement(Matrix::createTranslation({10, 20, 30})));
-    EXPECT_EQ(*c.primitive->boundingBox(params),
-              Extent(c.box.minimum() + math::Vector3d(10, 20, 30),
-                     c.box.maximum() + math::Vector3d(10, 20, 30)));
-  }
-}
-
 TEST(Primitive, OfASizeThatIsntPositiveDrawsNothingAndHasNoBox) {
-  const char* height =
-      "By definition of IfcPositiveLengthMeasure, the height must be strictly positive";
-  const char* radius =
-      "By definition of IfcPositiveLengthMeasure, the radius must be strictly positive";
-  const char* bottom =
-      "By definition of IfcPositiveLengthMeasure, the bottom radius must be strictly positive";
+  const auto positive = [](const char* what) {
+    return std::string("By definition of IfcPositiveLengthMeasure, the ") + what +
+           " must be strictly positive";
+  };
   const std::string blockX =
       "Assertion failed in FcBlock::ValidXYZLengths: XLength must be strictly positive";
   const std::string pyramidHeight =
@@ -149,11 +117,15 @@ TEST(Primitive, OfASizeThatIsntPositiveDrawsNothingAndHasNoBox) {
   const struct {
     std::shared_ptr<FcCsgPrimitive3D> primitive;
     std::string message;
-  } cases[] = {{block(0, 1, 1), blockX},    {block(-1, 1, 1), blockX},
-               {block(none, 1, 1), blockX}, {pyramid(1, 1, 1e-7), pyramidHeight},
-               {cone(1, 0), height},        {cone(-1, 1), bottom},
-               {cylinder(1, -1), height},   {cylinder(0, 1), radius},
-               {cylinder(none, 1), radius}};
+  } cases[] = {{block(0, 1, 1), blockX},
+               {block(-1, 1, 1), blockX},
+               {block(none, 1, 1), blockX},
+               {pyramid(1, 1, 1e-7), pyramidHeight},
+               {cone(1, 0), positive("height")},
+               {cone(-1, 1), positive("bottom radius")},
+               {cylinder(1, -1), positive("height")},
+               {cylinder(0, 1), positive("radius")},
+               {cylinder(none, 1), positive("radius")}};
   for (const auto& c : cases) {
     const ExpectAsserts expected({c.message, c.message});
     DrawRecorder target;
@@ -163,39 +135,31 @@ TEST(Primitive, OfASizeThatIsntPositiveDrawsNothingAndHasNoBox) {
   }
 }
 
-TEST(Block, StandsOnTheOriginWithItsFacesInOrder) {
+TEST(Primitive, IsDrawnInTheFormThatSuitsIt) {
   DrawRecorder target;
   target.draw(*block(1, 2, 3));
-  const auto& drawn = target.polygonalSets.at(0).what;
-  EXPECT_EQ(drawn.coordinates[6], Point3d(1, 2, 3));
-  EXPECT_EQ(drawn.faces[0].outer, (std::vector<std::uint32_t>{0, 3, 2, 1}));
-  EXPECT_TRUE(drawn.hardEdges);
-}
+  const auto& box = target.polygonalSets.at(0).what;
+  EXPECT_EQ(box.coordinates[6], Point3d(1, 2, 3));
+  EXPECT_EQ(box.faces[0].outer, (std::vector<std::uint32_t>{0, 3, 2, 1}));
+  EXPECT_TRUE(box.hardEdges);
 
-TEST(Cone, IsAPolygonBelowAndTrianglesAround) {
-  DrawRecorder target;
   target.draw(*cone(1, 2));
   EXPECT_EQ(target.polygons.at(0).what.at(0).size(), 24u);
   EXPECT_EQ(target.triangulatedSets.at(0).what.triangles.size(), 24u);
-}
 
-TEST(Cylinder, CarriesAnImageAroundIt) {
-  const auto drawn = cylinder(1, 4)->buildFaceSet(params);
-  ASSERT_TRUE(drawn && drawn->textureCoordinates);
-  ASSERT_EQ(drawn->textureCoordinates->size(), drawn->coordinates.size());
-  for (std::size_t i = 0; i < drawn->coordinates.size(); ++i)
-    EXPECT_FLOAT_EQ((*drawn->textureCoordinates)[i][1],
-                    static_cast<float>(drawn->coordinates[i].z / 4));
-}
+  const auto pipe = cylinder(1, 4)->buildFaceSet(params);
+  ASSERT_TRUE(pipe && pipe->textureCoordinates);
+  ASSERT_EQ(pipe->textureCoordinates->size(), pipe->coordinates.size());
+  for (std::size_t i = 0; i < pipe->coordinates.size(); ++i)  // an image goes around it
+    EXPECT_FLOAT_EQ((*pipe->textureCoordinates)[i][1],
+                    static_cast<float>(pipe->coordinates[i].z / 4));
 
-TEST(Sphere, WithoutSegmentsIsEmptyAndHasNormalsOtherwise) {
   EXPECT_TRUE(sphere(0)->getFaceSet(params.curveDiscretization()).triangles.empty());
   EXPECT_TRUE(sphere(-1)->getFaceSet(params.curveDiscretization()).coordinates().empty());
-  const auto drawn = sphere(2)->getFaceSet(params.curveDiscretization());
-  EXPECT_EQ(drawn.triangles.size(), 2u * 24 * 23);
-  ASSERT_TRUE(drawn.normals());
-  EXPECT_NEAR((drawn.coordinates()[77] - Point3d() - (*drawn.normals())[77] * 2).length(), 0,
-              1e-12);
+  const auto ball = sphere(2)->getFaceSet(params.curveDiscretization());
+  EXPECT_EQ(ball.triangles.size(), 2u * 24 * 23);
+  ASSERT_TRUE(ball.normals());
+  EXPECT_NEAR((ball.coordinates()[77] - Point3d() - (*ball.normals())[77] * 2).length(), 0, 1e-12);
 }
 
 TEST(PrimitiveTransform, MovesTheBodyAndScalesWhatCanScale) {
@@ -237,24 +201,22 @@ TEST(PrimitiveTransform, MovesTheBodyAndScalesWhatCanScale) {
   }
 }
 
-TEST(PrimitiveTransform, PutsTheBodyWhereTheMatrixSays) {
-  auto moved = block(1, 2, 3);
+TEST(PrimitiveTransform, PutsTheBodyWhereTheMatrixSaysAndTurnsACylinderUnderAMirror) {
+  const auto moved = block(1, 2, 3);
   moved->transform(placed);
   EXPECT_TRUE(moved->Position()->placementGet().x().isNear(placed.x()));
   EXPECT_TRUE(moved->Position()->placementGet().origin().isNear({10, 20, 30}));
-}
 
-TEST(PrimitiveTransform, TurnsACylinderUnderAMirror) {
-  auto moved = cylinder(1, 2);
-  moved->setPosition(geometry::makePlacement(Matrix()));
+  const auto mirrored = cylinder(1, 2);
+  mirrored->setPosition(geometry::makePlacement(Matrix()));
   const ExpectAsserts noAsserts;
-  moved->transform(mirrorX * Matrix::createTranslation({5, 0, 0}));
-  EXPECT_FALSE(moved->Position()->placementGet().isMirror());
-  EXPECT_EQ(*moved->boundingBox(params), Extent({4, -1, 0}, {6, 1, 2}));
+  mirrored->transform(Matrix({-1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {5, 0, 0}));
+  EXPECT_FALSE(mirrored->Position()->placementGet().isMirror());
+  EXPECT_EQ(*mirrored->boundingBox(params), Extent({4, -1, 0}, {6, 1, 2}));
 }
 
 TEST(CsgSolid, DoesWhatItsRootDoes) {
-  auto solid = makeEntity<FcCsgSolid>();
+  auto solid = make<FcCsgSolid>();
   DrawRecorder target;
   target.draw(*solid);
   solid->transform(placed);
@@ -271,13 +233,9 @@ TEST(CsgSolid, DoesWhatItsRootDoes) {
 }
 
 TEST(BoundingBox, IsSetAnewAroundItsMovedCorners) {
-  auto box = makeEntity<FcBoundingBox>();
-  EXPECT_FALSE(box->boundingBox(params));
+  EXPECT_FALSE(make<FcBoundingBox>()->boundingBox(params));
   const auto corner = geometry::makePoint(Point3d(1, 0, 0));
-  box->setCorner(corner);
-  box->setXDim(1);
-  box->setYDim(2);
-  box->setZDim(3);
+  const auto box = make<FcBoundingBox>({{"Corner", corner}, {"XDim", 1}, {"YDim", 2}, {"ZDim", 3}});
   box->transform(Matrix({0, 1, 0}, {-1, 0, 0}, {0, 0, 1}, {0, 0, 5}));
   EXPECT_EQ(*box->boundingBox(params), Extent({-2, 1, 5}, {0, 2, 8}));
   EXPECT_EQ(corner->point(), Point3d(1, 0, 0)) << "others may share it";

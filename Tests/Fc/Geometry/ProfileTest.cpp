@@ -3,21 +3,21 @@
 #include <cmath>
 #include <limits>
 #include <numbers>
-#include <numeric>
 
-#include "Fc/FcParams.h"
 #include "Fc/NotImplemented.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList2D.h"
 #include "Fc/Resource/Geometry/FcIndexedPolyCurve.h"
-#include "Fc/Resource/Geometry/FcPolyline.h"
+#include "Fc/Resource/Profile/CenterLineRing.h"
 #include "Fc/Resource/Profile/FcArbitraryProfileDefWithVoids.h"
 #include "Fc/Resource/Profile/FcCenterLineProfileDef.h"
 #include "Fc/Resource/Profile/FcCircleHollowProfileDef.h"
 #include "Fc/Resource/Profile/FcCompositeProfileDef.h"
 #include "Fc/Resource/Profile/FcMirroredProfileDef.h"
 #include "Fc/Resource/Profile/FcRectangleProfileDef.h"
+#include "Fc/Resource/Profile/RectangleContour.h"
 #include "Qor/Draw/PolygonOrientation.h"
 #include "Qor/Math/Polygon.h"
+#include "Tests/Fc/Geometry/Items.h"
 #include "Tests/Fc/Geometry/ProfileCases.h"
 #include "Tests/Support/ExpectAsserts.h"
 
@@ -29,14 +29,12 @@ using fc::test::makeProfile;
 using fc::test::planarPosition;
 using fc::test::ProfileCase;
 using generate::draw::Profile2D;
-using math::Extent2d;
-using math::Matrix2d;
-using math::Point2d;
-using math::Polygon2d;
+using namespace math;
 using qor::test::ExpectAsserts;
 using std::numbers::pi;
 
 const FcParams kParams{fc::test::sixtyFour()};
+const math::CurveDiscretization kSixteen(1, 16, 16);
 
 double signedArea(const std::vector<Profile2D>& profiles) {
   double area = 0;
@@ -66,11 +64,9 @@ bool crossesItself(const Profile2D& profile) {
   return false;
 }
 
-std::shared_ptr<geometry::FcPolyline> polyline(const std::vector<Point2d>& points, bool closed) {
-  auto result = std::make_shared<geometry::FcPolyline>();
-  for (const Point2d& point : points) result->pushBackPoints(geometry::makePoint(point));
-  if (closed) result->pushBackPoints(result->Points().front());
-  return result;
+std::shared_ptr<geometry::FcPolyline> polyline(const std::vector<Point2d>& points,
+                                               bool closed = true) {
+  return geometry::polyline(points, closed);
 }
 
 TEST(Profiles, HaveTheAreaOfTheClosedFormulaInBothSensesAndDoNotCrossThemselves) {
@@ -139,48 +135,49 @@ TEST(Profiles, AsCurvesSpanTheSameAreaWhereTheyKeepTheirFillets) {
   }
 }
 
-TEST(Profiles, HaveSoftEdgesAlongTheirArcs) {
-  const auto sharp = makeProfile("IfcIShapeProfileDef", {{"OverallWidth", 1},
-                                                         {"OverallDepth", 2},
-                                                         {"WebThickness", 0.1},
-                                                         {"FlangeThickness", 0.2}})
-                         ->closedProfile(kParams);
-  EXPECT_EQ(sharp.at(0).contours().at(0).size(), 12u);
-  const auto soft = makeProfile("IfcIShapeProfileDef", {{"OverallWidth", 1},
-                                                        {"OverallDepth", 2},
-                                                        {"WebThickness", 0.1},
-                                                        {"FlangeThickness", 0.2},
-                                                        {"FilletRadius", 0.1}})
-                        ->closedProfile(kParams);
-  const auto& contour = soft.at(0).contours().at(0);
-  EXPECT_EQ(contour.size(), 8 + 4 * 17u);
-  std::size_t flagged = 0;
-  for (std::size_t i = 0; i < contour.size(); ++i) flagged += soft[0].isSoft(0, i) ? 1 : 0;
-  EXPECT_EQ(flagged, 4 * 16u);
-  EXPECT_TRUE(makeProfile("IfcCircleProfileDef", {{"Radius", 1}})
-                  ->closedProfile(kParams)
-                  .at(0)
-                  .isSoft(0, 5));
+TEST(Profiles, HaveSoftEdgesAlongTheirArcsAlone) {
+  const std::string sharp = "OverallWidth 1, OverallDepth 2, WebThickness 0.1, FlangeThickness 0.2";
+  const std::string rounded = sharp + ", FilletRadius 0.1";
+  const struct {
+    const char* ifcName;
+    const char* dimensions;
+    std::size_t points, soft;
+  } cases[] = {{"IfcIShapeProfileDef", sharp.c_str(), 12, 0},
+               {"IfcIShapeProfileDef", rounded.c_str(), 8 + 4 * 17, 4 * 16},
+               {"IfcCircleProfileDef", "Radius 1", 64, 64}};
+  for (const auto& test : cases) {
+    const auto areas = makeProfile(test.ifcName, test.dimensions)->closedProfile(kParams);
+    const std::size_t points = areas.at(0).contours().at(0).size();
+    EXPECT_EQ(points, test.points);
+    std::size_t soft = 0;
+    for (std::size_t i = 0; i < points; ++i) soft += areas[0].isSoft(0, i);
+    EXPECT_EQ(soft, test.soft);
+  }
+  const auto contour = contourWithRoundedCorners(Matrix2d::createRotate(0.3), 2, 1, 0.5,
+                                                 ContourOrientation::counterClockwise, kSixteen);
+  ASSERT_EQ(contour.points.size(), 4 * 5u);
+  for (std::size_t i = 0; i < contour.flags.size(); ++i)
+    EXPECT_EQ(contour.flags[i], i % 5 != 0 && i % 5 != 4) << i;
 }
 
-struct BoxCase {
-  const char* ifcName;
-  Dimensions dimensions;
-  double xHalf, yHalf;
-};
-
 TEST(Profiles, HaveTheBoxOfTheirDimensionsAroundTheirPosition) {
-  const ExpectAsserts none;
-  const BoxCase boxes[] = {
-      {"IfcRectangleProfileDef", {{"XDim", 2}, {"YDim", 1}}, 1, 0.5},
-      {"IfcIShapeProfileDef", {{"OverallWidth", 1}, {"OverallDepth", 2}}, 0.5, 1},
-      {"IfcLShapeProfileDef", {{"Depth", 2}, {"Width", 1}}, 0.5, 1},
-      {"IfcLShapeProfileDef", {{"Depth", 2}}, 1, 1},
-      {"IfcTShapeProfileDef", {{"Depth", 2}, {"FlangeWidth", 1}}, 0.5, 1},
-      {"IfcZShapeProfileDef", {{"Depth", 2}, {"FlangeWidth", 1}, {"WebThickness", 0.2}}, 0.9, 1},
-      {"IfcCShapeProfileDef", {{"Depth", 2}, {"Width", 1}}, 0.5, 1},
+  const struct {
+    const char* ifcName;
+    const char* dimensions;
+    double xHalf, yHalf;
+  } boxes[] = {
+      {"IfcRectangleProfileDef", "XDim 2, YDim 1", 1, 0.5},
+      {"IfcIShapeProfileDef", "OverallWidth 1, OverallDepth 2", 0.5, 1},
+      {"IfcLShapeProfileDef", "Depth 2, Width 1", 0.5, 1},
+      {"IfcLShapeProfileDef", "Depth 2", 1, 1},
+      {"IfcTShapeProfileDef", "Depth 2, FlangeWidth 1", 0.5, 1},
+      {"IfcZShapeProfileDef", "Depth 2, FlangeWidth 1, WebThickness 0.2", 0.9, 1},
+      {"IfcCShapeProfileDef", "Depth 2, Width 1", 0.5, 1},
   };
-  for (const BoxCase& box : boxes) {
+  const ExpectAsserts expected(
+      {"doGetPlanarBox(const qor::fc::FcParams&) not implemented for class: class "
+       "qor::fc::resource::profile::FcCircleProfileDef"});
+  for (const auto& box : boxes) {
     const auto profile = makeProfile(box.ifcName, box.dimensions);
     std::static_pointer_cast<FcParameterizedProfileDef>(profile)->setPosition(
         planarPosition(3, 4, 1));
@@ -188,52 +185,35 @@ TEST(Profiles, HaveTheBoxOfTheirDimensionsAroundTheirPosition) {
               Extent2d({3 - box.xHalf, 4 - box.yHalf}, {3 + box.xHalf, 4 + box.yHalf}))
         << box.ifcName;
   }
-}
-
-TEST(Profiles, WithoutABoxOfTheirOwnReportItAndGiveThatOfTheirPoints) {
-  const auto circle = makeProfile("IfcCircleProfileDef", {{"Radius", 2}});
-  const ExpectAsserts expected(
-      {"doGetPlanarBox(const qor::fc::FcParams&) not implemented for class: class "
-       "qor::fc::resource::profile::FcCircleProfileDef"});
-  const auto box = circle->planarBox(kParams);
-  ASSERT_TRUE(box);
-  EXPECT_TRUE(box->maximum().isNear({2, 2}));
+  const auto points = makeProfile("IfcCircleProfileDef", "Radius 2")->planarBox(kParams);
+  EXPECT_TRUE(points && points->maximum().isNear({2, 2})) << "that of its points";
 }
 
 TEST(ArbitraryProfile, TakesClosedCurvesAlone) {
   const auto profile = std::make_shared<FcArbitraryProfileDefWithVoids>();
-  profile->setOuterCurve(polyline({{0, 0}, {0, 4}, {4, 4}, {4, 0}}, true));
-  profile->setInnerCurves({polyline({{1, 1}, {2, 1}, {2, 2}}, true),
-                           polyline({{1, 3}, {2, 3}, {2, 3.5}}, false), nullptr});
+  const char* const notClosed = "Expected OuterCurve() to return a closed curve.";
+  const ExpectAsserts expected({notClosed, "Expect OuterCurve() to be set.", notClosed});
+  EXPECT_TRUE(profile->closedProfile(kParams).empty());
+  EXPECT_FALSE(profile->planarBox(kParams));
+  profile->setOuterCurve(polyline({{0, 0}, {4, 0}, {4, 4}}, false));
+  EXPECT_TRUE(profile->closedProfile(kParams).empty());
+  profile->setOuterCurve(polyline({{0, 0}, {4, 0}, {4, 4}, {0, 0}}, false));
+  EXPECT_EQ(profile->closedProfile(kParams).at(0).contours().at(0).size(), 3u)
+      << "as good with two points at the place where it closes";
+  profile->setOuterCurve(polyline({{0, 0}, {0, 4}, {4, 4}, {4, 0}}));
+  profile->setInnerCurves(
+      {polyline({{1, 1}, {2, 1}, {2, 2}}), polyline({{1, 3}, {2, 3}, {2, 3.5}}, false), nullptr});
   const auto areas = profile->closedProfileWithEnforcedOrientation(kParams, true);
   ASSERT_EQ(areas.at(0).contours().size(), 2u);
   EXPECT_DOUBLE_EQ(signedArea(areas), 15.5);
   EXPECT_EQ(profile->planarBox(kParams), Extent2d({0, 0}, {4, 4}));
-
   profile->transform2d(Matrix2d::createScale(2, 2));
   EXPECT_DOUBLE_EQ(signedArea(profile->closedProfileWithEnforcedOrientation(kParams, true)), 62);
 }
 
-TEST(ArbitraryProfile, IsAsGoodWithTwoPointsAtThePlaceWhereItCloses) {
-  const auto profile = std::make_shared<FcArbitraryClosedProfileDef>();
-  profile->setOuterCurve(polyline({{0, 0}, {4, 0}, {4, 4}, {0, 0}}, false));
-  const auto areas = profile->closedProfile(kParams);
-  EXPECT_EQ(areas.at(0).contours().at(0).size(), 3u);
-  profile->setOuterCurve(polyline({{0, 0}, {4, 0}, {4, 4}}, false));
-  EXPECT_TRUE(profile->closedProfile(kParams).empty());
-}
-
-TEST(ArbitraryProfile, WithoutAClosedOuterCurveIsEmpty) {
-  const auto profile = std::make_shared<FcArbitraryProfileDefWithVoids>();
-  const ExpectAsserts expected(
-      {"Expected OuterCurve() to return a closed curve.", "Expect OuterCurve() to be set."});
-  EXPECT_TRUE(profile->closedProfile(kParams).empty());
-  EXPECT_FALSE(profile->planarBox(kParams));
-}
-
 TEST(DerivedProfile, MirroredIsTurnedToTheSenseAskedFor) {
   const auto parent = std::make_shared<FcArbitraryClosedProfileDef>();
-  parent->setOuterCurve(polyline({{1, 0}, {3, 0}, {3, 1}}, true));
+  parent->setOuterCurve(polyline({{1, 0}, {3, 0}, {3, 1}}));
   const auto mirrored = std::make_shared<FcMirroredProfileDef>();
   EXPECT_TRUE(mirrored->closedProfile(kParams).empty());
   mirrored->setParentProfile(parent);
@@ -245,7 +225,7 @@ TEST(DerivedProfile, MirroredIsTurnedToTheSenseAskedFor) {
 
 TEST(CompositeProfile, GathersItsMembersAndEndsWhereItContainsItself) {
   const auto composite = std::make_shared<FcCompositeProfileDef>();
-  const auto rectangle = makeProfile("IfcRectangleProfileDef", {{"XDim", 2}, {"YDim", 1}});
+  const auto rectangle = makeProfile("IfcRectangleProfileDef", "XDim 2, YDim 1");
   const auto derived = std::make_shared<FcMirroredProfileDef>();
   derived->setParentProfile(composite);
   composite->setProfiles({rectangle, nullptr, derived});
@@ -254,27 +234,26 @@ TEST(CompositeProfile, GathersItsMembersAndEndsWhereItContainsItself) {
   derived->setParentProfile(nullptr);  // or they would keep each other alive
 }
 
-TEST(CenterLineProfile, IsTwiceAsWideAsItsThickness) {
-  const auto profile = std::make_shared<FcCenterLineProfileDef>();
-  {
-    const ExpectAsserts expected({"Expected FcCenterLineProfileDef to have a Curve"});
-    EXPECT_TRUE(profile->closedProfile(kParams).empty());
-  }
-  profile->setCurve(polyline({{0, 0}, {5, 0}}, false));
-  {
-    const ExpectAsserts expected(
-        {"Expected FcCenterLineProfileDef::Thickness to be a positive number"});
-    EXPECT_TRUE(profile->closedProfile(kParams).empty());
-  }
-  profile->setThickness(1.0);
-  EXPECT_DOUBLE_EQ(signedArea(profile->closedProfile(kParams)), 10);
-}
-
-TEST(CircleHollowProfile, IsADiskWhereTheWallLeavesNoRoom) {
+TEST(CenterLineProfile, IsABandOfTheOffsetToEitherSide) {
+  FcCenterLineProfileDef profile;
   const ExpectAsserts expected(
-      {"By formal proposition, the wall thickness must be strictly smaller than the radius"});
-  const auto tube = makeProfile("IfcCircleHollowProfileDef", {{"Radius", 1}, {"WallThickness", 1}});
-  EXPECT_EQ(tube->closedProfile(kParams).at(0).contours().size(), 1u);
+      {"Expected FcCenterLineProfileDef to have a Curve",
+       "Expected FcCenterLineProfileDef::Thickness to be a positive number"});
+  EXPECT_TRUE(profile.closedProfile(kParams).empty());
+  profile.setCurve(polyline({{0, 0}, {5, 0}}, false));
+  EXPECT_TRUE(profile.closedProfile(kParams).empty());
+  profile.setThickness(1.0);
+  EXPECT_DOUBLE_EQ(signedArea(profile.closedProfile(kParams)), 10);
+
+  EXPECT_EQ(centerLineRing({{0, 0}, {0, 3}}, 1),
+            (std::vector<Point2d>{{1, 0}, {1, 3}, {-1, 3}, {-1, 0}}));
+  // What a right angle takes on its inner side it gives on its outer one.
+  const auto angle = centerLineRing({{0, 0}, {3, 0}, {3, 0}, {3, 4}}, 0.5);
+  EXPECT_EQ(angle.size(), 6u);
+  EXPECT_NEAR(Polygon2d(angle).signedArea(), 7, 1e-12);
+  for (const Point2d& point : centerLineRing({{0, 0}, {3, 0}, {1, 0}}, 0.5))
+    EXPECT_LE(point.distance({0, 0}), 4) << "where the line folds back";
+  EXPECT_TRUE(centerLineRing({{1, 1}, {1, 1}}, 0.5).empty());
 }
 
 TEST(RectangleProfile, TakesRotationIntoItsPositionAndScaleIntoItsDimensions) {
@@ -295,15 +274,11 @@ TEST(RectangleProfile, TakesRotationIntoItsPositionAndScaleIntoItsDimensions) {
 TEST(Profiles, WithBadDimensionsReportThemAndStayFinite) {
   const bool enabled = Assert::isEnabled();
   Assert::setEnabled(false);
-  const double bad[] = {0,
-                        -1,
-                        1e9,
-                        1e-12,
-                        std::numeric_limits<double>::quiet_NaN(),
-                        std::numeric_limits<double>::infinity()};
+  const double inf = std::numeric_limits<double>::infinity(),
+               nan = std::numeric_limits<double>::quiet_NaN();
   for (const ProfileCase& shape : fc::test::profileCases())
     for (std::size_t i = 0; i < shape.dimensions.size(); ++i)
-      for (const double value : bad) {
+      for (const double value : {0.0, -1.0, 1e9, 1e-12, nan, inf}) {
         Dimensions dimensions = shape.dimensions;
         dimensions[i].second = value;
         const auto profile = makeProfile(shape.ifcName, dimensions);
@@ -316,13 +291,20 @@ TEST(Profiles, WithBadDimensionsReportThemAndStayFinite) {
   Assert::setEnabled(enabled);
 }
 
-TEST(Profiles, TellWhichFilletDoesNotFit) {
+TEST(Profiles, TellWhichRadiusDoesNotFit) {
   const ExpectAsserts expected(
       {"By formal proposition, InnerFilletRadius must not be larger than YDim / 2 - WallThickness",
-       "Assertion failed: Expect only to be called if roundingRadius <= yDimHalf"});
+       "Assertion failed: Expect only to be called if roundingRadius <= yDimHalf",
+       "Assertion failed: Expect only to be called if roundingRadius > 0.0",
+       "By formal proposition, the wall thickness must be strictly smaller than the radius"});
   makeProfile("IfcRectangleHollowProfileDef",
-              {{"XDim", 4}, {"YDim", 1}, {"WallThickness", 0.1}, {"InnerFilletRadius", 0.5}})
+              "XDim 4, YDim 1, WallThickness 0.1, InnerFilletRadius 0.5")
       ->closedProfile(kParams);
+  const auto sharp =
+      contourWithRoundedCorners({}, 2, 1, 0, ContourOrientation::counterClockwise, kSixteen);
+  EXPECT_EQ(sharp.points.size(), 4u);
+  const auto tube = makeProfile("IfcCircleHollowProfileDef", "Radius 1, WallThickness 1");
+  EXPECT_EQ(tube->closedProfile(kParams).at(0).contours().size(), 1u) << "a disk";
 }
 
 }  // namespace

@@ -1,92 +1,40 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "Fc/FcParams.h"
-#include "Fc/Reflection/MakeEntity.h"
 #include "Fc/Resource/GeometricModel/FcAdvancedBrepWithVoids.h"
 #include "Fc/Resource/GeometricModel/FcFaceBasedSurfaceModel.h"
 #include "Fc/Resource/GeometricModel/FcFacetedBrepWithVoids.h"
 #include "Fc/Resource/GeometricModel/FcGeometricCurveSet.h"
 #include "Fc/Resource/GeometricModel/FcShellBasedSurfaceModel.h"
-#include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
-#include "Fc/Resource/Geometry/FcCartesianPoint.h"
-#include "Fc/Resource/Geometry/FcCircle.h"
 #include "Fc/Resource/Geometry/FcCurveBoundedPlane.h"
 #include "Fc/Resource/Geometry/FcPlane.h"
-#include "Fc/Resource/Geometry/FcPolyline.h"
 #include "Fc/Resource/PresentationDefinition/FcAnnotationFillArea.h"
 #include "Fc/Resource/PresentationDefinition/FcTextLiteral.h"
-#include "Fc/Resource/Topology/FcClosedShell.h"
-#include "Fc/Resource/Topology/FcEdgeCurve.h"
 #include "Fc/Resource/Topology/FcEdgeLoop.h"
-#include "Fc/Resource/Topology/FcFace.h"
-#include "Fc/Resource/Topology/FcFaceOuterBound.h"
-#include "Fc/Resource/Topology/FcOpenShell.h"
-#include "Fc/Resource/Topology/FcPolyLoop.h"
-#include "Fc/Resource/Topology/FcVertexPoint.h"
-#include "Tests/Fc/Geometry/DrawRecorder.h"
+#include "Tests/Fc/Geometry/Faces.h"
+#include "Tests/Fc/Geometry/Items.h"
 #include "Tests/Support/ExpectAsserts.h"
 
 namespace qor::fc::resource::geometricmodel {
 namespace {
 
-using geometry::FcCartesianPoint;
-using geometry::makePoint;
-using math::Extent;
-using math::Matrix;
-using math::Point2d;
-using math::Point3d;
+using namespace geometry;
+using namespace math;
 using test::DrawRecorder;
 using test::ExpectAsserts;
+using test::make;
 using testing::ElementsAre;
 using testing::SizeIs;
 using namespace topology;
 
-using Points = std::vector<std::shared_ptr<FcCartesianPoint>>;
-
-const FcParams params(math::CurveDiscretization(1e-3, 24, 24));
 const Matrix shift = Matrix::createTranslation({10, 0, 0});
 
-std::shared_ptr<FcFace> polygon(Points corners) {
-  auto loop = makeEntity<FcPolyLoop>();
-  loop->setPolygon(std::move(corners));
-  auto bound = makeEntity<FcFaceOuterBound>();
-  bound->setBound(loop);
-  bound->setOrientation(true);
-  auto face = makeEntity<FcFace>();
-  face->setBounds({bound});
-  return face;
-}
-
 /// A face without a polygon.
-std::shared_ptr<FcFace> curvedFace() {
-  auto face = polygon({});
-  face->Bounds()[0]->setBound(makeEntity<FcEdgeLoop>());
-  return face;
-}
-
-template <class Shell>
-std::shared_ptr<Shell> shell(std::vector<std::shared_ptr<FcFace>> faces) {
-  auto result = makeEntity<Shell>();
-  result->setCfsFaces(std::move(faces));
-  return result;
-}
-
-/// A unit tetrahedron: four points, each in three faces.
-struct Tetrahedron {
-  Points p{makePoint(Point3d(0, 0, 0)), makePoint(Point3d(1, 0, 0)), makePoint(Point3d(0, 1, 0)),
-           makePoint(Point3d(0, 0, 1))};
-  std::shared_ptr<FcClosedShell> shell = geometricmodel::shell<FcClosedShell>(
-      {polygon({p[0], p[2], p[1]}), polygon({p[0], p[1], p[3]}), polygon({p[1], p[2], p[3]}),
-       polygon({p[2], p[0], p[3]})});
-};
+std::shared_ptr<FcFace> curvedFace() { return face({bound(make<FcEdgeLoop>())}); }
 
 template <class Brep>
 std::shared_ptr<Brep> brepWithVoid(const Tetrahedron& outer, const Tetrahedron& inner) {
-  auto result = makeEntity<Brep>();
-  result->setOuter(outer.shell);
-  result->setVoids({inner.shell});
-  return result;
+  return make<Brep>({{"Outer", outer.shell}, {"Voids", std::vector{inner.shell}}});
 }
 
 TEST(Brep, DrawsItsOuterShellAlone) {
@@ -105,7 +53,7 @@ TEST(Brep, DrawsItsOuterShellAlone) {
   }
   const ExpectAsserts expected({"Outer should exist", "Outer should exist"});
   DrawRecorder target;
-  const auto hollow = makeEntity<FcFacetedBrep>();
+  const auto hollow = make<FcFacetedBrep>();
   target.draw(*hollow);
   hollow->transform(shift);
   EXPECT_FALSE(hollow->boundingBox(params));
@@ -117,10 +65,9 @@ TEST(Transform, MovesEachSharedPointOnce) {
   EXPECT_EQ(outer.p[0]->point(), Point3d(10, 0, 0));
   EXPECT_EQ(inner.p[1]->point(), Point3d(11, 0, 0));
 
-  auto model = makeEntity<FcShellBasedSurfaceModel>();
+  auto model = make<FcShellBasedSurfaceModel>();
   model->setSbsmBoundary(
-      {FcShell(outer.shell),
-       FcShell(shell<FcOpenShell>({polygon({outer.p[0], outer.p[1], outer.p[2]})}))});
+      {FcShell(outer.shell), FcShell(shell({polygon({outer.p[0], outer.p[1], outer.p[2]})}))});
   model->transform(shift);
   EXPECT_EQ(*model->boundingBox(params), Extent({20, 0, 0}, {21, 1, 1}));
   model->transform(shift);
@@ -129,17 +76,15 @@ TEST(Transform, MovesEachSharedPointOnce) {
 
 TEST(ShellBasedSurfaceModel, IsOneSetUnlessAShellIsCurved) {
   const Tetrahedron a;
-  auto model = makeEntity<FcShellBasedSurfaceModel>();
-  model->setSbsmBoundary(
-      {FcShell(a.shell), FcShell(shell<FcOpenShell>({polygon({a.p[0], a.p[1], a.p[2]})}))});
+  auto model = make<FcShellBasedSurfaceModel>();
+  model->setSbsmBoundary({FcShell(a.shell), FcShell(shell({polygon({a.p[0], a.p[1], a.p[2]})}))});
   DrawRecorder target;
   target.draw(*model);
   ASSERT_THAT(target.polygonalSets, SizeIs(1));
   EXPECT_THAT(target.polygonalSets[0].what.faces, SizeIs(5));
   EXPECT_THAT(target.polygonalSets[0].what.coordinates, SizeIs(4));
 
-  model->setSbsmBoundary(
-      {FcShell(a.shell), FcShell(shell<FcOpenShell>({curvedFace(), curvedFace()}))});
+  model->setSbsmBoundary({FcShell(a.shell), FcShell(shell({curvedFace(), curvedFace()}))});
   const ExpectAsserts expected({"No FcComplexGeometryProcessorInterface implementation set."});
   DrawRecorder other;
   other.draw(*model);
@@ -149,7 +94,7 @@ TEST(ShellBasedSurfaceModel, IsOneSetUnlessAShellIsCurved) {
 
 TEST(FaceBasedSurfaceModel, DrawsEachSetAndTellsOfMissingOnes) {
   const Tetrahedron a;
-  auto model = makeEntity<FcFaceBasedSurfaceModel>();
+  auto model = make<FcFaceBasedSurfaceModel>();
   model->setFbsmFaces({a.shell, nullptr});
   const ExpectAsserts expected({"Expect to have a valid connected face set"});
   DrawRecorder target;
@@ -157,19 +102,17 @@ TEST(FaceBasedSurfaceModel, DrawsEachSetAndTellsOfMissingOnes) {
   EXPECT_THAT(target.items, ElementsAre(a.shell.get()));
 }
 
-std::shared_ptr<geometry::FcPolyline> closedLine(std::vector<Point2d> corners) {
-  Points points;
-  for (const Point2d& corner : corners) points.push_back(makePoint(corner));
-  points.push_back(points.front());
-  auto line = makeEntity<geometry::FcPolyline>();
-  line->setPoints(points);
-  return line;
+std::shared_ptr<geometry::FcPolyline> square() {
+  return polyline(Points2d{{0, 0}, {4, 0}, {4, 4}, {0, 4}}, true);
+}
+std::shared_ptr<geometry::FcPolyline> hole() {
+  return polyline(Points2d{{1, 1}, {1, 2}, {2, 1}}, true);
 }
 
 TEST(GeometricSet, DoesAllForEachElement) {
-  const auto line = closedLine({{0, 0}, {2, 0}, {0, 2}});
-  const auto at = makePoint(Point3d(5, 5, 5));
-  auto set = makeEntity<FcGeometricCurveSet>();
+  const auto line = polyline(Points2d{{0, 0}, {2, 0}, {0, 2}}, true);
+  const auto at = point(5, 5, 5);
+  auto set = make<FcGeometricCurveSet>();
   set->setElements({FcGeometricSetSelect(line), FcGeometricSetSelect(),
                     FcGeometricSetSelect(std::shared_ptr<geometry::FcPoint>(at))});
   DrawRecorder target;
@@ -181,20 +124,20 @@ TEST(GeometricSet, DoesAllForEachElement) {
 }
 
 TEST(CurveBoundedPlane, LiesInItsPlane) {
-  auto plane = makeEntity<geometry::FcPlane>();
-  auto surface = makeEntity<geometry::FcCurveBoundedPlane>();
+  auto plane = make<geometry::FcPlane>();
+  auto surface = make<geometry::FcCurveBoundedPlane>();
   DrawRecorder target;
   const ExpectAsserts expected({"Basis surface not set", "Outer boundary not set",
                                 "Invalid FcCurveBoundedPlane. Missing surface position."});
   target.draw(*surface);
   surface->setBasisSurface(plane);
   target.draw(*surface);
-  surface->setOuterBoundary(closedLine({{0, 0}, {4, 0}, {4, 4}, {0, 4}}));
+  surface->setOuterBoundary(square());
   target.draw(*surface);
   EXPECT_TRUE(target.empty());
 
-  surface->setInnerBoundaries({closedLine({{1, 1}, {1, 2}, {2, 1}}), nullptr});
-  plane->setPosition(geometry::makePlacement(Matrix({0, 0, 7}, {0, 1, 0}, {1, 0, 0})));
+  surface->setInnerBoundaries({hole(), nullptr});
+  plane->setPosition(makePlacement(Matrix({0, 0, 7}, {0, 1, 0}, {1, 0, 0})));
   target.draw(*surface);
   ASSERT_THAT(target.polygons, SizeIs(1));
   ASSERT_THAT(target.polygons[0].what, ElementsAre(SizeIs(4), SizeIs(3)));
@@ -203,12 +146,12 @@ TEST(CurveBoundedPlane, LiesInItsPlane) {
 }
 
 TEST(AnnotationFillArea, IsAPolygonWithHoles) {
-  auto area = makeEntity<presentationdefinition::FcAnnotationFillArea>();
+  auto area = make<presentationdefinition::FcAnnotationFillArea>();
   DrawRecorder target;
   const ExpectAsserts expected({"Outer boundary not set"});
   target.draw(*area);
-  area->setOuterBoundary(closedLine({{0, 0}, {4, 0}, {4, 4}, {0, 4}}));
-  area->setInnerBoundaries({closedLine({{1, 1}, {1, 2}, {2, 1}})});
+  area->setOuterBoundary(square());
+  area->setInnerBoundaries({hole()});
   target.draw(*area);
   ASSERT_THAT(target.polygons, SizeIs(1));
   EXPECT_THAT(target.polygons[0].what, ElementsAre(SizeIs(4), SizeIs(3)));
@@ -217,9 +160,8 @@ TEST(AnnotationFillArea, IsAPolygonWithHoles) {
 }
 
 TEST(TextLiteral, StandsAtItsPlacement) {
-  auto text = makeEntity<presentationdefinition::FcTextLiteral>();
-  text->setLiteral("Küche");
-  text->setPlacement(geometry::FcAxis2Placement(geometry::makePlacement(shift)));
+  const auto text = make<presentationdefinition::FcTextLiteral>(
+      {{"Literal", "Küche"}, {"Placement", makePlacement(shift)}});
   text->transform(shift);
   DrawRecorder target;
   target.draw(*text);
@@ -227,32 +169,6 @@ TEST(TextLiteral, StandsAtItsPlacement) {
   EXPECT_EQ(target.texts[0].what, "Küche");
   EXPECT_TRUE(target.texts[0].frame.origin().isNear({20, 0, 0}));
   EXPECT_EQ(target.transformationGet(), Matrix());
-}
-
-TEST(EdgeCurve, RunsBetweenItsVerticesAgainstItsCurveWhereItSaysSo) {
-  auto circle = makeEntity<geometry::FcCircle>();
-  circle->setPosition(geometry::FcAxis2Placement(geometry::makePlacement(Matrix())));
-  circle->setRadius(1);
-  const auto vertex = [](const Point3d& at) {
-    auto result = makeEntity<FcVertexPoint>();
-    result->setVertexGeometry(makePoint(at));
-    return result;
-  };
-  auto edge = makeEntity<FcEdgeCurve>();
-  edge->setEdgeStart(vertex({1, 0, 0}));
-  edge->setEdgeEnd(vertex({0, 1, 0}));
-  EXPECT_TRUE(edge->getPoints3d(params).empty()) << "without a curve";
-  edge->setEdgeGeometry(circle);
-  edge->setSameSense(true);
-  const auto quarter = edge->getPoints3d(params);
-  ASSERT_THAT(quarter, SizeIs(7)) << "6 of 24 segments";
-  EXPECT_TRUE(quarter[0].isNear({1, 0, 0}));
-  EXPECT_GT(quarter[3].y, 0);
-  edge->setSameSense(false);
-  const auto threeQuarters = edge->getPoints3d(params);
-  ASSERT_THAT(threeQuarters, SizeIs(19));
-  EXPECT_LT(threeQuarters[1].y, 0);
-  EXPECT_TRUE(threeQuarters.back().isNear({0, 1, 0}));
 }
 
 }  // namespace

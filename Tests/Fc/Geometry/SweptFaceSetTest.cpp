@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 #include <vector>
@@ -16,10 +17,7 @@ namespace {
 
 using generate::draw::PolygonalFaceSetOpenGL;
 using generate::draw::Profile2D;
-using math::Matrix;
-using math::Point2d;
-using math::Point3d;
-using math::Vector3d;
+using namespace math;
 using std::numbers::pi;
 using test::ExpectAsserts;
 using test::isClosedSolidOfVolume;
@@ -47,39 +45,32 @@ double chordAngle(double angle, std::size_t segments) {
   return static_cast<double>(segments) * std::sin(step);
 }
 
-TEST(ExtrudedFaceSet, IsClosedAndOutwardInAllDirectionsAndKindsOfEdges) {
-  const ExpectAsserts none;
-  for (const Vector3d& by :
-       {Vector3d(0, 0, 3), Vector3d(0, 0, -3), Vector3d(0.3, -1, 3), Vector3d(0.3, -1, -3)}) {
-    for (const bool soft : {false, true}) {
-      Profile2D profile = frameAt(7, -2, soft);
-      EXPECT_TRUE(isClosedSolidOfVolume({extrudedFaceSet(profile, by)}, 4.5, 1e-12));
-    }
-    Profile2D mixed({rectangle(0, 0, 2, 1)}, Profile2D::EdgeFlags{{true, false, false, false}});
-    EXPECT_TRUE(isClosedSolidOfVolume({extrudedFaceSet(mixed, by)}, 6, 1e-12));
-  }
-}
-
-TEST(ExtrudedFaceSet, OfSharpEdgesSharesItsPoints) {
-  Profile2D profile({rectangle(0, 0, 2, 1)});
-  const PolygonalFaceSetOpenGL set = extrudedFaceSet(profile, {0.1, 0, 1});
-  EXPECT_EQ(set.coordinates.size(), 8u);
-  EXPECT_EQ(set.faces.size(), 6u);
-  EXPECT_TRUE(set.isHard(0) && set.isHard(5));
-}
-
-TEST(ExtrudedFaceSet, KeepsSidesSoftWhoseEdgeHasAFlagAtEitherEnd) {
-  Profile2D profile({rectangle(0, 0, 2, 1)}, Profile2D::EdgeFlags{{false, true, false, false}});
-  const PolygonalFaceSetOpenGL set = extrudedFaceSet(profile, {0, 0, 1});
-  std::size_t soft = 0;
-  for (std::size_t i = 0; i < set.faces.size(); ++i) soft += set.isHard(i) ? 0 : 1;
-  EXPECT_EQ(soft, 2u);
-}
-
-TEST(ExtrudedFaceSet, TakesAnEdgeWithoutAFlagForSharp) {
+TEST(ExtrudedFaceSet, SharesThePointsOfSharpEdgesAndKeepsSidesSoftWithAFlagAtEitherEnd) {
   const ExpectAsserts expected({"Invalid curved indices", "Invalid curved indices"});
-  Profile2D profile({rectangle(0, 0, 2, 1)}, Profile2D::EdgeFlags{{true, true, true}});
-  EXPECT_TRUE(isClosedSolidOfVolume({extrudedFaceSet(profile, {0, 0, 1})}, 2, 1e-12));
+  const struct {
+    Profile2D::EdgeFlags flags;
+    std::size_t points, soft;
+  } cases[] = {{{{false, false, false, false}}, 8, 0},
+               {{{false, true, false, false}}, 16, 2},
+               {{{true, true, true}}, 0, 0}};  // an edge without a flag is taken for sharp
+  for (const auto& test : cases) {
+    Profile2D profile({rectangle(0, 0, 2, 1)}, Profile2D::EdgeFlags(test.flags));
+    const PolygonalFaceSetOpenGL set = extrudedFaceSet(profile, {0.1, 0, -1});
+    EXPECT_TRUE(isClosedSolidOfVolume({set}, 2, 1e-12));
+    if (test.points == 0) continue;
+    EXPECT_EQ(set.coordinates.size(), test.points);
+    ASSERT_EQ(set.faces.size(), 6u);
+    std::size_t soft = 0;
+    for (std::size_t i = 0; i < set.faces.size(); ++i) {
+      if (set.isHard(i)) continue;
+      ++soft;
+      const auto isFlagged = [&](std::uint32_t point) {
+        return set.coordinates[point].isNear({2, 0, 0});
+      };
+      EXPECT_TRUE(std::any_of(set.faces[i].outer.begin(), set.faces[i].outer.end(), isFlagged));
+    }
+    EXPECT_EQ(soft, test.soft);
+  }
 }
 
 TEST(ExtrudedFaceSet, TapersToTheVolumeOfAFrustum) {
@@ -93,18 +84,16 @@ TEST(ExtrudedFaceSet, TapersToTheVolumeOfAFrustum) {
     }
 }
 
-struct Turn {
-  const char* what;
-  double angle;
-  RevolutionAxis axis;
-  Profile2D profile;
-  double area;
-  double radius;  ///< of the centre of the area
-};
-
 TEST(RevolvedFaceSet, HasTheVolumeThatPappusSays) {
   const ExpectAsserts none;
-  const Turn turns[] = {
+  const struct {
+    const char* what;
+    double angle;
+    RevolutionAxis axis;
+    Profile2D profile;
+    double area;
+    double radius;  ///< of the centre of the area
+  } turns[] = {
       {"left of the axis, a quarter", pi / 2, {{0, 0}, {0, 1}}, frameAt(-3, 1), 1.5, 3},
       {"right of the axis, a quarter", pi / 2, {{0, 0}, {0, 1}}, frameAt(3, 1), 1.5, 3},
       {"right of a downward axis, three quarters",
@@ -129,7 +118,7 @@ TEST(RevolvedFaceSet, HasTheVolumeThatPappusSays) {
        1,
        0.5},
   };
-  for (const Turn& turn : turns) {
+  for (const auto& turn : turns) {
     const auto set = revolvedFaceSet(turn.profile, turn.axis, turn.angle, kFine);
     ASSERT_TRUE(set) << turn.what;
     const double outer =
@@ -172,17 +161,15 @@ TEST(RevolvedFaceSet, TapersFromTheFirstProfileToTheLast) {
   }
 }
 
-struct Path {
-  const char* what;
-  std::vector<Point3d> points;
-  bool closed;
-  double length;
-  std::size_t rings;
-};
-
 TEST(SweptAlongPath, HasAreaTimesLengthAndARingAtEachCorner) {
   const ExpectAsserts none;
-  const Path paths[] = {
+  const struct {
+    const char* what;
+    std::vector<Point3d> points;
+    bool closed;
+    double length;
+    std::size_t rings;
+  } paths[] = {
       {"one leg", {{0, 0, 0}, {3, 4, 0}}, false, 5, 2},
       {"upward, along the reference", {{0, 0, 0}, {0, 0, 2}}, false, 2, 2},
       {"a straight stretch", {{0, 0, 0}, {3, 0, 0}, {6, 0, 0}, {6, 6, 0}}, false, 12, 3},
@@ -190,7 +177,7 @@ TEST(SweptAlongPath, HasAreaTimesLengthAndARingAtEachCorner) {
       {"out of the plane", {{0, 0, 0}, {6, 0, 0}, {6, 6, 0}, {6, 6, 6}}, false, 18, 4},
       {"closed", {{0, 0, 0}, {6, 0, 0}, {6, 6, 0}, {0, 6, 0}, {0, 0, 0}}, true, 24, 5},
   };
-  for (const Path& path : paths)
+  for (const auto& path : paths)
     for (const bool soft : {false, true}) {
       // Centred, so that what a corner takes on its inner side it gives on its outer one.
       const Profile2D profile = frameAt(0, 0, soft);

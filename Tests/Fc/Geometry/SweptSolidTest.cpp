@@ -3,8 +3,8 @@
 #include <cmath>
 #include <limits>
 #include <numbers>
+#include <set>
 
-#include "Fc/FcParams.h"
 #include "Fc/Resource/GeometricModel/FcBlock.h"
 #include "Fc/Resource/GeometricModel/FcExtrudedAreaSolidTapered.h"
 #include "Fc/Resource/GeometricModel/FcFixedReferenceSweptAreaSolid.h"
@@ -12,12 +12,9 @@
 #include "Fc/Resource/GeometricModel/FcRightCircularCylinder.h"
 #include "Fc/Resource/GeometricModel/FcSweptDiskSolidPolygonal.h"
 #include "Fc/Resource/Geometry/FcAxis1Placement.h"
-#include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
-#include "Fc/Resource/Geometry/FcCircle.h"
 #include "Fc/Resource/Geometry/FcIndexedPolyCurve.h"
-#include "Fc/Resource/Geometry/FcPolyline.h"
 #include "Fc/Resource/Profile/FcArbitraryClosedProfileDef.h"
-#include "Tests/Fc/Geometry/DrawRecorder.h"
+#include "Tests/Fc/Geometry/Items.h"
 #include "Tests/Fc/Geometry/ProfileCases.h"
 #include "Tests/Support/ExpectAsserts.h"
 #include "Tests/Support/SolidMesh.h"
@@ -27,16 +24,16 @@ namespace {
 
 using fc::test::makeProfile;
 using fc::test::ProfileCase;
-using math::Extent;
-using math::Matrix;
-using math::Point3d;
-using math::Vector3d;
+using namespace geometry;
+using namespace math;
 using profile::FcProfileDef;
 using qor::test::DrawRecorder;
 using qor::test::ExpectAsserts;
 using qor::test::isClosedSolidOfVolume;
+using qor::test::make;
 using qor::test::SolidMesh;
 using std::numbers::pi;
+using Points3d = std::vector<Point3d>;
 
 const FcParams kParams{fc::test::sixtyFour()};
 
@@ -66,40 +63,43 @@ std::shared_ptr<geometry::FcAxis2Placement3D> slantedPosition() {
                                  Matrix::createTranslation({10, 20, 30}));
 }
 
-std::shared_ptr<FcExtrudedAreaSolid> extrusion(std::shared_ptr<FcProfileDef> profile,
+std::shared_ptr<FcExtrudedAreaSolid> extrusion(const std::shared_ptr<FcProfileDef>& area,
                                                const Vector3d& direction, double depth) {
-  auto solid = std::make_shared<FcExtrudedAreaSolid>();
-  solid->setSweptArea(std::move(profile));
-  solid->setExtrudedDirection(geometry::makeDirection(direction));
-  solid->setDepth(depth);
-  return solid;
+  return make<FcExtrudedAreaSolid>({{"SweptArea", area},
+                                    {"ExtrudedDirection", geometry::makeDirection(direction)},
+                                    {"Depth", depth}});
 }
 
 std::shared_ptr<geometry::FcAxis1Placement> axis(const Point3d& location,
                                                  const Vector3d& direction) {
-  auto result = std::make_shared<geometry::FcAxis1Placement>();
-  result->setLocation(geometry::makePoint(location));
-  result->setAxis(geometry::makeDirection(direction));
-  return result;
+  return make<geometry::FcAxis1Placement>(
+      {{"Location", geometry::makePoint(location)}, {"Axis", geometry::makeDirection(direction)}});
 }
 
-std::shared_ptr<geometry::FcPolyline> polyline(const std::vector<Point3d>& points,
-                                               bool closed = false) {
-  auto result = std::make_shared<geometry::FcPolyline>();
-  for (const Point3d& point : points) result->pushBackPoints(geometry::makePoint(point));
-  if (closed) result->pushBackPoints(result->Points().front());
-  return result;
+/// 1 by 2 metres around the origin.
+std::shared_ptr<FcProfileDef> rectangle() {
+  return makeProfile("IfcRectangleProfileDef", "XDim 1, YDim 2");
 }
 
-std::shared_ptr<geometry::FcCircle> circle(double radius) {
-  auto result = std::make_shared<geometry::FcCircle>();
-  result->setPosition(geometry::makePlacement({}));
-  result->setRadius(radius);
-  return result;
+/// It draws nothing and has no box, and tells both times why.
+template <class Item>
+void expectRefused(const Item& item, const char* message) {
+  const ExpectAsserts expected({message, message});
+  EXPECT_TRUE(Drawing(item).recorder.empty());
+  EXPECT_FALSE(item.boundingBox(kParams));
 }
 
-TEST(ExtrudedAreaSolid, OfEveryProfileIsClosedAndOfAreaTimesHeight) {
+/// The box of the item contains all that it draws.
+template <class Item>
+void expectInItsBox(const Item& item, const Drawing& drawing, double margin = 1e-9) {
+  const auto box = item.boundingBox(kParams);
+  EXPECT_TRUE(box && isInside(drawing.box, *box, margin));
+}
+
+TEST(ExtrudedAreaSolid, OfEveryProfileIsClosedAndOfAreaTimesHeightWithinItsBox) {
   const ExpectAsserts none;
+  const std::set<std::string> boxed{"IfcRectangleProfileDef", "IfcIShapeProfileDef",
+                                    "IfcZShapeProfileDef"};
   const Vector3d directions[] = {{0, 0, 1}, {0, 0, -1}, {0, 0, 5}, {0.4, -0.2, 1}, {0.4, -0.2, -1}};
   for (const ProfileCase& shape : fc::test::profileCases())
     for (const Vector3d& direction : directions) {
@@ -110,13 +110,14 @@ TEST(ExtrudedAreaSolid, OfEveryProfileIsClosedAndOfAreaTimesHeight) {
       EXPECT_TRUE(
           isClosedSolidOfVolume(drawing.mesh, shape.area(fc::test::piOfSixtyFour()) * height, 1e-9))
           << shape.ifcName << " along " << direction.x << " " << direction.z;
+      if (boxed.count(shape.ifcName)) expectInItsBox(*solid, drawing);
     }
 }
 
 TEST(ExtrudedAreaSolid, StraightUpOrDownIsTheBlockOrCylinderThatItIs) {
   for (const double up : {1.0, -1.0}) {
     const auto box =
-        extrusion(makeProfile("IfcRectangleProfileDef", {{"XDim", 2}, {"YDim", 1}}), {0, 0, up}, 3);
+        extrusion(makeProfile("IfcRectangleProfileDef", "XDim 2, YDim 1"), {0, 0, up}, 3);
     EXPECT_FALSE(box->asEquivalentRightCircularCylinder());
     const auto block = box->asFcBlock();
     ASSERT_TRUE(block);
@@ -124,14 +125,14 @@ TEST(ExtrudedAreaSolid, StraightUpOrDownIsTheBlockOrCylinderThatItIs) {
     EXPECT_TRUE(block->Position()->placementGet().origin().isNear({-1, -0.5, up > 0 ? 0.0 : -3.0}));
     EXPECT_EQ(Drawing(*box).recorder.items.size(), 1u);
 
-    const auto rod = extrusion(makeProfile("IfcCircleProfileDef", {{"Radius", 2}}), {0, 0, up}, 3);
+    const auto rod = extrusion(makeProfile("IfcCircleProfileDef", "Radius 2"), {0, 0, up}, 3);
     const auto cylinder = rod->asEquivalentRightCircularCylinder();
     ASSERT_TRUE(cylinder);
     EXPECT_TRUE(cylinder->Position()->placementGet().z().isNear({0, 0, up}));
     EXPECT_EQ(Drawing(*rod).recorder.items.size(), 1u);
   }
   const auto slanted =
-      extrusion(makeProfile("IfcRectangleProfileDef", {{"XDim", 2}, {"YDim", 1}}), {0.1, 0, 1}, 3);
+      extrusion(makeProfile("IfcRectangleProfileDef", "XDim 2, YDim 1"), {0.1, 0, 1}, 3);
   EXPECT_FALSE(slanted->asFcBlock());
   const Drawing drawing(*slanted);
   ASSERT_EQ(drawing.recorder.polygonalSets.size(), 1u);
@@ -139,61 +140,37 @@ TEST(ExtrudedAreaSolid, StraightUpOrDownIsTheBlockOrCylinderThatItIs) {
   EXPECT_EQ(drawing.recorder.polygonalSets[0].what.coordinates.size(), 8u);
 }
 
-TEST(ExtrudedAreaSolid, HasABoxAroundWhatItDraws) {
-  for (const char* name : {"IfcRectangleProfileDef", "IfcIShapeProfileDef", "IfcZShapeProfileDef"})
-    for (const ProfileCase& shape : fc::test::profileCases()) {
-      if (std::string(shape.ifcName) != name) continue;
-      const auto solid = extrusion(makeProfile(name, shape.dimensions), {0.4, -0.2, 1}, 3);
-      solid->setPosition(slantedPosition());
-      const auto box = solid->boundingBox(kParams);
-      ASSERT_TRUE(box);
-      EXPECT_TRUE(isInside(Drawing(*solid).box, *box)) << name;
-    }
-}
-
 TEST(ExtrudedAreaSolid, TellsWhatIsMissing) {
   FcExtrudedAreaSolid solid;
-  const auto drawsNothing = [&](const char* message) {
-    const ExpectAsserts expected({message, message});
-    const DrawRecorder recorder = Drawing(solid).recorder;
-    return recorder.empty() && !solid.boundingBox(kParams);
-  };
-  EXPECT_TRUE(drawsNothing("Depth should be a positive value"));
+  expectRefused(solid, "Depth should be a positive value");
   solid.setDepth(std::numeric_limits<double>::quiet_NaN());
-  EXPECT_TRUE(drawsNothing("Depth should be a positive value"));
+  expectRefused(solid, "Depth should be a positive value");
   solid.setDepth(1.0);
-  EXPECT_TRUE(drawsNothing("Swept area should exist"));
-  solid.setSweptArea(makeProfile("IfcEllipseProfileDef", {{"SemiAxis1", 2}, {"SemiAxis2", 1}}));
-  EXPECT_TRUE(drawsNothing("Extrude direction should exist"));
+  expectRefused(solid, "Swept area should exist");
+  solid.setSweptArea(makeProfile("IfcEllipseProfileDef", "SemiAxis1 2, SemiAxis2 1"));
+  expectRefused(solid, "Extrude direction should exist");
   solid.setExtrudedDirection(geometry::makeDirection(Vector3d(1, 0, 0)));
-  const ExpectAsserts expected(
-      {"By formal proposition, the extruded direction must not be perpendicular to the local "
-       "Z-Axis"});
-  EXPECT_FALSE(Drawing(solid).recorder.empty());
-}
-
-TEST(ExtrudedAreaSolid, DrawsNothingForAnOpenProfile) {
-  auto profile = std::make_shared<profile::FcArbitraryClosedProfileDef>();
-  profile->setOuterCurve(polyline({{0, 0, 0}, {1, 0, 0}, {1, 1, 0}}));
-  EXPECT_TRUE(Drawing(*extrusion(profile, {0, 0, 1}, 1)).recorder.empty());
+  {
+    const ExpectAsserts expected(
+        {"By formal proposition, the extruded direction must not be perpendicular to the local "
+         "Z-Axis"});
+    EXPECT_FALSE(Drawing(solid).recorder.empty());
+  }
+  const auto open = make<profile::FcArbitraryClosedProfileDef>(
+      {{"OuterCurve", polyline(Points3d{{0, 0, 0}, {1, 0, 0}, {1, 1, 0}})}});
+  EXPECT_TRUE(Drawing(*extrusion(open, {0, 0, 1}, 1)).recorder.empty());
 }
 
 /// Drawing the moved solid gives what moving the drawn one does.
 TEST(SweptSolids, AreMovedAndScaledAsWhatTheyDraw) {
   const ExpectAsserts none;
-  auto turned = std::make_shared<FcRevolvedAreaSolid>();
-  turned->setSweptArea(makeProfile("IfcRectangleProfileDef", {{"XDim", 1}, {"YDim", 2}}));
-  turned->setAxis(axis({3, 0, 0}, {0, 1, 0}));
-  turned->setAngle(2.0);
-  auto pipe = std::make_shared<FcSweptDiskSolid>();
-  pipe->setDirectrix(polyline({{0, 0, 0}, {5, 0, 0}, {5, 5, 3}}));
-  pipe->setRadius(0.2);
+  const auto turned = make<FcRevolvedAreaSolid>(
+      {{"SweptArea", rectangle()}, {"Axis", axis({3, 0, 0}, {0, 1, 0})}, {"Angle", 2}});
+  const auto pipe = make<FcSweptDiskSolid>(
+      {{"Directrix", polyline(Points3d{{0, 0, 0}, {5, 0, 0}, {5, 5, 3}})}, {"Radius", 0.2}});
   const Matrix move = Matrix::createYRotate(0.7) * Matrix::createTranslation({1, 2, 3});
   const Matrix grow = Matrix::createScale(2, 2, 2) * move;
-  const auto slanted = [] {
-    return extrusion(makeProfile("IfcRectangleProfileDef", {{"XDim", 1}, {"YDim", 2}}), {0.5, 0, 1},
-                     3);
-  };
+  const auto slanted = [] { return extrusion(rectangle(), {0.5, 0, 1}, 3); };
   const std::pair<std::shared_ptr<geometry::FcRepresentationItem>, Matrix> cases[] = {
       {slanted(), move}, {slanted(), grow}, {turned, move}, {turned, grow}, {pipe, move}};
   for (const auto& [item, matrix] : cases) {
@@ -229,16 +206,16 @@ TEST(RevolvedAreaSolid, RefusesToBeMirroredOrStretched) {
 
 TEST(ExtrudedAreaSolidTapered, PairsTheArcsOfBothProfiles) {
   const ExpectAsserts none;
-  FcExtrudedAreaSolidTapered solid;
-  solid.setExtrudedDirection(geometry::makeDirection(Vector3d(0, 0, -1)));
-  solid.setDepth(3.0);
-  solid.setPosition(slantedPosition());
-  solid.setSweptArea(makeProfile("IfcCircleProfileDef", {{"Radius", 2}}));
-  solid.setEndSweptArea(makeProfile("IfcCircleProfileDef", {{"Radius", 0.01}}));
+  const auto solid = make<FcExtrudedAreaSolidTapered>(
+      {{"ExtrudedDirection", geometry::makeDirection(Vector3d(0, 0, -1))},
+       {"Depth", 3},
+       {"Position", slantedPosition()},
+       {"SweptArea", makeProfile("IfcCircleProfileDef", "Radius 2")},
+       {"EndSweptArea", makeProfile("IfcCircleProfileDef", "Radius 0.01")}});
   // A target whose circles have corners by their size, so that the smaller one alone would have
   // few.
   DrawRecorder recorder(math::CurveDiscretization(0.01, 4, 400));
-  recorder.draw(solid);
+  recorder.draw(*solid);
   ASSERT_EQ(recorder.polygonalSets.size(), 2u);
   SolidMesh mesh;
   for (const auto& set : recorder.polygonalSets) mesh.add(set.what, set.frame);
@@ -248,73 +225,63 @@ TEST(ExtrudedAreaSolidTapered, PairsTheArcsOfBothProfiles) {
 }
 
 TEST(TaperedSolids, TellProfilesThatDoNotPair) {
-  const auto rectangle = makeProfile("IfcRectangleProfileDef", {{"XDim", 1}, {"YDim", 2}});
-  const auto tube = makeProfile("IfcRectangleHollowProfileDef",
-                                {{"XDim", 1}, {"YDim", 1}, {"WallThickness", 0.1}});
-  const auto angle = makeProfile("IfcLShapeProfileDef", {{"Depth", 2}, {"Thickness", 0.2}});
-  FcExtrudedAreaSolidTapered pushed;
-  pushed.setExtrudedDirection(geometry::makeDirection(Vector3d(0, 0, 1)));
-  pushed.setDepth(3.0);
-  pushed.setSweptArea(rectangle);
-  FcRevolvedAreaSolidTapered turned;
-  turned.setAxis(axis({5, 0, 0}, {0, 1, 0}));
-  turned.setAngle(1.0);
-  turned.setSweptArea(rectangle);
+  const auto tube =
+      makeProfile("IfcRectangleHollowProfileDef", "XDim 1, YDim 1, WallThickness 0.1");
+  const auto angle = makeProfile("IfcLShapeProfileDef", "Depth 2, Thickness 0.2");
+  const auto pushed = make<FcExtrudedAreaSolidTapered>(
+      {{"ExtrudedDirection", geometry::makeDirection(Vector3d(0, 0, 1))},
+       {"Depth", 3},
+       {"SweptArea", rectangle()}});
+  const auto turned = make<FcRevolvedAreaSolidTapered>(
+      {{"Axis", axis({5, 0, 0}, {0, 1, 0})}, {"Angle", 1}, {"SweptArea", rectangle()}});
   const char* polygons = "Number of polygons in top and bottom profile should be equal";
   const char* points = "Number of points in top and bottom profile should be equal";
   const ExpectAsserts expected({"End swept area should exist", "End swept area should exist",
                                 polygons, points, polygons, points});
-  EXPECT_TRUE(Drawing(pushed).recorder.empty());
-  EXPECT_TRUE(Drawing(turned).recorder.empty());
-  for (const auto& end : {tube, angle}) {
-    pushed.setEndSweptArea(end);
-    turned.setEndSweptArea(end);
-    EXPECT_TRUE(Drawing(pushed).recorder.empty());
-    EXPECT_TRUE(Drawing(turned).recorder.empty());
+  for (const auto& end : {std::shared_ptr<FcProfileDef>(), tube, angle}) {
+    pushed->setEndSweptArea(end);
+    turned->setEndSweptArea(end);
+    EXPECT_TRUE(Drawing(*pushed).recorder.empty());
+    EXPECT_TRUE(Drawing(*turned).recorder.empty());
   }
 }
 
 TEST(RevolvedAreaSolid, StandsInItsPositionWithinItsBox) {
   for (const double angle : {0.4, pi, 2 * pi}) {
-    FcRevolvedAreaSolid solid;
-    solid.setPosition(slantedPosition());
-    solid.setSweptArea(makeProfile("IfcRectangleProfileDef", {{"XDim", 1}, {"YDim", 2}}));
-    solid.setAxis(axis({3, 0, 0}, {0, 2, 0}));
-    solid.setAngle(angle);
-    const Drawing drawing(solid);
+    const auto solid = make<FcRevolvedAreaSolid>({{"Position", slantedPosition()},
+                                                  {"SweptArea", rectangle()},
+                                                  {"Axis", axis({3, 0, 0}, {0, 2, 0})},
+                                                  {"Angle", angle}});
+    const Drawing drawing(*solid);
     EXPECT_TRUE(isClosedSolidOfVolume(drawing.mesh, 2 * 3 * angle, 0.002));
-    const auto box = solid.boundingBox(kParams);
-    EXPECT_TRUE(box && isInside(drawing.box, *box));
+    expectInItsBox(*solid, drawing);
   }
 }
 
 TEST(RevolvedAreaSolid, TellsWhatIsWrong) {
   FcRevolvedAreaSolid solid;
   solid.setAngle(7.0);
-  const auto drawsNothing = [&](const char* message) {
-    const ExpectAsserts expected({message, message});
-    return Drawing(solid).recorder.empty() && !solid.boundingBox(kParams);
-  };
-  EXPECT_TRUE(drawsNothing("Axis should exist"));
+  expectRefused(solid, "Axis should exist");
   solid.setAxis(axis({0, 0, 1}, {0, 0, 1}));
-  EXPECT_TRUE(drawsNothing("Axis location must have a Z value of 0"));
+  expectRefused(solid, "Axis location must have a Z value of 0");
   solid.Axis()->setLocation(geometry::makePoint(Point3d(3, 0, 0)));
-  EXPECT_TRUE(drawsNothing("Axis direction must have a Z value of 0"));
+  expectRefused(solid, "Axis direction must have a Z value of 0");
   solid.Axis()->clearAxis();
-  EXPECT_TRUE(drawsNothing("Axis direction must exist"));
+  expectRefused(solid, "Axis direction must exist");
   solid.setAxis(axis({3, 0, 0}, {0, 1, 0}));
-  EXPECT_TRUE(drawsNothing("Swept area should exist"));
-  solid.setSweptArea(makeProfile("IfcRectangleProfileDef", {{"XDim", 1}, {"YDim", 2}}));
-  EXPECT_TRUE(drawsNothing("Angle should be between 0 and 2pi (or 360 deg)"));
-  solid.setAngle(std::numeric_limits<double>::quiet_NaN());
-  EXPECT_TRUE(drawsNothing("Angle should be between 0 and 2pi (or 360 deg)"));
+  expectRefused(solid, "Swept area should exist");
+  solid.setSweptArea(rectangle());
+  for (const double angle : {7.0, std::numeric_limits<double>::quiet_NaN()}) {
+    solid.setAngle(angle);
+    expectRefused(solid, "Angle should be between 0 and 2pi (or 360 deg)");
+  }
 }
 
 TEST(RevolvedAreaSolidTapered, StandsFullTurnsToo) {
   FcRevolvedAreaSolidTapered solid;
   solid.setAxis(axis({3, 0, 0}, {0, 1, 0}));
-  solid.setSweptArea(makeProfile("IfcRectangleProfileDef", {{"XDim", 1}, {"YDim", 2}}));
-  solid.setEndSweptArea(makeProfile("IfcRectangleProfileDef", {{"XDim", 0.5}, {"YDim", 1}}));
+  solid.setSweptArea(rectangle());
+  solid.setEndSweptArea(makeProfile("IfcRectangleProfileDef", "XDim 0.5, YDim 1"));
   {
     const ExpectAsserts expected({"Angle should exist"});
     EXPECT_TRUE(Drawing(solid).recorder.empty());
@@ -322,8 +289,7 @@ TEST(RevolvedAreaSolidTapered, StandsFullTurnsToo) {
   solid.setAngle(pi);
   const Drawing drawing(solid);
   EXPECT_TRUE(isClosedSolidOfVolume(drawing.mesh, 2 * 7.0 / 12 * 3 * pi, 0.01));
-  const auto box = solid.boundingBox(kParams);
-  EXPECT_TRUE(box && isInside(drawing.box, *box));
+  expectInItsBox(solid, drawing);
   solid.setAngle(2 * pi);
   EXPECT_EQ(Drawing(solid).recorder.polygonalSets.at(0).what.faces.size(), 2 + 4 * 64u);
 }
@@ -336,13 +302,12 @@ TEST(FixedReferenceSweptAreaSolid, FollowsItsCurveWithinItsBox) {
     solid.setPosition(slantedPosition());
     solid.setSweptArea(makeProfile(shape.ifcName, shape.dimensions));
     solid.setFixedReference(geometry::makeDirection(Vector3d(0, 0, 4)));
-    solid.setDirectrix(polyline({{0, 0, 0}, {20, 0, 0}, {30, 10, 0}, {30, 30, 10}}));
+    solid.setDirectrix(polyline(Points3d{{0, 0, 0}, {20, 0, 0}, {30, 10, 0}, {30, 30, 10}}));
     const Drawing drawing(solid);
     EXPECT_EQ(drawing.mesh.problem(), "");
     const double length = 20 + std::sqrt(200) + std::sqrt(500);
     EXPECT_NEAR(drawing.mesh.volume() / (shape.area(pi) * length), 1, 0.02);
-    const auto box = solid.boundingBox(kParams);
-    EXPECT_TRUE(box && isInside(drawing.box, *box));
+    expectInItsBox(solid, drawing);
   }
 }
 
@@ -351,9 +316,9 @@ TEST(FixedReferenceSweptAreaSolid, TellsWhatIsMissingAndIgnoresTrims) {
   const ExpectAsserts expected({"Directrix should exist", "Swept area should exist",
                                 "Start param not implemented", "End param not implemented"});
   EXPECT_TRUE(Drawing(solid).recorder.empty());
-  solid.setDirectrix(polyline({{0, 0, 0}, {0, 0, 5}}));
+  solid.setDirectrix(polyline(Points3d{{0, 0, 0}, {0, 0, 5}}));
   EXPECT_TRUE(Drawing(solid).recorder.empty());
-  solid.setSweptArea(makeProfile("IfcRectangleProfileDef", {{"XDim", 1}, {"YDim", 2}}));
+  solid.setSweptArea(rectangle());
   solid.setStartParam(measure::FcParameterValue(0.0));
   solid.setEndParam(measure::FcParameterValue(0.5));
   EXPECT_TRUE(isClosedSolidOfVolume(Drawing(solid).mesh, 10, 1e-9));
@@ -362,50 +327,41 @@ TEST(FixedReferenceSweptAreaSolid, TellsWhatIsMissingAndIgnoresTrims) {
 TEST(SweptDiskSolid, KeepsItsVolumeRoundBendsAndRings) {
   const ExpectAsserts none;
   const double section = fc::test::piOfSixtyFour() * (0.04 - 0.01);
-  struct Case {
-    std::shared_ptr<geometry::FcCurve> directrix;
-    double length;
-  };
-  const Case cases[] = {
-      {polyline({{0, 0, 0}, {3, 0, 0}, {3, 3, 0}}), 6},
-      {polyline({{0, 0, 0}, {0, 0, 3}}), 3},
-      {polyline({{0, 0, 0}, {3, 0, 0}, {3, 3, 0}, {0, 3, 0}}, true), 12},
+  const std::pair<std::shared_ptr<geometry::FcCurve>, double> curvesAndLengths[] = {
+      {polyline(Points3d{{0, 0, 0}, {3, 0, 0}, {3, 3, 0}}), 6},
+      {polyline(Points3d{{0, 0, 0}, {0, 0, 3}}), 3},
+      {polyline(Points3d{{0, 0, 0}, {3, 0, 0}, {3, 3, 0}, {0, 3, 0}}, true), 12},
       {circle(5), 5 * 64 * 2 * std::sin(pi / 64)},
   };
-  for (const Case& bend : cases) {
+  for (const auto& [directrix, length] : curvesAndLengths) {
     FcSweptDiskSolid pipe;
-    pipe.setDirectrix(bend.directrix);
+    pipe.setDirectrix(directrix);
     pipe.setRadius(0.2);
     pipe.setInnerRadius(measure::FcPositiveLengthMeasure(0.1));
     const Drawing drawing(pipe);
-    EXPECT_TRUE(isClosedSolidOfVolume(drawing.mesh, section * bend.length, 1e-6));
+    EXPECT_TRUE(isClosedSolidOfVolume(drawing.mesh, section * length, 1e-6));
     // A mitre at a corner of the curve's polygon reaches a little beyond the radius.
-    const auto box = pipe.boundingBox(kParams);
-    EXPECT_TRUE(box && isInside(drawing.box, *box, 0.2 * (1 / std::cos(pi / 64) - 1) + 1e-9));
+    expectInItsBox(pipe, drawing, 0.2 * (1 / std::cos(pi / 64) - 1) + 1e-9);
   }
 }
 
 TEST(SweptDiskSolid, TellsWhatIsWrong) {
   FcSweptDiskSolid pipe;
-  const auto drawsNothing = [&](const char* message) {
-    const ExpectAsserts expected({message, message});
-    return Drawing(pipe).recorder.empty() && !pipe.boundingBox(kParams);
-  };
-  EXPECT_TRUE(drawsNothing("FcSweptDiskSolid need Directrix"));
-  pipe.setDirectrix(polyline({{0, 0, 0}, {0, 0, 3}}));
-  EXPECT_TRUE(drawsNothing("FcSweptDiskSolid should have positive Radius"));
+  expectRefused(pipe, "FcSweptDiskSolid need Directrix");
+  pipe.setDirectrix(polyline(Points3d{{0, 0, 0}, {0, 0, 3}}));
+  expectRefused(pipe, "FcSweptDiskSolid should have positive Radius");
   pipe.setRadius(0.5);
   pipe.setInnerRadius(measure::FcPositiveLengthMeasure(-0.1));
-  EXPECT_TRUE(
-      drawsNothing("FcSweptDiskSolid should have positive InnerRadius or no inner radius at all"));
+  expectRefused(pipe,
+                "FcSweptDiskSolid should have positive InnerRadius or no inner radius at all");
   pipe.setInnerRadius(measure::FcPositiveLengthMeasure(0.5));
-  EXPECT_TRUE(drawsNothing("FcSweptDiskSolid InnerRadius should be less than Radius"));
+  expectRefused(pipe, "FcSweptDiskSolid InnerRadius should be less than Radius");
 }
 
 TEST(SweptDiskSolidPolygonal, RoundsItsCorners) {
   const ExpectAsserts none;
   FcSweptDiskSolidPolygonal bar;
-  bar.setDirectrix(polyline({{0, 0, 0}, {2, 0, 0}, {4, 0, 0}, {4, 3, 0}}));
+  bar.setDirectrix(polyline(Points3d{{0, 0, 0}, {2, 0, 0}, {4, 0, 0}, {4, 3, 0}}));
   bar.setRadius(0.1);
   EXPECT_TRUE(isClosedSolidOfVolume(Drawing(bar).mesh, fc::test::piOfSixtyFour() * 0.01 * 7, 1e-6));
   bar.setFilletRadius(measure::FcNonNegativeLengthMeasure(1.0));
@@ -418,20 +374,10 @@ TEST(SweptSolids, WithNumbersThatAreNoneDrawNothingOfThem) {
   const bool enabled = Assert::isEnabled();
   Assert::setEnabled(false);
   const double nan = std::numeric_limits<double>::quiet_NaN();
-  std::vector<std::shared_ptr<geometry::FcRepresentationItem>> items;
-  for (const ProfileCase& shape : fc::test::profileCases())
-    for (std::size_t i = 0; i < shape.dimensions.size(); ++i) {
-      auto dimensions = shape.dimensions;
-      dimensions[i].second = nan;
-      items.push_back(extrusion(makeProfile(shape.ifcName, dimensions), {0, 0, 1}, 3));
-    }
-  const auto square = makeProfile("IfcRectangleProfileDef", {{"XDim", 1}, {"YDim", 1}});
-  items.push_back(extrusion(square, {nan, 0, 1}, 3));
-  auto turned = std::make_shared<FcRevolvedAreaSolid>();
-  turned->setSweptArea(square);
-  turned->setAxis(axis({nan, 0, 0}, {0, 1, 0}));
-  turned->setAngle(1.0);
-  items.push_back(turned);
+  const std::shared_ptr<geometry::FcRepresentationItem> items[] = {
+      extrusion(rectangle(), {nan, 0, 1}, 3),
+      make<FcRevolvedAreaSolid>(
+          {{"SweptArea", rectangle()}, {"Axis", axis({nan, 0, 0}, {0, 1, 0})}, {"Angle", 1}})};
   for (const auto& item : items)
     for (const auto& set : Drawing(*item).recorder.polygonalSets)
       for (const Point3d& point : set.what.coordinates)
@@ -444,8 +390,7 @@ TEST(SweptSolids, FollowAPathOfHundredsOfThousandsOfPoints) {
   for (int i = 0; i < 200000; ++i) path.emplace_back(i, i % 2, 0);
   FcFixedReferenceSweptAreaSolid solid;
   solid.setSweptArea(
-      makeProfile("IfcTrapeziumProfileDef",
-                  {{"BottomXDim", 0.2}, {"TopXDim", 0.1}, {"YDim", 0.1}, {"TopXOffset", 0}}));
+      makeProfile("IfcTrapeziumProfileDef", "BottomXDim 0.2, TopXDim 0.1, YDim 0.1, TopXOffset 0"));
   solid.setFixedReference(geometry::makeDirection(Vector3d(0, 0, 1)));
   solid.setDirectrix(polyline(path));
   const auto sets = solid.generateFaceSet(kParams);

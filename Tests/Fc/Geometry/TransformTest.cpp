@@ -5,12 +5,9 @@
 
 #include "Fc/Resource/GeometricModel/FcCartesianPointList2D.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList3D.h"
-#include "Fc/Resource/Geometry/FcCircle.h"
 #include "Fc/Resource/Geometry/FcEllipse.h"
 #include "Fc/Resource/Geometry/FcIndexedPolyCurve.h"
-#include "Fc/Resource/Geometry/FcLine.h"
 #include "Fc/Resource/Geometry/FcPlane.h"
-#include "Fc/Resource/Geometry/FcVector.h"
 #include "Items.h"
 #include "Tests/Qor/Math/RandomGeometry.h"
 #include "Tests/Support/ExpectAsserts.h"
@@ -19,34 +16,12 @@ namespace qor::fc::resource::geometry {
 namespace {
 
 using geometricmodel::FcCartesianPointList2D;
-using math::Matrix;
-using math::Point2d;
-using math::Point3d;
-using math::RandomGeometry;
-using math::Vector3d;
+using namespace math;
 using std::numbers::pi;
 using test::ExpectAsserts;
 
-std::shared_ptr<FcCircle> circle(double radius) {
-  auto result = std::make_shared<FcCircle>();
-  result->setRadius(radius);
-  return result;
-}
-
 std::shared_ptr<FcEllipse> ellipse(double a, double b) {
-  auto result = std::make_shared<FcEllipse>();
-  result->setSemiAxis1(a);
-  result->setSemiAxis2(b);
-  return result;
-}
-
-std::shared_ptr<FcLine> line(const Point3d& point, const Vector3d& vector) {
-  auto result = std::make_shared<FcLine>();
-  result->setPnt(makePoint(point));
-  auto dir = std::make_shared<FcVector>();
-  dir->setVector(vector, 3);
-  result->setDir(dir);
-  return result;
+  return test::make<FcEllipse>({{"SemiAxis1", a}, {"SemiAxis2", b}});
 }
 
 std::shared_ptr<FcIndexedPolyCurve> arcs() {
@@ -108,36 +83,28 @@ TEST(Transform, KeepsTheDimensionThatSuffices) {
   EXPECT_FALSE(curve->is2d());
 }
 
-TEST(Transform, LosesTheHeightOfAListOfThePlane) {
-  FcCartesianPointList2D list;
-  list.setPoints({{1, 2}});
-  const ExpectAsserts expected(
-      {"transformation is not purely 2d, may lose information when applying it"});
-  list.transform(Matrix::createTranslation({1, 0, 7}));
-  EXPECT_EQ(list.point2d(0), Point2d(2, 2));
-}
-
-TEST(Transform, RefusesWhatACurveCannotBecome) {
+TEST(Transform, RefusesWhatACurveCannotBecomeAndScalesAxesApart) {
   const auto round = circle(2);
   const auto oval = ellipse(2, 1);
   const auto broken = polyline(Points2d{{0, 0}, {1, 0}});
   broken->pushBackPoints(nullptr);
-  const ExpectAsserts expected({"Non uniform scale",
-                                "Must fixed implementation if mirror should be allowed",
-                                "There is a non-existent point in this Polyline"});
+  FcCartesianPointList2D list;
+  list.setPoints({{1, 2}});
+  const ExpectAsserts expected(
+      {"transformation is not purely 2d, may lose information when applying it",
+       "Non uniform scale", "Must fixed implementation if mirror should be allowed",
+       "There is a non-existent point in this Polyline"});
   round->transform(Matrix::createScale(1, 2, 1));
   oval->transform(Matrix::createScale(1, -1, 1));
   broken->transform(Matrix::createTranslation({1, 0, 0}));
+  list.transform(Matrix::createTranslation({1, 0, 7}));
+  EXPECT_EQ(list.point2d(0), Point2d(2, 2));
   EXPECT_EQ(round->Radius(), 2.0);
   EXPECT_FALSE(oval->Position().isSet());
-  EXPECT_EQ(broken->Points()[0]->point2d(), Point2d(0, 0));
-}
-
-TEST(Transform, ScalesTheAxesOfAnEllipseApart) {
-  const auto oval = ellipse(2, 1);
   oval->transform(Matrix::createScale(3, 5, 1));
   EXPECT_EQ(oval->SemiAxis1(), 6.0);
   EXPECT_EQ(oval->SemiAxis2(), 5.0);
+  EXPECT_EQ(broken->Points()[0]->point2d(), Point2d(0, 0));
 }
 
 TEST(Transform, KeepsThePositionOfAPlaneRightHanded) {

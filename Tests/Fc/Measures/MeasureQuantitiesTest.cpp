@@ -104,20 +104,20 @@ TEST(MeasureQuantities, AreAskedByTypeToo) {
 }
 
 // What a user interface can tell from the class of a presentation.
+template <class Unit>
+bool hasUnit(const char* measure) {
+  const auto presentation = valueOf(measure).createQuantityPresentation();
+  return dynamic_cast<QuantityPresentation<Unit>*>(presentation.get()) != nullptr;
+}
+
 TEST(MeasureQuantities, HaveUnitsOfTheirOwnWhereTheExponentsDontNameThem) {
-  const auto made = [](const char* type) { return valueOf(type).createQuantityPresentation(); };
   using namespace unit;
-  EXPECT_TRUE((dynamic_cast<QuantityPresentation<SiUnit<0, Force>>*>(made("ForceMeasure").get())));
-  EXPECT_TRUE((dynamic_cast<QuantityPresentation<Unit<0, WarpingMoment>>*>(
-      made("WarpingMomentMeasure").get())));
-  EXPECT_TRUE((dynamic_cast<QuantityPresentation<Unit<0, MolecularWeight>>*>(
-      made("MolecularWeightMeasure").get())));
-  EXPECT_TRUE((dynamic_cast<QuantityPresentation<Unit<0, ElectricVoltage>>*>(
-      made("ElectricVoltageMeasure").get())));
-  EXPECT_TRUE((dynamic_cast<QuantityPresentation<Unit<0, ElectricResistance>>*>(
-      made("ElectricResistanceMeasure").get())));
-  EXPECT_TRUE(
-      (dynamic_cast<QuantityPresentation<Unit<0, Frequency>>*>(made("FrequencyMeasure").get())));
+  EXPECT_TRUE((hasUnit<SiUnit<0, Force>>("ForceMeasure")));
+  EXPECT_TRUE((hasUnit<Unit<0, WarpingMoment>>("WarpingMomentMeasure")));
+  EXPECT_TRUE((hasUnit<Unit<0, MolecularWeight>>("MolecularWeightMeasure")));
+  EXPECT_TRUE((hasUnit<Unit<0, ElectricVoltage>>("ElectricVoltageMeasure")));
+  EXPECT_TRUE((hasUnit<Unit<0, ElectricResistance>>("ElectricResistanceMeasure")));
+  EXPECT_TRUE((hasUnit<Unit<0, Frequency>>("FrequencyMeasure")));
 }
 
 // All measures of the schema but those of the table: nothing, and an assert for each way to ask.

@@ -6,7 +6,6 @@
 #include "Fc/Core/Kernel/FcPropertySet.h"
 #include "Fc/Core/ProductExtension/FcBuilding.h"
 #include "Fc/Core/ProductExtension/FcElementQuantity.h"
-#include "Fc/Data.h"
 #include "Fc/Reflection/SchemaTables.h"
 #include "Fc/Resource/Measure/MeasureQuantities.h"
 #include "Fc/Resource/Property/FcPropertyBoundedValue.h"
@@ -22,6 +21,7 @@
 #include "Qor/Unit/Quantities.h"
 #include "Qor/Unit/QuantityPresentationFactory.h"
 #include "Tests/Support/ExpectAsserts.h"
+#include "Tests/Support/Make.h"
 
 namespace qor::fc {
 namespace {
@@ -29,9 +29,9 @@ namespace {
 using namespace resource::measure;
 using namespace resource::property;
 using namespace resource::quantity;
-using core::productextension::FcBuilding;
-using core::productextension::FcElementQuantity;
+using namespace core::productextension;
 using object::PropertyId;
+using test::make;
 using unit::QuantityPresentationFactory;
 
 const std::string notImplemented =
@@ -95,33 +95,25 @@ TEST(MeasureAttribute, IsTheSameToAllThatAsk) {
   EXPECT_EQ(showing.size(), 111u);
 }
 
-template <class Q>
-std::shared_ptr<Q> quantity(const char* name, void (*fill)(Q&)) {
-  auto result = std::make_shared<Q>();
-  result->setName(name);
-  fill(*result);
-  return result;
-}
-
 TEST(PhysicalQuantity, ShowsItsValue) {
   const test::ExpectAsserts none;
   const std::pair<std::shared_ptr<FcPhysicalQuantity>, const char*> cases[] = {
-      {quantity<FcQuantityLength>("l", [](auto& q) { q.setLengthValue(2.5); }), "2.500 m"},
-      {quantity<FcQuantityArea>("a", [](auto& q) { q.setAreaValue(2.5); }), "2.500 m²"},
-      {quantity<FcQuantityVolume>("v", [](auto& q) { q.setVolumeValue(2.5); }), "2.500 m³"},
-      {quantity<FcQuantityCount>("c", [](auto& q) { q.setCountValue(7); }), "7"},
-      {quantity<FcQuantityWeight>("w", [](auto& q) { q.setWeightValue(2.5); }), "2.500 kg"},
-      {quantity<FcQuantityTime>("t", [](auto& q) { q.setTimeValue(2.5); }), "2.5 s"},
-      {quantity<FcQuantityNumber>("n", [](auto& q) { q.setNumberValue(2.5); }), "2.5"}};
+      {make<FcQuantityLength>({{"LengthValue", 2.5}}), "2.500 m"},
+      {make<FcQuantityArea>({{"AreaValue", 2.5}}), "2.500 m²"},
+      {make<FcQuantityVolume>({{"VolumeValue", 2.5}}), "2.500 m³"},
+      {make<FcQuantityCount>({{"CountValue", 7}}), "7"},
+      {make<FcQuantityWeight>({{"WeightValue", 2.5}}), "2.500 kg"},
+      {make<FcQuantityTime>({{"TimeValue", 2.5}}), "2.5 s"},
+      {make<FcQuantityNumber>({{"NumberValue", 2.5}}), "2.5"}};
   for (const auto& [quantity, text] : cases) {
     ASSERT_NE(quantity->createQuantityPresentation(), nullptr) << text;
     EXPECT_EQ(quantity->createQuantityPresentation()->toString(), text);
   }
-  EXPECT_EQ(std::make_shared<FcPhysicalComplexQuantity>()->createQuantityPresentation(), nullptr);
+  EXPECT_EQ(FcPhysicalComplexQuantity().createQuantityPresentation(), nullptr);
 }
 
 TEST(PhysicalQuantity, IsShownAsTheHostSaysForItsSet) {
-  const auto area = quantity<FcQuantityArea>("NetArea", [](auto& q) { q.setAreaValue(2.5); });
+  const auto area = make<FcQuantityArea>({{"Name", "NetArea"}, {"AreaValue", 2.5}});
   FcElementQuantity set;
   EXPECT_EQ(set.createQuantityPresentationFor(*area)->toString(), "2.500 m²") << "of no name";
   set.setName("Qto_SlabBaseQuantities");
@@ -136,11 +128,9 @@ TEST(PhysicalQuantity, IsShownAsTheHostSaysForItsSet) {
 TEST(Property, IsShownInTheUnitThatIsAskedFor) {
   const test::ExpectAsserts expected({test::ExpectedAssert(notImplemented)});
   const auto data = std::make_shared<Data>();
-  const auto set = data->create<core::kernel::FcPropertySet>();
-  const auto diameter = data->create<FcPropertySingleValue>();
-  set->setName("Pset_Pipe");
-  diameter->setName("Diameter");
-  set->insertHasProperties(diameter);
+  const auto diameter = make<FcPropertySingleValue>(*data, {{"Name", "Diameter"}});
+  const auto set = make<core::kernel::FcPropertySet>(
+      *data, {{"Name", "Pset_Pipe"}, {"HasProperties", std::vector{diameter}}});
   const auto shown = [&](const FcValue& value, std::optional<std::string> unit = {}) {
     const auto presentation = diameter->createQuantityPresentationFor("NominalValue", value, unit);
     return presentation ? presentation->toString() : "nothing";
@@ -167,34 +157,32 @@ TEST(Property, IsShownInTheUnitThatIsAskedFor) {
 }
 
 TEST(BoundedValue, IsOneLine) {
-  struct Case {
-    FcValue lower;
-    FcValue upper;
-    FcValue setPoint;
-    const char* text;
-  };
   const auto m = [](double number) { return FcValue(FcLengthMeasure(number)); };
   const FcValue none;
   const double nan = std::numeric_limits<double>::quiet_NaN();
   const test::ExpectAsserts asserts(std::vector<test::ExpectedAssert>(2, notImplemented));
   const auto g = [](double number) { return FcValue(FcAccelerationMeasure(number)); };
-  for (const Case& expected : {
-           Case{m(0), m(10), none, "0.000 – 10.000 m"},
-           Case{m(2), m(10), none, "2.000 – 10.000 m"},
-           Case{m(-1e-9), m(10), none, "-1e-09 – 10.000 m"},
-           Case{m(-5), m(5), none, "-5.000 m – 5.000 m"},
-           Case{m(nan), m(5), none, "NaN m – 5.000 m"},
-           Case{m(0), m(10), m(5), "0.000 – 10.000 m (5.000 m)"},
-           Case{none, none, m(5), "5.000 m"},
-           Case{m(0), none, m(5), "5.000 m"},
-           Case{none, m(10), m(5), "5.000 m"},
-           Case{m(2), none, none, "BoundedValue_Min 2.000 m"},
-           Case{none, m(10), none, "BoundedValue_Max 10.000 m"},
-           Case{none, none, none, ""},
-           Case{FcValue(FcInteger(1)), FcValue(FcInteger(9)), none, "1 – 9"},
-           Case{FcValue(FcLabel("A")), FcValue(FcLabel("C")), FcValue(FcLabel("")), "A – C ()"},
-           Case{g(1), g(9.5), none, "1 – 9.5"},
-       }) {
+  const struct {
+    FcValue lower, upper, setPoint;
+    const char* text;
+  } cases[] = {
+      {m(0), m(10), none, "0.000 – 10.000 m"},
+      {m(2), m(10), none, "2.000 – 10.000 m"},
+      {m(-1e-9), m(10), none, "-1e-09 – 10.000 m"},
+      {m(-5), m(5), none, "-5.000 m – 5.000 m"},
+      {m(nan), m(5), none, "NaN m – 5.000 m"},
+      {m(0), m(10), m(5), "0.000 – 10.000 m (5.000 m)"},
+      {none, none, m(5), "5.000 m"},
+      {m(0), none, m(5), "5.000 m"},
+      {none, m(10), m(5), "5.000 m"},
+      {m(2), none, none, "BoundedValue_Min 2.000 m"},
+      {none, m(10), none, "BoundedValue_Max 10.000 m"},
+      {none, none, none, ""},
+      {FcValue(FcInteger(1)), FcValue(FcInteger(9)), none, "1 – 9"},
+      {FcValue(FcLabel("A")), FcValue(FcLabel("C")), FcValue(FcLabel("")), "A – C ()"},
+      {g(1), g(9.5), none, "1 – 9.5"},
+  };
+  for (const auto& expected : cases) {
     FcPropertyBoundedValue property;
     property.setName("Range");
     property.setLowerBoundValue(expected.lower);

@@ -8,7 +8,6 @@
 #include "Fc/Core/Kernel/FcRelDefinesByProperties.h"
 #include "Fc/Core/ProductExtension/FcBuildingStorey.h"
 #include "Fc/Core/ProductExtension/FcRelContainedInSpatialStructure.h"
-#include "Fc/Data.h"
 #include "Fc/Resource/GeometricConstraint/FcLocalPlacement.h"
 #include "Fc/Resource/Geometry/FcBSplineSurfaceWithKnots.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
@@ -16,6 +15,7 @@
 #include "Fc/Resource/Representation/FcShapeRepresentation.h"
 #include "Fc/Shared/BuildingElements/FcWall.h"
 #include "Tests/Support/ExpectAsserts.h"
+#include "Tests/Support/Make.h"
 
 namespace qor::fc::utilities {
 namespace {
@@ -110,11 +110,10 @@ TEST_F(DeleteEntities, TakesThemOutOfListsOfLists) {
   const auto surface = data->create<FcBSplineSurfaceWithKnots>();
   const auto kept = data->create<FcCartesianPoint>(), gone = data->create<FcCartesianPoint>();
   surface->setControlPointsList({{kept, gone}, {gone}});
-  const auto shape = data->create<FcProductDefinitionShape>();
-  const auto representation = data->create<FcShapeRepresentation>();
-  representation->insertItems(surface);
-  shape->pushBackRepresentations(representation);
-  addWall()->setRepresentation(shape);
+  const auto representation =
+      test::make<FcShapeRepresentation>(*data, {{"Items", std::vector{surface}}});
+  addWall()->setRepresentation(test::make<FcProductDefinitionShape>(
+      *data, {{"Representations", std::vector{representation}}}));
   deleteEntities(*data, {gone.get()});
   EXPECT_THAT(surface->ControlPointsList(), ElementsAre(ElementsAre(kept), IsEmpty()));
 }
@@ -184,11 +183,10 @@ TEST(DeleteEntitiesWithoutProject, IsRefused) {
                                  "qor::fc::utilities::deleteEntities", "DeleteEntities"}});
   const auto data = std::make_shared<Data>();
   const auto wall = data->create<FcWall>();
-  const auto placement = data->create<FcLocalPlacement>();
-  wall->setObjectPlacement(placement);
+  wall->setObjectPlacement(data->create<FcLocalPlacement>());
   deleteEntities(*data, {wall.get()});
   EXPECT_EQ(data->size(), 2U);
-  EXPECT_EQ(wall->ObjectPlacement(), placement);
+  EXPECT_NE(wall->ObjectPlacement(), nullptr);
 }
 
 }  // namespace

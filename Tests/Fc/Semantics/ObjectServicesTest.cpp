@@ -1,9 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <map>
-
 #include "Fc/Core/Kernel/FcGroup.h"
-#include "Fc/Core/Kernel/FcPropertySet.h"
 #include "Fc/Core/Kernel/FcRelAggregates.h"
 #include "Fc/Core/Kernel/FcRelAssignsToGroup.h"
 #include "Fc/Core/Kernel/FcRelAssociatesClassification.h"
@@ -12,48 +9,30 @@
 #include "Fc/Core/Kernel/FcRelDefinesByType.h"
 #include "Fc/Core/Kernel/FcRelNests.h"
 #include "Fc/Core/Kernel/FcTypeProduct.h"
-#include "Fc/Core/ProductExtension/FcElementQuantity.h"
-#include "Fc/Data.h"
 #include "Fc/Resource/Actor/FcPerson.h"
 #include "Fc/Resource/ExternalReference/FcClassification.h"
 #include "Fc/Resource/ExternalReference/FcClassificationReference.h"
 #include "Fc/Resource/ExternalReference/FcDocumentReference.h"
 #include "Fc/Resource/ExternalReference/FcLibraryReference.h"
 #include "Fc/Resource/Geometry/FcRepresentationMap.h"
-#include "Fc/Resource/Property/FcPropertySingleValue.h"
-#include "Fc/Resource/Quantity/FcQuantityLength.h"
 #include "Fc/Resource/Representation/FcGeometricRepresentationSubContext.h"
 #include "Fc/Resource/Representation/FcShapeRepresentation.h"
 #include "Fc/Shared/BuildingElements/FcWall.h"
 #include "Fc/Shared/BuildingElements/FcWallType.h"
-#include "Fc/Utilities/Merge.h"
 #include "Qor/Classification/ClassificationInterface.h"
 #include "Tests/Support/ExpectAsserts.h"
+#include "Tests/Support/Make.h"
 
 namespace qor::fc {
 namespace {
 
 using namespace std::chrono_literals;
-using core::kernel::FcGroup;
-using core::kernel::FcPropertySet;
-using core::kernel::FcRelAggregates;
-using core::kernel::FcRelAssociatesClassification;
-using core::kernel::FcRelDefinesByType;
-using core::kernel::FcRelNests;
-using core::kernel::FcTypeObject;
-using core::kernel::FcTypeProduct;
-using core::productextension::FcElementQuantity;
+using namespace core::kernel;
 using resource::actor::FcPerson;
-using resource::externalreference::FcClassification;
-using resource::externalreference::FcClassificationReference;
-using resource::externalreference::FcDocumentReference;
-using resource::externalreference::FcLibraryReference;
-using resource::measure::FcLabel;
-using resource::property::FcPropertySingleValue;
-using resource::representation::FcGeometricRepresentationContext;
-using resource::representation::FcGeometricRepresentationSubContext;
-using shared::buildingelements::FcWall;
-using shared::buildingelements::FcWallType;
+using namespace resource::externalreference;
+using namespace resource::representation;
+using namespace shared::buildingelements;
+using test::make;
 
 class ObjectServices : public testing::Test {
  protected:
@@ -88,10 +67,8 @@ TEST_F(ObjectServices, ConnectsPartsByTheFirstRelationship) {
   EXPECT_EQ(group->isGroupedByConnect(*data, *wall), grouped);
   EXPECT_EQ(grouped->RelatedObjects().size(), 1U);
   EXPECT_EQ(grouped->RelatingGroup(), group);
-}
 
-TEST_F(ObjectServices, WantObjectsThatASharedPointerHolds) {
-  FcWall loose;
+  FcWall loose;  // no shared pointer holds it
   EXPECT_THROW(wall->decomposeConnect(*data, loose), std::bad_weak_ptr);
   EXPECT_THROW(loose.nestConnect(*data, *wall), std::bad_weak_ptr);
 }
@@ -130,11 +107,8 @@ TEST_F(ObjectServices, RefuseATypeThatWasntMadeAsAsked) {
   EXPECT_EQ(wall->typeSet(*data, StringHash::of("IfcWall"), guid), nullptr);
   EXPECT_EQ(data->size(), size);
   EXPECT_THROW(wall->typeSet(*data, guid, {}), std::bad_function_call);
-}
 
-TEST_F(ObjectServices, MakeATypeUnderTheGuidOfSomethingElse) {
-  const Guid guid = Guid::generate();
-  newWall()->setGlobalId(guid);
+  newWall()->setGlobalId(guid);  // the GUID of something else is free for a type
   const auto type = std::make_shared<FcWallType>();
   type->setGlobalId(guid);
   EXPECT_EQ(wall->typeSet(*data, guid, [&] { return type; }), type);
@@ -161,39 +135,35 @@ TEST_F(ObjectServices, TellThePredefinedTypeOfTheTypeWhereThereIsNone) {
   EXPECT_EQ(wall->predefinedTypeDerived(), "SOLIDWALL");
   EXPECT_EQ(wall->userDefinedTypeDerived(), "Hedge");
   EXPECT_EQ(data->create<FcGroup>()->predefinedTypeDerived(), "");
-}
-
-TEST_F(ObjectServices, NameTheClassOfATypesOccurrences) {
-  EXPECT_EQ(data->create<FcWallType>()->classNameWithoutType(), "IfcWall");
+  EXPECT_EQ(type->classNameWithoutType(), "IfcWall");
   EXPECT_EQ(data->create<FcTypeProduct>()->classNameWithoutType(), "IfcProduct");
 }
 
 TEST_F(ObjectServices, KnowTheDimensionOfATypesShapes) {
-  const auto model = data->create<FcGeometricRepresentationContext>();
-  const auto plan = data->create<FcGeometricRepresentationContext>();
-  const auto body = data->create<FcGeometricRepresentationSubContext>();
-  model->setCoordinateSpaceDimension(3);
-  plan->setCoordinateSpaceDimension(2);
-  body->setParentContext(model);
-  struct Case {
-    std::shared_ptr<FcGeometricRepresentationContext> context;
+  using Context = FcGeometricRepresentationContext;
+  using SubContext = FcGeometricRepresentationSubContext;
+  using resource::geometry::FcRepresentationMap;
+  const auto model = make<Context>({{"CoordinateSpaceDimension", 3}});
+  const auto plan = make<Context>({{"CoordinateSpaceDimension", 2}});
+  const auto body = make<SubContext>({{"ParentContext", model}});
+  const struct {
+    std::shared_ptr<Context> context;
     bool has2d, has3d;
-  };
-  for (const Case& expected :
-       {Case{model, false, true}, Case{body, false, true}, Case{plan, true, false},
-        Case{data->create<FcGeometricRepresentationSubContext>(), false, false},
-        Case{nullptr, false, false}}) {
+  } cases[] = {{model, false, true},
+               {body, false, true},
+               {plan, true, false},
+               {make<SubContext>(), false, false},
+               {nullptr, false, false}};
+  for (const auto& [context, has2d, has3d] : cases) {
     const auto type = data->create<FcWallType>();
     EXPECT_FALSE(type->has2dGeometricContext());
-    const auto map = data->create<resource::geometry::FcRepresentationMap>();
-    const auto shape = data->create<resource::representation::FcShapeRepresentation>();
-    shape->setContextOfItems(expected.context);
-    map->setMappedRepresentation(shape);
-    type->pushBackRepresentationMaps(data->create<resource::geometry::FcRepresentationMap>());
-    type->pushBackRepresentationMaps(map);
-    EXPECT_EQ(type->has2dGeometricContext(), expected.has2d);
-    EXPECT_EQ(type->has3dGeometricContext(), expected.has3d);
-    EXPECT_EQ(type->getRepresentationContexts([](const auto&) { return true; }), expected.context);
+    const auto shape = make<FcShapeRepresentation>();
+    shape->setContextOfItems(context);
+    type->setRepresentationMaps(std::vector{
+        make<FcRepresentationMap>(), make<FcRepresentationMap>({{"MappedRepresentation", shape}})});
+    EXPECT_EQ(type->has2dGeometricContext(), has2d);
+    EXPECT_EQ(type->has3dGeometricContext(), has3d);
+    EXPECT_EQ(type->getRepresentationContexts([](const auto&) { return true; }), context);
   }
 }
 
@@ -245,20 +215,16 @@ TEST_F(ObjectServices, ClassifyUnderAChainOfCodesThatTheModelSharesAmongObjects)
   EXPECT_TRUE(data->hasEntity(*b));
 }
 
-TEST_F(ObjectServices, ClassifyByNoCodesMakesTheClassificationAlone) {
-  const auto system = std::make_shared<TableSystem>("Table");
-  EXPECT_NE(wall->classify(system, {}), nullptr);
-  EXPECT_EQ(wall->getClassification(*system), nullptr);
-}
-
 TEST_F(ObjectServices, ReportWhatClassifyingLacks) {
-  const test::ExpectAsserts expected({"Need classification interface",
-                                      "Cannot set external reference without FcData",
-                                      "Cannot set external reference without FcData"});
+  const char* const noData = "Cannot set external reference without FcData";
+  const test::ExpectAsserts expected({"Need classification interface", noData, noData});
+  const auto system = std::make_shared<TableSystem>("Table");
   const auto loose = std::make_shared<FcWall>();
   EXPECT_EQ(loose->classify(nullptr, {"A"}), nullptr);
-  EXPECT_EQ(loose->classify(std::make_shared<TableSystem>("Table"), {"A"}), nullptr);
+  EXPECT_EQ(loose->classify(system, {"A"}), nullptr);
   EXPECT_EQ(loose->createExternalReference<FcDocumentReference>({}, {}, "D"), nullptr);
+  EXPECT_NE(wall->classify(system, {}), nullptr) << "the classification alone";
+  EXPECT_EQ(wall->getClassification(*system), nullptr);
 }
 
 TEST_F(ObjectServices, ClimbNoCircleOfReferences) {
@@ -281,57 +247,11 @@ TEST_F(ObjectServices, ReferToSomethingOutsideByANewRelationshipEachTime) {
     EXPECT_EQ(document->Name(), "Plan");
     EXPECT_EQ(document->DocumentRefForObjects().size(), 1U);
   }
-  EXPECT_EQ(wall->createExternalReference<FcLibraryReference>({}, "id", "L")
-                ->LibraryRefForObjects()
-                .size(),
-            1U);
-  EXPECT_EQ(wall->createExternalReference<FcClassificationReference>({}, "id", "C")
-                ->ClassificationRefForObjects()
-                .lockFirst()
-                ->RelatedObjects()
-                .size(),
-            1U);
+  const auto library = wall->createExternalReference<FcLibraryReference>({}, "id", "L");
+  EXPECT_EQ(library->LibraryRefForObjects().size(), 1U);
+  const auto code = wall->createExternalReference<FcClassificationReference>({}, "id", "C");
+  EXPECT_EQ(code->ClassificationRefForObjects().lockFirst()->RelatedObjects().size(), 1U);
   EXPECT_EQ(wall->HasAssociations().size(), 4U);
-}
-
-TEST_F(ObjectServices, MergeLetsTheSourceWinInItsPropertiesAndTheTargetInItsTexts) {
-  const auto source = newWall();
-  const auto property = [&](FcWall& of, const char* name, const char* value) {
-    auto made = data->create<FcPropertySingleValue>();
-    made->setName(name);
-    made->setNominalValue(FcLabel(value));
-    of.getOrCreatePropertySetDefinition<FcPropertySet>(*data, "P")->addProperty(made);
-  };
-  property(*wall, "Both", "target");
-  property(*wall, "Own", "target");
-  property(*source, "Both", "source");
-  property(*source, "New", "source");
-  for (FcWall* of : {wall.get(), source.get()}) {
-    const auto width = data->create<resource::quantity::FcQuantityLength>();
-    width->setName("Width");
-    of->getOrCreatePropertySetDefinition<FcElementQuantity>(*data, "Q")->insertQuantities(width);
-  }
-  wall->setName("target");
-  source->setName("source");
-  source->setTag("T1");
-  source->setPredefinedTypeFromString("PARAPET");
-  utilities::merge(*wall, *source);
-
-  const auto set = wall->getPropertySetDefinitionNonConst<FcPropertySet>("P");
-  std::map<std::string, std::string> values;
-  for (const auto& each : set->HasProperties())
-    values[each->Name()] =
-        fcCast<FcPropertySingleValue>(each)->NominalValue().getAsString(false).value_or("");
-  EXPECT_EQ(values, (std::map<std::string, std::string>{
-                        {"Both", "source"}, {"New", "source"}, {"Own", "target"}}));
-  EXPECT_EQ(set->HasProperties().size(), 3U);
-  EXPECT_EQ(wall->getPropertySetDefinitionNonConst<FcElementQuantity>("Q")->Quantities().size(),
-            2U);
-  EXPECT_EQ(source->getPropertySetDefinitionNonConst<FcPropertySet>("P")->HasProperties().size(),
-            2U);
-  EXPECT_EQ(wall->Name(), "target");
-  EXPECT_EQ(wall->Tag(), "T1");
-  EXPECT_EQ(wall->predefinedTypeAsString(), "PARAPET");
 }
 
 TEST(Classification, GivesItsEditionDateOnlyWhereThatIsOne) {

@@ -5,10 +5,7 @@
 
 #include "Fc/Core/Kernel/FcProject.h"
 #include "Fc/Core/Kernel/FcRelDeclares.h"
-#include "Fc/Data.h"
-#include "Fc/Resource/Geometry/FcAxis2Placement2D.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
-#include "Fc/Resource/Geometry/FcCartesianPoint.h"
 #include "Fc/Resource/Geometry/FcDirection.h"
 #include "Fc/Resource/Measure/FcDerivedUnit.h"
 #include "Fc/Resource/Measure/FcMonetaryUnit.h"
@@ -19,30 +16,21 @@
 #include "Fc/Shared/BuildingElements/FcWall.h"
 #include "Fc/Utilities/RepresentationContextCreate.h"
 #include "Tests/Support/ExpectAsserts.h"
+#include "Tests/Support/Make.h"
 
 namespace qor::fc {
 namespace {
 
-using core::kernel::FcProject;
-using core::kernel::FcRelDeclares;
-using math::Matrix;
-using resource::geometry::FcAxis2Placement3D;
-using resource::geometry::FcCartesianPoint;
-using resource::geometry::FcDirection;
-using resource::measure::FcDerivedUnit;
-using resource::measure::FcDerivedUnitEnum;
-using resource::measure::FcSIUnit;
-using resource::measure::FcUnitAssignment;
-using resource::measure::FcUnitEnum;
-using resource::representation::FcGeometricProjectionEnum;
-using resource::representation::FcGeometricRepresentationContext;
-using resource::representation::FcGeometricRepresentationSubContext;
-using resource::representation::FcProductDefinitionShape;
+using namespace core::kernel;
+using namespace resource::geometry;
+using namespace resource::measure;
+using namespace resource::representation;
 using shared::buildingelements::FcWall;
 using ContextType = FcProject::ContextType;
 using Identifier = FcProject::ModelContextIdentifier;
 using Texts = generate::draw::IfcGeometricRepresentationContextEnum;
 using std::numbers::pi;
+using test::make;
 
 constexpr auto notDefined = FcGeometricProjectionEnum::NOTDEFINED;
 
@@ -55,17 +43,11 @@ class ProjectContext : public testing::Test {
 TEST_F(ProjectContext, FindsTheFirstUnitOfItsKind) {
   EXPECT_EQ(project->namedUnitGet(FcUnitEnum::LENGTHUNIT), nullptr);
   EXPECT_EQ(project->derivedUnitGet(FcDerivedUnitEnum::LINEARVELOCITYUNIT), nullptr);
-  const auto assignment = data->create<FcUnitAssignment>();
-  project->setUnitsInContext(assignment);
-  const auto metre = data->create<FcSIUnit>(), other = data->create<FcSIUnit>();
-  metre->setUnitType(FcUnitEnum::LENGTHUNIT);
-  other->setUnitType(FcUnitEnum::LENGTHUNIT);
-  const auto velocity = data->create<FcDerivedUnit>();
-  velocity->setUnitType(FcDerivedUnitEnum::LINEARVELOCITYUNIT);
-  assignment->insertUnits(data->create<resource::measure::FcMonetaryUnit>());
-  assignment->insertUnits(velocity);
-  assignment->insertUnits(std::static_pointer_cast<resource::measure::FcNamedUnit>(metre));
-  assignment->insertUnits(std::static_pointer_cast<resource::measure::FcNamedUnit>(other));
+  const auto metre = make<FcSIUnit>({{"UnitType", "LENGTHUNIT"}});
+  const auto velocity = make<FcDerivedUnit>({{"UnitType", "LINEARVELOCITYUNIT"}});
+  const std::vector<std::shared_ptr<FcBase>> units{make<FcMonetaryUnit>(), velocity, metre,
+                                                   make<FcSIUnit>({{"UnitType", "LENGTHUNIT"}})};
+  project->setUnitsInContext(make<FcUnitAssignment>(*data, {{"Units", units}}));
   EXPECT_EQ(project->namedUnitGet(FcUnitEnum::LENGTHUNIT), metre);
   EXPECT_EQ(project->namedUnitGet(FcUnitEnum::AREAUNIT), nullptr);
   EXPECT_EQ(project->derivedUnitGet(FcDerivedUnitEnum::LINEARVELOCITYUNIT), velocity);
@@ -73,25 +55,22 @@ TEST_F(ProjectContext, FindsTheFirstUnitOfItsKind) {
 }
 
 TEST_F(ProjectContext, MakesAContextOnceWithItsDefaults) {
-  struct Case {
+  const struct {
     ContextType type;
     const char* text;
     int dimension;
     FcGeometricProjectionEnum view;
-  };
-  for (const Case& expected :
-       {Case{ContextType::Model, "Model", 3, FcGeometricProjectionEnum::MODEL_VIEW},
-        Case{ContextType::Plan, "Plan", 2, FcGeometricProjectionEnum::PLAN_VIEW}}) {
-    SCOPED_TRACE(expected.text);
-    EXPECT_EQ(project->representationContextGet(expected.type, "Body"), nullptr);
-    const auto made =
-        project->representationContextGetOrAdd(*data, expected.type, "Body", notDefined);
-    EXPECT_EQ(made->TargetView(), expected.view);
-    EXPECT_EQ(made->ContextType(), expected.text);
+  } cases[] = {{ContextType::Model, "Model", 3, FcGeometricProjectionEnum::MODEL_VIEW},
+               {ContextType::Plan, "Plan", 2, FcGeometricProjectionEnum::PLAN_VIEW}};
+  for (const auto& [type, text, dimension, view] : cases) {
+    SCOPED_TRACE(text);
+    EXPECT_EQ(project->representationContextGet(type, "Body"), nullptr);
+    const auto made = project->representationContextGetOrAdd(*data, type, "Body", notDefined);
+    EXPECT_EQ(made->ContextType(), text);
     EXPECT_EQ(made->ContextIdentifier(), "Body");
     const auto context = made->ParentContext();
-    EXPECT_EQ(context->ContextType(), expected.text);
-    EXPECT_EQ(context->CoordinateSpaceDimension().value(), expected.dimension);
+    EXPECT_EQ(context->ContextType(), text);
+    EXPECT_EQ(context->CoordinateSpaceDimension().value(), dimension);
     EXPECT_EQ(context->Precision()->value(), 1e-5);
     const auto placement = context->WorldCoordinateSystem().Axis2Placement3D();
     EXPECT_EQ(placement->Axis(), nullptr);
@@ -99,13 +78,13 @@ TEST_F(ProjectContext, MakesAContextOnceWithItsDefaults) {
     EXPECT_TRUE(data->hasEntity(*context));
 
     const std::size_t size = data->size();
-    EXPECT_EQ(project->representationContextGetOrAdd(*data, expected.type, "Body",
+    EXPECT_EQ(project->representationContextGetOrAdd(*data, type, "Body",
                                                      FcGeometricProjectionEnum::SKETCH_VIEW),
               made);
     EXPECT_EQ(data->size(), size);
-    EXPECT_EQ(made->TargetView(), expected.view);
-    EXPECT_EQ(project->representationContextGet(expected.type, "Body"), made);
-    EXPECT_EQ(project->representationContextGet(expected.type, "body"), nullptr);
+    EXPECT_EQ(made->TargetView(), view);
+    EXPECT_EQ(project->representationContextGet(type, "Body"), made);
+    EXPECT_EQ(project->representationContextGet(type, "body"), nullptr);
   }
   EXPECT_EQ(project->RepresentationContexts()->size(), 2U);
   EXPECT_EQ(project->representationContextGet(Identifier::Body),
@@ -113,33 +92,26 @@ TEST_F(ProjectContext, MakesAContextOnceWithItsDefaults) {
 }
 
 TEST_F(ProjectContext, WantsAViewForAContextThatIsNeitherModelNorPlan) {
-  {
-    const test::ExpectAsserts none;
-    const auto made = project->representationContextGetOrAdd(*data, ContextType::NotDefined, "Axis",
-                                                             FcGeometricProjectionEnum::GRAPH_VIEW);
-    EXPECT_EQ(made->TargetView(), FcGeometricProjectionEnum::GRAPH_VIEW);
-  }
+  const auto viewOf = [&](const char* identifier, FcGeometricProjectionEnum asked) {
+    return project->representationContextGetOrAdd(*data, ContextType::NotDefined, identifier, asked)
+        ->TargetView();
+  };
   const test::ExpectAsserts expected(
       {"FcProject::representationContextGetOrAdd -> TargetView should have been set to something "
        "other than NOTDEFINED."});
-  EXPECT_EQ(
-      project->representationContextGetOrAdd(*data, ContextType::NotDefined, "Body", notDefined)
-          ->TargetView(),
-      notDefined);
+  EXPECT_EQ(viewOf("Axis", FcGeometricProjectionEnum::GRAPH_VIEW),
+            FcGeometricProjectionEnum::GRAPH_VIEW);
+  EXPECT_EQ(viewOf("Body", notDefined), notDefined);
 }
 
 TEST_F(ProjectContext, LooksOnlyBelowTheFirstContextOfAType) {
-  std::shared_ptr<FcGeometricRepresentationContext> contexts[2];
-  for (auto& context : contexts) {
-    context = data->create<FcGeometricRepresentationContext>();
-    context->setContextType("Model");
-    project->insertRepresentationContexts(context);
-  }
-  const auto body = data->create<FcGeometricRepresentationSubContext>();
-  body->setContextIdentifier("Body");
-  body->setParentContext(contexts[1]);
+  const auto first = make<FcGeometricRepresentationContext>(*data, {{"ContextType", "Model"}});
+  const auto second = make<FcGeometricRepresentationContext>(*data, {{"ContextType", "Model"}});
+  for (const auto& context : {first, second}) project->insertRepresentationContexts(context);
+  const auto body = make<FcGeometricRepresentationSubContext>(
+      *data, {{"ContextIdentifier", "Body"}, {"ParentContext", second}});
   EXPECT_EQ(project->representationContextGet(Identifier::Body), nullptr);
-  body->setParentContext(contexts[0]);
+  body->setParentContext(first);
   EXPECT_EQ(project->representationContextGet(Identifier::Body), body);
 }
 
@@ -168,19 +140,16 @@ TEST_F(ProjectContext, GivesTrueNorthBackAsItWasSet) {
 }
 
 TEST_F(ProjectContext, ReadsTrueNorthWhateverItsLength) {
-  struct Case {
-    CountedTriple<resource::measure::FcReal> ratios;
-    double angle;
-  };
-  const auto context = data->create<FcGeometricRepresentationContext>();
-  project->insertRepresentationContexts(data->create<FcGeometricRepresentationContext>());
-  project->insertRepresentationContexts(context);
   const auto north = data->create<FcDirection>();
-  context->setTrueNorth(north);
-  for (const Case& expected : {Case{{0, 7}, 0}, Case{{-3, 0}, -pi / 2}, Case{{0, -2}, pi},
-                               Case{{1e-9, 0}, pi / 2}, Case{{0, 0}, 0}, Case{{1, 1, 0}, pi / 4}}) {
-    north->setDirectionRatios(expected.ratios);
-    EXPECT_NEAR(project->getTrueNorth(), expected.angle, 1e-12);
+  project->insertRepresentationContexts(data->create<FcGeometricRepresentationContext>());
+  project->insertRepresentationContexts(
+      make<FcGeometricRepresentationContext>(*data, {{"TrueNorth", north}}));
+  const std::pair<CountedTriple<FcReal>, double> ratiosAndAngles[] = {
+      {{0, 7}, 0},         {{-3, 0}, -pi / 2}, {{0, -2}, pi},
+      {{1e-9, 0}, pi / 2}, {{0, 0}, 0},        {{1, 1, 0}, pi / 4}};
+  for (const auto& [ratios, angle] : ratiosAndAngles) {
+    north->setDirectionRatios(ratios);
+    EXPECT_NEAR(project->getTrueNorth(), angle, 1e-12);
   }
 }
 
@@ -222,39 +191,6 @@ TEST_F(ProjectContext, GivesEachShapeTheContextOfTheProject) {
   data->entityDelete(project);
   create.shapeRepresentationAdd([](const auto&) { return nullptr; },
                                 [](const auto&, const auto&) { ADD_FAILURE(); });
-}
-
-TEST(SetPlacement, OverwritesInPlaceAndStoresTheIdentityAsNoAxes) {
-  const test::ExpectAsserts none;
-  const auto placement =
-      std::make_shared<FcAxis2Placement3D>(Matrix({1, 2, 3}, {0, 2, 0}, {1, 0, 0}));
-  const auto point = fcCast<FcCartesianPoint>(placement->Location());
-  const auto axis = placement->Axis(), reference = placement->RefDirection();
-  EXPECT_EQ(point->Coordinates(),
-            (CountedTriple<resource::measure::FcLengthMeasure>{1.0, 2.0, 3.0}));
-  EXPECT_EQ(reference->DirectionRatios(), (CountedTriple<resource::measure::FcReal>{0., 2., 0.}));
-  placement->setPlacement(Matrix({4, 5, 6}, {0, 0, 1}, {0, 1, 0}));
-  EXPECT_EQ(placement->Location(), point);
-  EXPECT_EQ(placement->Axis(), axis);
-  EXPECT_EQ(axis->DirectionRatios(), (CountedTriple<resource::measure::FcReal>{0., 1., 0.}));
-  EXPECT_EQ(point->Coordinates()[2].value(), 6);
-  placement->setPlacement(Matrix());
-  EXPECT_EQ(placement->Axis(), nullptr);
-  EXPECT_EQ(placement->RefDirection(), nullptr);
-}
-
-TEST(SetPlacement, ReportsMirrorsAndParallelAxes) {
-  const test::ExpectAsserts expected(
-      {"Assertion failed in Constructor FcAxis2Placement3D: by formal propositions, placements "
-       "must not allow mirroring",
-       "Assertion failed in vPlacementSet: by formal propositions, placements must not allow "
-       "mirroring",
-       "Assertion failed in vPlacementSet: by formal propositions, cross product of Axis() and "
-       "RefDirection() must not be Null vector"});
-  const auto mirror =
-      std::make_shared<FcAxis2Placement3D>(Matrix({-1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {}));
-  EXPECT_EQ(mirror->RefDirection()->DirectionRatios()[0].value(), -1);
-  mirror->setPlacement(Matrix({0, 0, 1}, {0, 1, 0}, {0, 0, 1}, {}));
 }
 
 }  // namespace

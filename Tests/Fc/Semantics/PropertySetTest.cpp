@@ -6,7 +6,6 @@
 #include "Fc/Core/ProductExtension/FcBuilding.h"
 #include "Fc/Core/ProductExtension/FcElementQuantity.h"
 #include "Fc/Core/ProductExtension/Pset_BuildingCommon.h"
-#include "Fc/Data.h"
 #include "Fc/Domain/Electrical/Pset_ElectricalDeviceCommon.h"
 #include "Fc/Resource/Material/FcMaterial.h"
 #include "Fc/Resource/Material/FcMaterialProperties.h"
@@ -15,29 +14,22 @@
 #include "Fc/Resource/Quantity/FcQuantityLength.h"
 #include "Fc/Shared/BuildingElements/FcWall.h"
 #include "Fc/Shared/BuildingElements/FcWallType.h"
+#include "Fc/Utilities/Merge.h"
 #include "Fc/Utilities/MergedPset.h"
 #include "Tests/Support/ExpectAsserts.h"
+#include "Tests/Support/Make.h"
 
 namespace qor::fc {
 namespace {
 
-using core::kernel::FcObjectDefinition;
-using core::kernel::FcProject;
-using core::kernel::FcPropertySet;
-using core::kernel::FcPropertySetDefinition;
-using core::kernel::FcPropertySetDefinitionSet;
-using core::kernel::FcRelDefinesByProperties;
-using core::productextension::FcElementQuantity;
-using core::productextension::Pset_BuildingCommon;
+using namespace core::kernel;
+using namespace core::productextension;
 using domain::electrical::Pset_ElectricalDeviceCommon;
 using resource::measure::FcLabel;
-using resource::property::FcComplexProperty;
-using resource::property::FcProperty;
-using resource::property::FcPropertySingleValue;
-using resource::quantity::FcPhysicalQuantity;
-using resource::quantity::FcQuantityLength;
-using shared::buildingelements::FcWall;
-using shared::buildingelements::FcWallType;
+using namespace resource::property;
+using namespace resource::quantity;
+using namespace shared::buildingelements;
+using test::make;
 using utilities::detail::getMergedPset;
 
 class PropertySets : public testing::Test {
@@ -50,15 +42,12 @@ class PropertySets : public testing::Test {
     return object.getPropertySetDefinitionNonConst<FcPropertySetDefinition>(name);
   }
   std::shared_ptr<FcPropertySingleValue> property(const char* name, const char* value = "") {
-    auto made = data->create<FcPropertySingleValue>();
-    made->setName(name);
+    auto made = make<FcPropertySingleValue>(*data, {{"Name", name}});
     made->setNominalValue(FcLabel(value));
     return made;
   }
   std::shared_ptr<FcQuantityLength> quantity(const char* name) {
-    auto made = data->create<FcQuantityLength>();
-    made->setName(name);
-    return made;
+    return make<FcQuantityLength>(*data, {{"Name", name}});
   }
   static std::string valueOf(const FcPropertySetDefinition& of, const char* name) {
     const auto found = fcCast<FcPropertySingleValue>(of.getPropertyAsFcBase(name));
@@ -128,12 +117,12 @@ TEST_F(PropertySets, OfATypeWithoutAModelAreListedNowhere) {
 TEST_F(PropertySets, WithoutANameAreNeverFoundByName) {
   const auto nameless = data->create<FcPropertySet>();
   wall->propertySetAdd(*data, nameless);
-  type->insertHasPropertySets(nameless);
-  type->insertHasPropertySets(nullptr);
-  EXPECT_EQ(find(*wall, ""), nullptr);
-  EXPECT_EQ(find(*type, ""), nullptr);
-  EXPECT_EQ(wall->getPropertySetDefinitions<FcPropertySet>().size(), 1U);
-  EXPECT_EQ(type->getPropertySetDefinitions<FcPropertySet>().size(), 1U);
+  type->setHasPropertySets({nameless, nullptr});
+  for (const FcObjectDefinition* object :
+       std::initializer_list<FcObjectDefinition*>{wall.get(), type.get()}) {
+    EXPECT_EQ(find(*object, ""), nullptr);
+    EXPECT_EQ(object->getPropertySetDefinitions<FcPropertySet>().size(), 1U);
+  }
 }
 
 TEST_F(PropertySets, AreSharedByOneRelationship) {
@@ -162,9 +151,8 @@ TEST_F(PropertySets, GetANewRelationshipWhereTheOldOneHasDied) {
 }
 
 TEST_F(PropertySets, InAListAreFoundAndDetachedOneByOne) {
-  const auto a = data->create<FcPropertySet>(), b = data->create<FcPropertySet>();
-  a->setName("A");
-  b->setName("B");
+  const auto a = make<FcPropertySet>(*data, {{"Name", "A"}});
+  const auto b = make<FcPropertySet>(*data, {{"Name", "B"}});
   const auto relation = data->create<FcRelDefinesByProperties>();
   relation->setRelatingPropertyDefinition(
       FcPropertySetDefinitionSet(std::vector<std::shared_ptr<FcPropertySetDefinition>>{a, b}));
@@ -291,6 +279,32 @@ TEST_F(PropertySets, OfQuantitiesAreMergedToo) {
   const auto [merged, store] = getMergedPset("Q", wall.get(), type.get());
   EXPECT_EQ(fcCast<const FcElementQuantity>(merged)->Quantities().size(), 2U);
   EXPECT_TRUE(merged->hasPropertyOrQuantity("Height"));
+}
+
+TEST_F(PropertySets, AndTextsOfOneObjectAreMergedIntoThoseOfAnother) {
+  for (const auto& of : {wall, other}) {
+    const bool isTarget = of == wall;
+    const char* const origin = isTarget ? "target" : "source";
+    for (const char* name : {"Both", isTarget ? "Own" : "New"})
+      set(*of, "P")->addProperty(property(name, origin));
+    of->getOrCreatePropertySetDefinition<FcElementQuantity>(*data, "Q")
+        ->insertQuantities(quantity("Width"));
+    of->setName(origin);
+  }
+  other->setTag("T1");
+  other->setPredefinedTypeFromString("PARAPET");
+  utilities::merge(*wall, *other);
+  const auto merged = set(*wall, "P");
+  EXPECT_EQ(merged->HasProperties().size(), 3U);
+  EXPECT_EQ(valueOf(*merged, "Both"), "source");
+  EXPECT_EQ(valueOf(*merged, "New"), "source");
+  EXPECT_EQ(valueOf(*merged, "Own"), "target");
+  EXPECT_EQ(wall->getPropertySetDefinitionNonConst<FcElementQuantity>("Q")->Quantities().size(),
+            2U);
+  EXPECT_EQ(set(*other, "P")->HasProperties().size(), 2U);
+  EXPECT_EQ(wall->Name(), "target");
+  EXPECT_EQ(wall->Tag(), "T1");
+  EXPECT_EQ(wall->predefinedTypeAsString(), "PARAPET");
 }
 
 TEST_F(PropertySets, OfAMaterialHaveTheSameFace) {

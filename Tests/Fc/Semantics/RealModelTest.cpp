@@ -14,13 +14,7 @@
 namespace qor::fc {
 namespace {
 
-using core::kernel::FcObjectDefinition;
-using core::kernel::FcProduct;
-using core::kernel::FcPropertySet;
-using core::kernel::FcPropertySetDefinition;
-using core::kernel::FcRelDefinesByProperties;
-using core::kernel::FcTypeObject;
-using core::kernel::FcTypeProduct;
+using namespace core::kernel;
 using Types = core::kernel::FcPropertySetDefinitionSelect::Types;
 
 using Attachment = std::pair<const FcObjectDefinition*, const FcPropertySetDefinition*>;
