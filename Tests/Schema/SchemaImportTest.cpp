@@ -12,6 +12,7 @@ namespace qor::schema {
 namespace {
 
 using test::errorOf;
+using test::Faulty;
 using testing::Pair;
 using testing::UnorderedElementsAre;
 
@@ -40,33 +41,28 @@ TEST(Groups, ComeFromListsAndFromTables) {
                                    Pair("IfcE", "core"), Pair("IfcS", "core")));
 }
 
-TEST(Groups, AreRefusedWhenUnclear) {
+TEST(SchemaImport, PutsEveryElementInItsGroup) {
+  const SchemaTable table =
+      importSchema("SCHEMA S; ENTITY A; END_ENTITY; TYPE B = SELECT (A); END_TYPE; END_SCHEMA;",
+                   {{"A", "one::a"}, {"B", "two::b"}, {"Gone", "three"}});
+  EXPECT_EQ(table.entities.at(0).group + ' ' + table.selects.at(0).group, "one::a two::b");
+}
+
+TEST(SchemaImport, NamesWhatIsMissingOrThereTwice) {
+  const Faulty cases[] = {{"ENTITY A; END_ENTITY; ENTITY C; END_ENTITY; TYPE B = REAL; END_TYPE;",
+                           "no group is given for: C B"},
+                          {"ENTITY A; Tag : IfcLabel; END_ENTITY;", "A.Tag: unknown type IfcLabel"},
+                          {"ENTITY A; END_ENTITY; TYPE A = REAL; END_TYPE;", "A is defined twice"}};
+  for (const Faulty& faulty : cases) {
+    const std::string text = "SCHEMA S; " + std::string(faulty.text) + " END_SCHEMA;";
+    EXPECT_EQ(errorOf([&] { importSchema(text, {{"A", "core"}}); }), faulty.error);
+  }
   EXPECT_EQ(errorOf([] {
               groupsOf({"IfcWall\ta::b\n", "IfcWall\ta::c\n"});
             }),
             "IfcWall has two groups, a::b and a::c");
   EXPECT_EQ(errorOf([] { groupsOf({"IfcWall\ta\nIfcDoor\n"}); }),
             "line 2: expected a group, found the end");
-}
-
-TEST(SchemaImport, PutsEveryElementInItsGroup) {
-  const SchemaTable table =
-      importSchema("SCHEMA S; ENTITY A; END_ENTITY; TYPE B = SELECT (A); END_TYPE; END_SCHEMA;",
-                   {{"A", "one::a"}, {"B", "two::b"}, {"Gone", "three"}});
-  EXPECT_EQ(table.entities.at(0).group, "one::a");
-  EXPECT_EQ(table.selects.at(0).group, "two::b");
-}
-
-TEST(SchemaImport, NamesWhatIsMissingOrThereTwice) {
-  const auto errorOfImport = [](const std::string& declarations) {
-    return errorOf([&] {
-      importSchema("SCHEMA S; " + declarations + " END_SCHEMA;", {{"A", "core"}});
-    });
-  };
-  EXPECT_EQ(errorOfImport("ENTITY A; END_ENTITY; ENTITY C; END_ENTITY; TYPE B = REAL; END_TYPE;"),
-            "no group is given for: C B");
-  EXPECT_EQ(errorOfImport("ENTITY A; Tag : IfcLabel; END_ENTITY;"), "A.Tag: unknown type IfcLabel");
-  EXPECT_EQ(errorOfImport("ENTITY A; END_ENTITY; TYPE A = REAL; END_TYPE;"), "A is defined twice");
 }
 
 TEST(SchemaImport, MakesTheCommittedTableAgain) {
