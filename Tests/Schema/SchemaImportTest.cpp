@@ -2,7 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <fstream>
 #include <sstream>
 
 #include "Tests/Schema/ExpectError.h"
@@ -11,6 +10,7 @@
 namespace qor::schema {
 namespace {
 
+using qor::test::readFile;
 using test::errorOf;
 using test::Faulty;
 using testing::Pair;
@@ -23,13 +23,6 @@ Groups groupsOf(std::initializer_list<const char*> files) {
     readGroups(in, groups);
   }
   return groups;
-}
-
-std::string textOf(const std::filesystem::path& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::ostringstream text;
-  text << in.rdbuf();
-  return text.str();
 }
 
 TEST(Groups, ComeFromListsAndFromTables) {
@@ -67,9 +60,9 @@ TEST(SchemaImport, NamesWhatIsMissingOrThereTwice) {
 
 TEST(SchemaImport, MakesTheCommittedTableAgain) {
   FC_SHARED_FILE_OR_SKIP(express, "IFC4X3_ADD2.exp");
-  const std::string committed = textOf(FC_SCHEMA_TABLE);
+  const std::string committed = readFile(FC_SCHEMA_TABLE);
   std::ostringstream again;
-  writeSchemaTable(again, importSchema(textOf(express), groupsOf({committed.c_str()})));
+  writeSchemaTable(again, importSchema(readFile(express), groupsOf({committed.c_str()})));
   EXPECT_TRUE(again.str() == committed) << "run schema_import, and look at the difference";
 }
 

@@ -3,10 +3,10 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
-#include <fstream>
 #include <sstream>
 
 #include "Tests/Schema/ExpectError.h"
+#include "Tests/Support/SharedModels.h"
 
 namespace qor::schema {
 namespace {
@@ -86,10 +86,8 @@ TEST(SchemaTable, NamesTheElementThatDoesntFit) {
 }
 
 TEST(CommittedTable, HoldsTheWholeSchemaAsTheWriterWritesIt) {
-  std::ifstream in(FC_SCHEMA_TABLE, std::ios::binary);
-  std::ostringstream text;
-  text << in.rdbuf();
-  const SchemaTable table = read(text.str());
+  const std::string text = qor::test::readFile(FC_SCHEMA_TABLE);
+  const SchemaTable table = read(text);
   EXPECT_EQ(table.name, "IFC4X3_ADD2");
   EXPECT_EQ(table.entities.size(), 876U);
   EXPECT_EQ(std::ranges::count_if(table.entities, &Entity::abstract), 133);
@@ -98,7 +96,7 @@ TEST(CommittedTable, HoldsTheWholeSchemaAsTheWriterWritesIt) {
   EXPECT_EQ(table.definedTypes.size(), 132U);
   std::ostringstream again;
   writeSchemaTable(again, table);
-  EXPECT_EQ(again.str(), text.str());
+  EXPECT_EQ(again.str(), text);
 }
 
 }  // namespace

@@ -18,6 +18,9 @@ std::vector<std::filesystem::path> sharedModels();
 /// Those of them under "models/buildings".
 std::vector<std::filesystem::path> sharedBuildings();
 
+/// The bytes of a file; none where it can't be read.
+std::string readFile(const std::filesystem::path& path);
+
 /// Name of a model as a test parameter's suffix: letters, digits and underscores alone.
 std::string modelTestName(const testing::TestParamInfo<std::filesystem::path>& model);
 

@@ -58,15 +58,5 @@ TEST(ConvertCommand, KeepsAnInputThatItCantHoldWhole) {
   EXPECT_EQ(readFile(file), before);
 }
 
-TEST(ConvertCommand, RefusesWhereItCantWriteAndLeavesNothingBehind) {
-  const ScratchFolder folder;
-  for (const char* target : {"no/such/folder.ifc", ""}) {
-    const ToolRun run = runTool({"convert", sampleFile(), folder.path(target)});
-    EXPECT_EQ(run.code, ExitCode::impossible);
-    EXPECT_THAT(run.err, testing::StartsWith("fctool: can't write '" + folder.path(target)));
-  }
-  EXPECT_TRUE(std::filesystem::is_empty(folder.path("")));
-}
-
 }  // namespace
 }  // namespace qor::test

@@ -11,14 +11,11 @@ namespace qor::test {
 namespace {
 
 using host::cli::ExitCode;
-using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-using testing::Not;
 using testing::StartsWith;
 
 constexpr const char* southWall = "0TFreCQonEaOenN0vtqaQR";
-
 
 TEST(ExtractCommand, TakesAnElementWithItsOpeningsItsTypeItsSetsAndTheWayUp) {
   const ScratchFolder folder;
@@ -57,17 +54,6 @@ TEST(ExtractCommand, OfADoorTakesNoWall) {
   EXPECT_FALSE(classes.contains("IFCWALL"));
   // The door stands where it stood: its placement is relative to those of the opening and the wall.
   EXPECT_EQ(classes.value("IFCLOCALPLACEMENT", 0), 6);
-}
-
-TEST(ExtractCommand, WritesNothingForAGuidThatIsNoObjects) {
-  const ScratchFolder folder;
-  const std::string out = folder.path("out.ifc");
-  for (const char* guid : {"nonsense", "0TFrezQonEaOenN0vtqaQR", "0TFreOQonEaOenN0vtqaQR"}) {
-    const ToolRun run = runTool({"extract", sampleFile(), "--guid", southWall, guid, "-o", out});
-    EXPECT_EQ(run.code, ExitCode::impossible) << guid;
-    EXPECT_THAT(run.err, StartsWith("fctool: ")) << guid;
-  }
-  EXPECT_FALSE(std::filesystem::exists(out));
 }
 
 class BuildingExtract : public testing::TestWithParam<std::filesystem::path> {};
