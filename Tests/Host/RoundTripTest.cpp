@@ -43,7 +43,7 @@ TEST(Writing, NumbersEntitiesOfAClassInTheOrderInWhichTheyWereAdded) {
   }
 }
 
-class RealModel : public testing::TestWithParam<std::filesystem::path> {};
+class RealModel : public test::ModelTest {};
 
 TEST_P(RealModel, ReadsBackTheSameWhenItWasWritten) {
   const ReadResult model = readStepFile(GetParam(), asInTheFile);
@@ -80,9 +80,7 @@ TEST_P(RealModel, IsWrittenAsItWasReadButForTheFormatting) {
   EXPECT_LE(differences.size(), mended) << testing::PrintToString(differences);
 }
 
-INSTANTIATE_TEST_SUITE_P(RoundTrip, RealModel, testing::ValuesIn(test::sharedModels()),
-                         test::modelTestName);
-GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(RealModel);
+FC_INSTANTIATE_FOR_MODELS(RealModel, test::sharedModels());
 
 }  // namespace
 }  // namespace qor::host::step

@@ -394,7 +394,7 @@ TEST(Units, ParametersInDegreesAreThoseOfACopyInRadians) {
       30u);
 }
 
-class Building : public testing::TestWithParam<std::filesystem::path> {};
+class Building : public test::ModelTest {};
 
 /// Gives the unit of lengths another prefix.
 void setLengthUnit(const ReadResult& model, std::optional<FcSIPrefix> prefix) {
@@ -419,9 +419,7 @@ TEST_P(Building, IsTheSameInMillimetresAndInMetres) {
   EXPECT_THAT(test::differences(expected, converted, test::Compared::allButUnits), IsEmpty());
 }
 
-INSTANTIATE_TEST_SUITE_P(Units, Building, testing::ValuesIn(test::sharedBuildings()),
-                         test::modelTestName);
-GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(Building);
+FC_INSTANTIATE_FOR_MODELS(Building, test::sharedBuildings());
 
 }  // namespace
 }  // namespace qor::host::step

@@ -56,7 +56,7 @@ TEST(ExtractCommand, OfADoorTakesNoWall) {
   EXPECT_EQ(classes.value("IFCLOCALPLACEMENT", 0), 6);
 }
 
-class BuildingExtract : public testing::TestWithParam<std::filesystem::path> {};
+class BuildingExtract : public ModelTest {};
 
 TEST_P(BuildingExtract, HasTheContentOfItsSource) {
   const ScratchFolder folder;
@@ -85,9 +85,7 @@ TEST_P(BuildingExtract, HasTheContentOfItsSource) {
   EXPECT_EQ(readFile(out).find("IFCSTYLEDITEM") != std::string::npos, hasStyles);
 }
 
-INSTANTIATE_TEST_SUITE_P(ExtractCommand, BuildingExtract, testing::ValuesIn(sharedBuildings()),
-                         modelTestName);
-GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(BuildingExtract);
+FC_INSTANTIATE_FOR_MODELS(BuildingExtract, sharedBuildings());
 
 }  // namespace
 }  // namespace qor::test

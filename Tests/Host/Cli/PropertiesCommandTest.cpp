@@ -89,7 +89,7 @@ TEST(PropertiesCommand, JsonHasThePromisedKeys) {
   EXPECT_TRUE(json.at("objects").back().at("id").is_null());
 }
 
-class BuildingProperties : public testing::TestWithParam<std::filesystem::path> {};
+class BuildingProperties : public ModelTest {};
 
 /// The name of each property and quantity by number, from the text of the file; names with
 /// apostrophes or escapes are left empty.
@@ -122,9 +122,7 @@ TEST_P(BuildingProperties, AppearEachOne) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(PropertiesCommand, BuildingProperties,
-                         testing::ValuesIn(sharedBuildings()), modelTestName);
-GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(BuildingProperties);
+FC_INSTANTIATE_FOR_MODELS(BuildingProperties, sharedBuildings());
 
 }  // namespace
 }  // namespace qor::test

@@ -68,7 +68,7 @@ std::string deviationOf(const json* product, const json& reference) {
   return out.str();
 }
 
-class Reference : public testing::TestWithParam<std::filesystem::path> {
+class Reference : public ModelTest {
  protected:
   /// The entry that explains the product; null for none.
   const KnownDeviation* explanation(const std::string& guid) const {
@@ -110,8 +110,7 @@ TEST_P(Reference, AgreesWithWhatIsMeasured) {
   RecordProperty("explained", static_cast<int>(explained));
 }
 
-INSTANTIATE_TEST_SUITE_P(Models, Reference, testing::ValuesIn(sharedModels()), modelTestName);
-GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(Reference);
+FC_INSTANTIATE_FOR_MODELS(Reference, sharedModels());
 
 }  // namespace
 }  // namespace qor::test

@@ -85,7 +85,7 @@ double distance(const Matrix& a, const Matrix& b) {
   return most;
 }
 
-class PlacementChain : public testing::TestWithParam<std::filesystem::path> {};
+class PlacementChain : public ModelTest {};
 
 TEST_P(PlacementChain, IsTheFrameOfEachProduct) {
   const auto previous = Assert::setHandler([](const AssertInfo&) {});
@@ -107,8 +107,7 @@ TEST_P(PlacementChain, IsTheFrameOfEachProduct) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Models, PlacementChain, testing::ValuesIn(sharedModels()), modelTestName);
-GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(PlacementChain);
+FC_INSTANTIATE_FOR_MODELS(PlacementChain, sharedModels());
 
 }  // namespace
 }  // namespace qor::test
