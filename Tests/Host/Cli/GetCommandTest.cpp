@@ -89,12 +89,14 @@ TEST(GetCommand, JsonHasThePromisedKeys) {
   EXPECT_EQ(json.at("inverseAttributes").at("HasOpenings").at(1).at("id"), 75);
 }
 
-TEST(GetCommand, SaysThatAnInstanceWasLeftOut) {
+TEST(GetCommand, SaysThatAnInstanceWasLeftOutAndSoDoesTheDrawing) {
   const ScratchFolder folder;
   const std::string file = folder.model("#1=IFCNOSUCH();\n");
-  const ToolRun run = runTool({"get", file, "--id", "1"});
-  EXPECT_EQ(run.code, ExitCode::impossible);
-  EXPECT_THAT(run.err, HasSubstr("\nfctool: #1 of '" + file + "' was left out"));
+  for (const char* command : {"get", "draw"}) {
+    const ToolRun run = runTool({command, file, "--id", "1"});
+    EXPECT_EQ(run.code, ExitCode::impossible);
+    EXPECT_THAT(run.err, HasSubstr("\nfctool: #1 of '" + file + "' was left out"));
+  }
 }
 
 TEST(GetCommand, NamesTheOthersThatShareAGuid) {
