@@ -145,8 +145,7 @@ std::string SolidMesh::problem() const {
   if (!m_badInput.empty()) return m_badInput;
   if (m_faces.empty()) return "no faces";
   for (const Point3d& p : m_points)
-    if (!std::isfinite(p.x) || !std::isfinite(p.y) || !std::isfinite(p.z))
-      return "a coordinate isn't finite";
+    if (!p.isFinite()) return "a coordinate isn't finite";
 
   std::map<std::pair<std::uint32_t, std::uint32_t>, int> uses;
   for (const auto& face : weldedFaces())
