@@ -34,6 +34,8 @@ TEST(Epsilon, BelongsToOneThreadAndComesBack) {
 TEST(Matrix, IsTheIdentityWithinTheTolerances) {
   EXPECT_TRUE(Matrix({1, 1e-7, 0}, {0, 1, 0}, {0, 0, 1}, {0, 0, -1e-7}).isIdentity());
   EXPECT_FALSE(Matrix({1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {0, 0, 1e-5}).isIdentity());
+  EXPECT_TRUE(Matrix2d({1, 1e-7}, {0, 1}, {0, -1e-7}).isIdentity());
+  EXPECT_FALSE(Matrix2d({1, 0}, {0, 1}, {0, 1e-5}).isIdentity());
 }
 
 TEST(Matrix, IsUndoneByItsInverse) {
