@@ -11,6 +11,7 @@
 #include <memory>
 #include <vector>
 
+#include "Benchmarks/HeapInUse.h"
 #include "Fc/ComplexGeometry/FaceSetsFromShapes.h"
 #include "Fc/ComplexGeometry/FcImplicitClippingTask.h"
 #include "Fc/FcParams.h"
@@ -76,6 +77,24 @@ void wallWithOpenings(benchmark::State& state) {
   state.counters["alone"] = alone;
 }
 BENCHMARK(wallWithOpenings)->Arg(1)->Arg(10)->Arg(100)->Unit(benchmark::kMillisecond);
+
+// Memory must come back: `kept` is what the heap has grown by for each cut, in bytes, when a
+// thousand are done and a first one has filled what Open CASCADE keeps for all.
+void thousandCuts(benchmark::State& state) {
+  const auto wall = block(4, 0.3, 3), opening = block(1, 0.5, 1.2);
+  const auto cut = [&] {
+    const FcImplicitClippingTask task(params(), wall, {}, {{opening, at(1, -0.1, 1)}});
+    benchmark::DoNotOptimize(task.process());
+  };
+  cut();
+  const double before = static_cast<double>(heapInUse());
+  constexpr int cuts = 1000;
+  for (auto _ : state)
+    for (int i = 0; i < cuts; ++i) cut();
+  state.counters["kept"] = (static_cast<double>(heapInUse()) - before) /
+                           (static_cast<double>(state.iterations()) * cuts);
+}
+BENCHMARK(thousandCuts)->Unit(benchmark::kMillisecond);
 
 void chainOfHalfSpaces(benchmark::State& state) {
   std::shared_ptr<FcBooleanResult> chain;

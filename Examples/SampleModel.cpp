@@ -3,7 +3,7 @@
 //
 //     sample_model out.ifc
 //
-// Read it from `main` at the end upwards. The road is the same for every model:
+// Read `SampleHouse::build` first. The road is the same for every model:
 //
 //   1. Make a `Data`. It is the model: it lists all entities, owns them and answers queries.
 //   2. `data->create<FcWall>()` makes an entity of a class and lists it. Every class of the schema
@@ -15,400 +15,372 @@
 //      relationship writes the other: once `RelatedElements` of a containment names a wall, the
 //      wall's `ContainedInStructure()` finds the storey.
 //   5. Whatever has an identity (all below `FcRoot`) needs a guid.
+//   6. What is to be seen gets a shape: items of geometry in a representation, in the context that
+//      says what for.
+//
+// `ModelBuilder` holds 1, 2, 4 and 5, `ShapeBuilder` holds 6. `WallOpenings` are windows and doors,
+// `BalconySteel` are columns and railing, `Garden` is what the house stands in, `Facts` are units,
+// properties, quantities, materials and classification.
 //
 // The order below, project first, is that in which a reader of the file looks for things; the
 // library doesn't ask for it.
 
-#include <array>
 #include <cstdio>
 #include <exception>
-#include <memory>
 #include <string>
-#include <utility>
-#include <vector>
 
+#include "Examples/BalconySteel.h"
+#include "Examples/Facts.h"
+#include "Examples/Garden.h"
+#include "Examples/ModelBuilder.h"
+#include "Examples/ShapeBuilder.h"
+#include "Examples/WallOpenings.h"
 #include "Fc/Core/Kernel/FcProject.h"
-#include "Fc/Core/Kernel/FcPropertySet.h"
-#include "Fc/Core/Kernel/FcRelAggregates.h"
-#include "Fc/Core/Kernel/FcRelAssociatesClassification.h"
-#include "Fc/Core/Kernel/FcRelDefinesByProperties.h"
-#include "Fc/Core/Kernel/FcRelDefinesByType.h"
 #include "Fc/Core/ProductExtension/FcBuilding.h"
 #include "Fc/Core/ProductExtension/FcBuildingStorey.h"
-#include "Fc/Core/ProductExtension/FcElementQuantity.h"
-#include "Fc/Core/ProductExtension/FcOpeningElement.h"
-#include "Fc/Core/ProductExtension/FcRelContainedInSpatialStructure.h"
-#include "Fc/Core/ProductExtension/FcRelFillsElement.h"
-#include "Fc/Core/ProductExtension/FcRelVoidsElement.h"
+#include "Fc/Core/ProductExtension/FcGeographicElement.h"
 #include "Fc/Core/ProductExtension/FcSite.h"
 #include "Fc/Core/ProductExtension/FcSpace.h"
-#include "Fc/Data.h"
-#include "Fc/Resource/ExternalReference/FcClassification.h"
-#include "Fc/Resource/ExternalReference/FcClassificationReference.h"
-#include "Fc/Resource/GeometricConstraint/FcLocalPlacement.h"
-#include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
-#include "Fc/Resource/Geometry/FcCartesianPoint.h"
-#include "Fc/Resource/Geometry/FcDirection.h"
-#include "Fc/Resource/Measure/FcDerivedUnit.h"
-#include "Fc/Resource/Measure/FcDerivedUnitElement.h"
-#include "Fc/Resource/Measure/FcSIUnit.h"
-#include "Fc/Resource/Measure/FcUnitAssignment.h"
-#include "Fc/Resource/Property/FcPropertySingleValue.h"
-#include "Fc/Resource/Quantity/FcQuantityArea.h"
-#include "Fc/Resource/Quantity/FcQuantityLength.h"
-#include "Fc/Resource/Representation/FcGeometricRepresentationSubContext.h"
-#include "Fc/Shared/BuildingElements/FcDoor.h"
+#include "Fc/Shared/BuildingElements/FcChimney.h"
+#include "Fc/Shared/BuildingElements/FcColumn.h"
+#include "Fc/Shared/BuildingElements/FcRailing.h"
+#include "Fc/Shared/BuildingElements/FcRoof.h"
 #include "Fc/Shared/BuildingElements/FcSlab.h"
+#include "Fc/Shared/BuildingElements/FcStair.h"
 #include "Fc/Shared/BuildingElements/FcWall.h"
 #include "Fc/Shared/BuildingElements/FcWallType.h"
-#include "Fc/Shared/BuildingElements/FcWindow.h"
-#include "Host/StepFile/StepWriter.h"
 
+namespace sample {
 namespace {
 
-using namespace qor;
-using namespace qor::fc::core::kernel;
-using namespace qor::fc::core::productextension;
-using namespace qor::fc::resource::externalreference;
-using namespace qor::fc::resource::geometricconstraint;
-using namespace qor::fc::resource::geometry;
-using namespace qor::fc::resource::measure;
-using namespace qor::fc::resource::property;
-using namespace qor::fc::resource::quantity;
-using namespace qor::fc::resource::representation;
-using namespace qor::fc::shared::buildingelements;
+// The house stands on [0, length] by [0, width], its ridge along Y. All in metres.
+constexpr double length = 8;
+constexpr double width = 6;
+constexpr double storeyHeight = 2.8;
+constexpr double wallThickness = 0.24;
+constexpr double slabThickness = 0.2;
 
-/// In metres.
-struct Position {
-  double x, y, z;
-};
+// The roof rises 3 on 4: cosine and sine of its pitch are 0.8 and 0.6.
+constexpr double kneeHeight = 1.2;  // of the outer faces of the walls below the eaves
+constexpr double rise = 0.75;
+constexpr double cosine = 0.8;
+constexpr double sine = 0.6;
+constexpr double ridgeHeight = kneeHeight + rise * length / 2;
+constexpr double roofHeight = 0.25;  // 0.2 thick, measured upright
+constexpr double eaves = 0.5;        // how far the roof reaches beyond the walls
+constexpr double verge = 0.35;
 
-/// Builds the model step by step. Lengths are in metres.
+/// The frame of a wall: X along its outer face, Y into the house.
+math::Matrix wallFrame(const math::Point3d& origin, const math::Vector3d& along) {
+  return {origin, along, math::Vector3d(0, 0, 1)};
+}
+
+/// A plane of the roof in the frame of a wall: through `point`, looking along `normal`.
+math::Matrix roofPlane(const math::Point3d& point, const math::Vector3d& normal) {
+  const math::Vector3d level =
+      normal.x == 0 ? math::Vector3d(1, 0, 0) : math::Vector3d(normal.z, 0, -normal.x);
+  return {point, level, normal};
+}
+
+/// Upright across the house: X stays, Y points up, Z to the front.
+math::Matrix crossSection(double y) {
+  return {math::Point3d(0, y, 0), math::Vector3d(1, 0, 0), math::Vector3d(0, -1, 0)};
+}
+
+using Storey = std::shared_ptr<FcBuildingStorey>;
+using Wall = std::shared_ptr<FcWall>;
+using Slab = std::shared_ptr<FcSlab>;
+
+/// Builds the model step by step.
 class SampleHouse {
  public:
   void build() {
-    const auto project = createProject();
-    const auto site = createSpatial<FcSite>("Meadow", {0, 0, 0}, nullptr);
-    const auto building = createSpatial<FcBuilding>("House", {12, 7.5, 0}, site);
+    const auto site = createSite();
+    const auto building = createSpatial<FcBuilding>("House", at(7, 7, 0), site);
     const auto ground = createStorey("Ground floor", 0, building);
-    const auto upper = createStorey("Upper floor", 2.8, building);
-    const auto room = createSpatial<FcSpace>("0.1", {0.24, 0.24, 0}, ground);
-    room->setLongName("Living room");
-    aggregate(project, {site});
-    aggregate(site, {building});
-    aggregate(building, {ground, upper});
-    aggregate(ground, {room});
-    furnishGround(ground);
-    furnishUpper(upper);
-    const auto wallType = createWallType();
-    describeWalls();
-    describe(*wallType);
-    measure(walls<FcWall>().front());
-    classifyWalls();
-    addThermalUnits(*project->UnitsInContext());
+    const auto upper = createStorey("Upper floor", storeyHeight, building);
+    const auto room = createLivingRoom(ground);
+    m_model.aggregate(m_project, {site});
+    m_model.aggregate(site, {building});
+    m_model.aggregate(building, {ground, upper});
+    m_model.aggregate(ground, {room});
+    buildGround(ground);
+    buildUpper(upper);
+    plantTrees(site);
+    addFacts();
   }
 
-  host::step::WriteResult write(const std::string& path) const {
-    host::step::WriteOptions options;
-    options.header.description = {"A house of two storeys without shapes"};
-    options.header.name = "sample.ifc";
-    options.header.timeStamp = "2025-01-01T12:00:00";  // left empty, it is the time of writing
-    options.header.originatingSystem = "sample_model";
-    options.numbers = m_numbers;
-    return host::step::writeStepFile(*m_data, path, options);
-  }
+  host::step::WriteResult write(const std::string& path) const { return m_model.write(path); }
 
  private:
-  /// A new entity, listed in the model. The numbers are those of the file: a program that doesn't
-  /// give any has its entities numbered class by class.
-  template <class T>
-  std::shared_ptr<T> create() {
-    auto entity = m_data->create<T>();
-    m_numbers.push_back({m_numbers.size() + 1, entity});
-    return entity;
-  }
-
-  /// The same for what has an identity. `Guid::generate()` is what a program would take here; these
-  /// are counted so that every run gives the same file.
-  template <class T>
-  std::shared_ptr<T> createRoot() {
-    auto root = create<T>();
-    const std::array<std::uint8_t, 8> tail{0x8A, 0x31, 0x5C, 0x0E, 0x77, 0xD2, 0x46, 0x9B};
-    root->setGuid(Guid(0x1D3F5A00 + ++m_rootCount, 0x6B2C, 0x4E91, tail));
-    return root;
-  }
-  template <class T>
-  std::shared_ptr<T> createRoot(const std::string& name) {
-    auto root = createRoot<T>();
-    root->setName(name);
-    return root;
-  }
-
-  std::shared_ptr<FcProject> createProject() {
-    auto project = createRoot<FcProject>("Sample house");
-    project->setUnitsInContext(createUnits());
-    project->setRepresentationContexts({createContext()});
+  static std::shared_ptr<FcProject> createProject(ModelBuilder& model, Facts& facts) {
+    auto project = model.createRoot<FcProject>("Sample house");
+    project->setUnitsInContext(facts.createUnits());
     return project;
   }
 
-  std::shared_ptr<FcUnitAssignment> createUnits() {
-    auto units = create<FcUnitAssignment>();
-    units->insertUnits(createUnit(FcUnitEnum::LENGTHUNIT, FcSIUnitName::METRE));
-    units->insertUnits(createUnit(FcUnitEnum::AREAUNIT, FcSIUnitName::SQUARE_METRE));
-    units->insertUnits(createUnit(FcUnitEnum::VOLUMEUNIT, FcSIUnitName::CUBIC_METRE));
-    units->insertUnits(createUnit(FcUnitEnum::PLANEANGLEUNIT, FcSIUnitName::RADIAN));
-    return units;
-  }
-  std::shared_ptr<FcNamedUnit> createUnit(FcUnitEnum type, FcSIUnitName name) {
-    auto unit = create<FcSIUnit>();
-    unit->setUnitType(type);
-    unit->setName(name);
-    return unit;
-  }
-
-  /// A unit that is made of others: watt per square metre and kelvin.
-  void addThermalUnits(FcUnitAssignment& units) {
-    auto transmittance = create<FcDerivedUnit>();
-    transmittance->setUnitType(FcDerivedUnitEnum::THERMALTRANSMITTANCEUNIT);
-    const auto add = [&](std::shared_ptr<FcNamedUnit> unit, int exponent) {
-      auto element = create<FcDerivedUnitElement>();
-      element->setUnit(std::move(unit));
-      element->setExponent(exponent);
-      transmittance->insertElements(element);
-    };
-    add(createUnit(FcUnitEnum::POWERUNIT, FcSIUnitName::WATT), 1);
-    add(units.Units().front().NamedUnit(), -2);
-    add(createUnit(FcUnitEnum::THERMODYNAMICTEMPERATUREUNIT, FcSIUnitName::KELVIN), -1);
-    units.insertUnits(transmittance);
-  }
-
-  /// The frame of all shapes, and below it the context for bodies.
-  std::shared_ptr<FcGeometricRepresentationContext> createContext() {
-    auto model = create<FcGeometricRepresentationContext>();
-    model->setContextType("Model");
-    model->setCoordinateSpaceDimension(3);
-    model->setPrecision(1e-5);
-    model->setWorldCoordinateSystem(createFrame({0, 0, 0}));
-    auto body = create<FcGeometricRepresentationSubContext>();
-    body->setContextIdentifier("Body");
-    body->setContextType("Model");
-    body->setParentContext(model);
-    body->setTargetView(FcGeometricProjectionEnum::MODEL_VIEW);
-    return model;
-  }
-
-  std::shared_ptr<FcAxis2Placement3D> createFrame(const Position& origin) {
-    auto point = create<FcCartesianPoint>();
-    point->setCoordinates({origin.x, origin.y, origin.z});
-    auto frame = create<FcAxis2Placement3D>();
-    frame->setLocation(point);
-    return frame;
-  }
-  /// A frame whose x axis points along (`x`, `y`, 0) and whose z axis points up.
-  std::shared_ptr<FcAxis2Placement3D> createFrame(const Position& origin, double x, double y) {
-    auto frame = createFrame(origin);
-    auto along = create<FcDirection>();
-    along->setDirectionRatios({x, y, 0.0});
-    auto up = create<FcDirection>();
-    up->setDirectionRatios({0.0, 0.0, 1.0});
-    frame->setAxis(up);  // both axes or none
-    frame->setRefDirection(along);
-    return frame;
-  }
-
-  /// Places a product in the frame of another one, or in that of the model.
-  void place(FcProduct& product, std::shared_ptr<FcAxis2Placement3D> frame,
-             const std::shared_ptr<FcProduct>& in) {
-    auto placement = create<FcLocalPlacement>();
-    if (in) placement->setPlacementRelTo(in->ObjectPlacement());
-    placement->setRelativePlacement(std::move(frame));
-    product.setObjectPlacement(placement);
-  }
+  // Spatial structure
 
   template <class T>
-  std::shared_ptr<T> createSpatial(const std::string& name, const Position& origin,
+  std::shared_ptr<T> createSpatial(const std::string& name, const math::Matrix& frame,
                                    const std::shared_ptr<FcProduct>& in) {
-    auto element = createRoot<T>(name);
-    place(*element, createFrame(origin), in);
+    auto element = m_model.createRoot<T>(name);
+    m_model.place(*element, frame, in);
     element->setCompositionType(FcElementCompositionEnum::ELEMENT);
     return element;
   }
-  std::shared_ptr<FcBuildingStorey> createStorey(const std::string& name, double elevation,
-                                                 const std::shared_ptr<FcBuilding>& building) {
-    auto storey = createSpatial<FcBuildingStorey>(name, {0, 0, elevation}, building);
+  std::shared_ptr<FcSite> createSite() {
+    auto site = createSpatial<FcSite>("Meadow", {}, nullptr);
+    m_shapes.showBody(*site, RepresentationType::Tessellation,
+                      {m_shapes.painted(substance::grass, createMeadow(m_model))});
+    // The model's Y axis looks 16 degrees east of north.
+    m_project->setTrueNorth(m_model.data(), math::Vector2d(-0.28, 0.96));
+    return site;
+  }
+  Storey createStorey(const std::string& name, double elevation,
+                      const std::shared_ptr<FcBuilding>& building) {
+    auto storey = createSpatial<FcBuildingStorey>(name, at(0, 0, elevation), building);
     storey->setElevation(elevation);
     return storey;
   }
-
-  void aggregate(const std::shared_ptr<FcObjectDefinition>& whole,
-                 std::vector<std::shared_ptr<FcObjectDefinition>> parts) {
-    auto relation = createRoot<FcRelAggregates>();
-    relation->setRelatingObject(whole);
-    relation->setRelatedObjects(std::move(parts));
-  }
-  void contain(const std::shared_ptr<FcSpatialElement>& structure,
-               std::vector<std::shared_ptr<FcProduct>> elements) {
-    auto relation = createRoot<FcRelContainedInSpatialStructure>();
-    relation->setRelatingStructure(structure);
-    relation->setRelatedElements(std::move(elements));
+  std::shared_ptr<FcSpace> createLivingRoom(const Storey& storey) {
+    auto room = createSpatial<FcSpace>("0.1", at(wallThickness, wallThickness, 0), storey);
+    room->setLongName("Living room");
+    m_shapes.showBody(*room, RepresentationType::SweptSolid,
+                      {m_shapes.box({0, 0, 0}, length - 2 * wallThickness,
+                                    width - 2 * wallThickness, storeyHeight - slabThickness)});
+    return room;
   }
 
-  void furnishGround(const std::shared_ptr<FcBuildingStorey>& storey) {
-    const auto slab = createSlab("Base slab", FcSlabTypeEnum::BASESLAB, storey);
-    const auto south = createWall("South wall", createFrame({0, 0, 0}), storey);
-    const auto east = createWall("East wall", createFrame({8, 0, 0}, 0, 1), storey);
-    const auto north = createWall("North wall", createFrame({8, 6, 0}, -1, 0), storey);
-    const auto west = createWall("West wall", createFrame({0, 6, 0}, 0, -1), storey);
-    const auto door = createDoor(createOpening("Door opening", {1.2, 0, 0}, south));
-    const auto window = createWindow(createOpening("Window opening", {4.5, 0, 0.9}, south));
-    contain(storey, {slab, south, east, north, west, door, window});
+  // Storeys
+
+  void buildGround(const Storey& storey) {
+    const auto slab = createBaseSlab(storey);
+    const auto south = createWall("South wall", southFrame(), length, storeyHeight, storey);
+    const auto east = createWall("East wall", eastFrame(), width, storeyHeight, storey);
+    const auto north = createWall("North wall", northFrame(), length, storeyHeight, storey);
+    const auto west = createWall("West wall", westFrame(), width, storeyHeight, storey);
+    m_model.contain(storey, {slab, south, east, north, west, createDoorstep(storey),
+                             m_openings.addFrontDoor(south, 1.2),
+                             m_openings.addWindow("K\u00FCchenfenster", south, 4.75, 0.9),  // UTF-8
+                             m_openings.addWindow("East window 1", east, 0.9, 0.9),
+                             m_openings.addWindow("East window 2", east, 3.6, 0.9),
+                             m_openings.addWindow("North window", north, 5.3, 0.9),
+                             m_openings.addWindow("West window", west, 3.6, 0.9),
+                             m_steel.createColumn("West column", {4.15, -1.45, -0.3}, storey),
+                             m_steel.createColumn("East column", {6.85, -1.45, -0.3}, storey),
+                             createStair(storey), createChimney(storey)});
   }
-  void furnishUpper(const std::shared_ptr<FcBuildingStorey>& storey) {
-    const auto slab = createSlab("Floor slab", FcSlabTypeEnum::FLOOR, storey);
-    const auto south = createWall("South gable", createFrame({0, 0, 0}), storey);
-    const auto north = createWall("North gable", createFrame({8, 6, 0}, -1, 0), storey);
-    contain(storey, {slab, south, north});
+  void buildUpper(const Storey& storey) {
+    const auto slab = createFloorSlab(storey);
+    const auto south = createGable("South gable", southFrame(), storey);
+    const auto east = createKneeWall("East knee wall", eastFrame(), storey);
+    const auto north = createGable("North gable", northFrame(), storey);
+    const auto west = createKneeWall("West knee wall", westFrame(), storey);
+    m_model.contain(
+        storey,
+        {slab, south, east, north, west, createRoof(storey), createBalcony(storey),
+         m_steel.createRailing(storey), m_openings.addWindow("South window", south, 1.6, 0.9),
+         m_openings.addBalconyDoor(south, 5),
+         m_openings.addRoundWindow("South round window", south, length / 2, 3.1),
+         m_openings.addWindow("Gable window", north, 3.25, 0.9),
+         m_openings.addRoundWindow("North round window", north, length / 2, 3.1)});
   }
 
-  std::shared_ptr<FcWall> createWall(const std::string& name,
-                                     std::shared_ptr<FcAxis2Placement3D> frame,
-                                     const std::shared_ptr<FcBuildingStorey>& storey) {
-    auto wall = createRoot<FcWall>(name);
-    place(*wall, std::move(frame), storey);
+  // Walls: outlines mitred at the corners, so that the bodies meet and don't overlap.
+
+  static math::Matrix southFrame() { return wallFrame({0, 0, 0}, {1, 0, 0}); }
+  static math::Matrix eastFrame() { return wallFrame({length, 0, 0}, {0, 1, 0}); }
+  static math::Matrix northFrame() { return wallFrame({length, width, 0}, {-1, 0, 0}); }
+  static math::Matrix westFrame() { return wallFrame({0, width, 0}, {0, -1, 0}); }
+
+  Item mitredWall(double along, double height) {
+    return m_shapes.extrude(m_shapes.polygon({{0, 0},
+                                              {along, 0},
+                                              {along - wallThickness, wallThickness},
+                                              {wallThickness, wallThickness}}),
+                            height);
+  }
+  Wall createWall(const std::string& name, const math::Matrix& frame, double along,
+                  RepresentationType type, const Item& body, const Storey& storey) {
+    auto wall = m_model.createRoot<FcWall>(name);
+    m_model.place(*wall, frame, storey);
     wall->setPredefinedType(FcWallTypeEnum::SOLIDWALL);
+    constexpr double middle = wallThickness / 2;  // axes meet in the corners
+    m_shapes.showAxis(*wall, {middle, middle}, {along - middle, middle});
+    m_shapes.showBody(*wall, type, {m_shapes.painted(substance::brick, body)});
     return wall;
   }
-  std::shared_ptr<FcSlab> createSlab(const std::string& name, FcSlabTypeEnum type,
-                                     const std::shared_ptr<FcBuildingStorey>& storey) {
-    auto slab = createRoot<FcSlab>(name);
-    place(*slab, createFrame({0, 0, -0.2}), storey);
+  Wall createWall(const std::string& name, const math::Matrix& frame, double along, double height,
+                  const Storey& storey) {
+    return createWall(name, frame, along, RepresentationType::SweptSolid, mitredWall(along, height),
+                      storey);
+  }
+  /// Cut off below both pitches of the roof.
+  Wall createGable(const std::string& name, const math::Matrix& frame, const Storey& storey) {
+    const Item whole = mitredWall(length, ridgeHeight + 0.5);
+    const Item left =
+        m_shapes.cutOffAbove(whole, roofPlane({0, 0, kneeHeight}, {-sine, 0, cosine}));
+    const Item both =
+        m_shapes.cutOffAbove(left, roofPlane({length, 0, kneeHeight}, {sine, 0, cosine}));
+    return createWall(name, frame, length, RepresentationType::Clipping, both, storey);
+  }
+  /// Its top slopes with the roof.
+  Wall createKneeWall(const std::string& name, const math::Matrix& frame, const Storey& storey) {
+    const Item body = m_shapes.cutOffAbove(mitredWall(width, kneeHeight + 0.5),
+                                           roofPlane({0, 0, kneeHeight}, {0, -sine, cosine}));
+    return createWall(name, frame, width, RepresentationType::Clipping, body, storey);
+  }
+
+  // Slabs, with their tops at the height of the floor
+
+  Slab createSlab(const std::string& name, FcSlabTypeEnum type, const Item& body,
+                  const Storey& storey) {
+    auto slab = m_model.createRoot<FcSlab>(name);
+    m_model.place(*slab, at(0, 0, -slabThickness), storey);
     slab->setPredefinedType(type);
+    m_shapes.showBody(*slab, RepresentationType::SweptSolid,
+                      {m_shapes.painted(substance::concrete, body)});
     return slab;
   }
-
-  /// An opening cuts its wall, and may be filled by a door or a window.
-  std::shared_ptr<FcOpeningElement> createOpening(const std::string& name, const Position& origin,
-                                                  const std::shared_ptr<FcWall>& wall) {
-    auto opening = createRoot<FcOpeningElement>(name);
-    place(*opening, createFrame(origin), wall);
-    opening->setPredefinedType(FcOpeningElementTypeEnum::OPENING);
-    auto relation = createRoot<FcRelVoidsElement>();
-    relation->setRelatingBuildingElement(wall);
-    relation->setRelatedOpeningElement(opening);
-    return opening;
+  Slab createBaseSlab(const Storey& storey) {
+    return createSlab("Base slab", FcSlabTypeEnum::BASESLAB,
+                      m_shapes.box({0, 0, 0}, length, width, slabThickness), storey);
   }
-  void fill(const std::shared_ptr<FcOpeningElement>& opening,
-            const std::shared_ptr<FcElement>& filling) {
-    place(*filling, createFrame({0, 0, 0}), opening);
-    auto relation = createRoot<FcRelFillsElement>();
-    relation->setRelatingOpeningElement(opening);
-    relation->setRelatedBuildingElement(filling);
+  Slab createDoorstep(const Storey& storey) {
+    return createSlab("Doorstep", FcSlabTypeEnum::LANDING,
+                      m_shapes.box({0.9, -1, 0}, 1.6, 1, slabThickness - 0.02), storey);
   }
-  std::shared_ptr<FcDoor> createDoor(const std::shared_ptr<FcOpeningElement>& opening) {
-    auto door = createRoot<FcDoor>("Front door");
-    fill(opening, door);
-    door->setOverallHeight(2.1);
-    door->setOverallWidth(1.0);
-    door->setPredefinedType(FcDoorTypeEnum::DOOR);
-    door->setOperationType(FcDoorTypeOperationEnum::SINGLE_SWING_LEFT);
-    return door;
+  /// Between the walls, with openings for stair and chimney.
+  Slab createFloorSlab(const Storey& storey) {
+    const double x = length - wallThickness, y = width - wallThickness;
+    const auto outline = m_shapes.polygon(
+        {{wallThickness, wallThickness}, {x, wallThickness}, {x, y}, {wallThickness, y}});
+    const auto slab = createSlab("Floor slab", FcSlabTypeEnum::FLOOR,
+                                 m_shapes.extrude(outline, slabThickness), storey);
+    m_openings.cut(slab, "Stairwell", at(2.5, 4.7, 0),
+                   m_shapes.box({0, 0, -0.1}, 3.8, 1.06, slabThickness + 0.2));
+    m_openings.cut(slab, "Chimney passage", at(5.2, 3.6, 0),
+                   m_shapes.box({0, 0, -0.1}, 0.6, 0.6, slabThickness + 0.2));
+    return slab;
   }
-  std::shared_ptr<FcWindow> createWindow(const std::shared_ptr<FcOpeningElement>& opening) {
-    auto window = createRoot<FcWindow>("K\u00FCchenfenster");  // texts are UTF-8
-    fill(opening, window);
-    window->setOverallHeight(1.2);
-    window->setOverallWidth(1.5);
-    window->setPredefinedType(FcWindowTypeEnum::WINDOW);
-    return window;
+  Slab createBalcony(const Storey& storey) {
+    return createSlab("Balcony", FcSlabTypeEnum::FLOOR,
+                      m_shapes.box({4, -1.6, 0}, 3, 1.6, slabThickness), storey);
   }
 
-  /// One type for all walls of the model.
-  std::shared_ptr<FcWallType> createWallType() {
-    auto type = createRoot<FcWallType>("Brick 240");
+  // Roof: two slabs that make up a whole, which has no shape of its own
+
+  std::shared_ptr<FcRoof> createRoof(const Storey& storey) {
+    auto roof = m_model.createRoot<FcRoof>("Roof");
+    m_model.place(*roof, {}, storey);
+    roof->setPredefinedType(FcRoofTypeEnum::GABLE_ROOF);
+    const double low = kneeHeight - rise * eaves, high = ridgeHeight, middle = length / 2;
+    const auto west = createPitch(
+        "West pitch",
+        {{-eaves, low}, {middle, high}, {middle, high + roofHeight}, {-eaves, low + roofHeight}},
+        roof);
+    const auto east = createPitch("East pitch",
+                                  {{middle, high},
+                                   {length + eaves, low},
+                                   {length + eaves, low + roofHeight},
+                                   {middle, high + roofHeight}},
+                                  roof);
+    m_openings.cut(east, "Chimney hole", at(5.2, 3.6, 0), m_shapes.box({0, 0, 0}, 0.6, 0.6, 5));
+    m_model.aggregate(roof, {west, east});
+    return roof;
+  }
+  Slab createPitch(const std::string& name, const std::vector<math::Point2d>& section,
+                   const std::shared_ptr<FcRoof>& roof) {
+    auto pitch = m_model.createRoot<FcSlab>(name);
+    m_model.place(*pitch, {}, roof);
+    pitch->setPredefinedType(FcSlabTypeEnum::ROOF);
+    const Item body =
+        m_shapes.extrude(m_shapes.polygon(section), width + 2 * verge, crossSection(width + verge));
+    m_shapes.showBody(*pitch, RepresentationType::SweptSolid,
+                      {m_shapes.painted(substance::slate, body)});
+    return pitch;
+  }
+
+  // What stands in and before the house
+
+  std::shared_ptr<FcStair> createStair(const Storey& storey) {
+    constexpr int risers = 16;
+    constexpr double tread = 0.24, riser = storeyHeight / risers;
+    std::vector<math::Point2d> steps{{0, 0}};
+    for (int i = 0; i < risers; ++i) {
+      steps.emplace_back(i * tread, (i + 1) * riser);
+      steps.emplace_back((i + 1) * tread, (i + 1) * riser);
+    }
+    steps.emplace_back(risers * tread, (risers - 1) * riser);  // the flight is as thick as a step
+    steps.emplace_back(2 * tread, 0);
+    auto stair = m_model.createRoot<FcStair>("Stair");
+    m_model.place(*stair, at(2.4, 0, 0), storey);
+    stair->setPredefinedType(FcStairTypeEnum::STRAIGHT_RUN_STAIR);
+    const Item body =
+        m_shapes.extrude(m_shapes.polygon(steps), 1, crossSection(width - wallThickness));
+    m_shapes.showBody(*stair, RepresentationType::SweptSolid,
+                      {m_shapes.painted(substance::oak, body)});
+    return stair;
+  }
+  std::shared_ptr<FcChimney> createChimney(const Storey& storey) {
+    auto chimney = m_model.createRoot<FcChimney>("Chimney");
+    m_model.place(*chimney, at(5.5, 3.9, 0), storey);
+    const Item shaft = m_shapes.extrude(m_shapes.hollowRectangle(0.6, 0.6, 0.15), 8);
+    m_shapes.showBody(*chimney, RepresentationType::SweptSolid,
+                      {m_shapes.painted(substance::brick, shaft)});
+    return chimney;
+  }
+
+  void plantTrees(const std::shared_ptr<FcSite>& site) {
+    const auto type = createAppleTree(m_model, m_shapes);
+    std::vector<std::shared_ptr<FcProduct>> trees;
+    for (const auto& foot :
+         {math::Point3d(3.5, 5, -0.2), math::Point3d(19, 13.5, 0.2), math::Point3d(4, 15, 0.1)}) {
+      auto tree =
+          m_model.createRoot<FcGeographicElement>("Tree " + std::to_string(trees.size() + 1));
+      m_model.place(*tree, at(foot.x, foot.y, foot.z), site);
+      m_model.setType(*tree, *type);
+      m_shapes.showBodyOfType(*tree, *type);
+      trees.push_back(tree);
+    }
+    m_model.contain(site, std::move(trees));
+  }
+
+  // What can't be seen
+
+  void addFacts() {
+    auto type = m_model.createRoot<FcWallType>("Brick 240");
     type->setPredefinedType(FcWallTypeEnum::SOLIDWALL);
-    auto relation = createRoot<FcRelDefinesByType>();
-    relation->setRelatingType(type);
-    relation->setRelatedObjects(walls<FcObject>());
-    return type;
+    for (const auto& wall : m_model.all<FcWall>()) m_model.setType(*wall, *type);
+    m_facts.describeWalls();
+    m_facts.describe(*type);
+    m_facts.measure(m_model.all<FcWall>().front(), length, storeyHeight);
+    m_facts.classifyWalls();
+    m_facts.setMaterial<FcWall>(substance::brick.name);
+    m_facts.setMaterial<FcColumn>(substance::steel.name);
+    m_facts.setMaterial<FcRailing>(substance::steel.name);
   }
 
-  void describeWalls() {
-    auto set = createRoot<FcPropertySet>("Pset_WallCommon");
-    set->setHasProperties(
-        {createProperty("IsExternal", FcBoolean(true)),
-         createProperty("FireRating", FcLabel("F90")),
-         createProperty("ThermalTransmittance", FcThermalTransmittanceMeasure(0.24))});
-    auto relation = createRoot<FcRelDefinesByProperties>();
-    relation->setRelatedObjects(walls<FcObjectDefinition>());
-    relation->setRelatingPropertyDefinition(std::static_pointer_cast<FcPropertySetDefinition>(set));
-  }
-  /// A type holds its sets itself. What an occurrence says in a set of the same name comes first.
-  void describe(FcWallType& type) {
-    auto set = createRoot<FcPropertySet>("Pset_WallCommon");
-    set->setHasProperties(
-        {createProperty("LoadBearing", FcBoolean(true)),
-         createProperty("ThermalTransmittance", FcThermalTransmittanceMeasure(0.28))});
-    type.insertHasPropertySets(set);
-  }
-  std::shared_ptr<FcProperty> createProperty(const std::string& name, FcValue value) {
-    auto property = create<FcPropertySingleValue>();
-    property->setName(name);
-    property->setNominalValue(std::move(value));
-    return property;
-  }
-
-  /// What the wall measures, as quantities for those who only count.
-  void measure(const std::shared_ptr<FcWall>& wall) {
-    auto set = createRoot<FcElementQuantity>("Qto_WallBaseQuantities");
-    auto length = create<FcQuantityLength>();
-    length->setName("Length");
-    length->setLengthValue(8.0);
-    auto area = create<FcQuantityArea>();
-    area->setName("GrossSideArea");
-    area->setAreaValue(22.4);
-    set->setQuantities({length, area});
-    auto relation = createRoot<FcRelDefinesByProperties>();
-    relation->setRelatedObjects({wall});
-    relation->setRelatingPropertyDefinition(std::static_pointer_cast<FcPropertySetDefinition>(set));
-  }
-
-  /// The place of the walls in a classification that others read too.
-  void classifyWalls() {
-    auto system = create<FcClassification>();
-    system->setName("DIN 276");
-    auto code = create<FcClassificationReference>();
-    code->setIdentification("331");
-    code->setName("Load-bearing exterior walls");
-    code->setReferencedSource(system);
-    auto relation = createRoot<FcRelAssociatesClassification>();
-    for (const auto& wall : walls<FcObjectDefinition>()) relation->insertRelatedObjects(wall);
-    relation->setRelatingClassification(code);
-  }
-
-  /// All walls, as a list that an attribute takes. `m_data->entities<FcWall>()` finds them too.
-  template <class T>
-  std::vector<std::shared_ptr<T>> walls() const {
-    std::vector<std::shared_ptr<T>> found;
-    for (const host::step::NumberedEntity& instance : m_numbers)
-      if (auto wall = fc::fcCast<FcWall>(instance.entity)) found.push_back(std::move(wall));
-    return found;
-  }
-
-  std::shared_ptr<fc::Data> m_data = std::make_shared<fc::Data>();
-  std::vector<host::step::NumberedEntity> m_numbers;
-  std::uint32_t m_rootCount = 0;
+  ModelBuilder m_model;
+  Facts m_facts{m_model};
+  std::shared_ptr<FcProject> m_project = createProject(m_model, m_facts);
+  ShapeBuilder m_shapes{m_model, *m_project};
+  WallOpenings m_openings{m_model, m_shapes};
+  BalconySteel m_steel{m_model, m_shapes};
 };
 
 }  // namespace
+}  // namespace sample
 
 int main(int argc, char** argv) try {
   if (argc != 2) {
     std::fputs("usage: sample_model OUT.ifc\n", stderr);
     return 2;
   }
-  SampleHouse house;
+  sample::SampleHouse house;
   house.build();
-  const host::step::WriteResult written = house.write(argv[1]);
+  const qor::host::step::WriteResult written = house.write(argv[1]);
   if (written.failure.empty()) return 0;
   std::fprintf(stderr, "sample_model: can't write '%s': %s\n", argv[1], written.failure.c_str());
   return 2;

@@ -17,10 +17,12 @@ constexpr Color unstyled{0.6F, 0.6F, 0.6F};
 }  // namespace
 
 FcDrawInterfaceWrapper::FcDrawInterfaceWrapper(generate::draw::DrawInterfaceBase& target)
-    : DrawInterfaceBase(target.curveDiscretization()),
-      m_target(target),
+    : m_target(target),
       m_objects(dynamic_cast<generate::draw::DrawInterface*>(&target)),
-      m_blocks(dynamic_cast<generate::draw::BlockInterface*>(&target)) {}
+      m_blocks(dynamic_cast<generate::draw::BlockInterface*>(&target)) {
+  // A subclass makes the virtual base itself, and needn't know how.
+  setCurveDiscretization(target.curveDiscretization());
+}
 
 FcDrawInterfaceWrapper::~FcDrawInterfaceWrapper() {
   while (!m_openObjects.empty()) m_openObjects.pop_back();
@@ -112,7 +114,6 @@ Color FcDrawInterfaceWrapper::getColor() const {
   return m_objects ? m_objects->getColor() : Color();
 }
 
-// An item without a style keeps the material of the one before it.
 void FcDrawInterfaceWrapper::checkStyles(const FcRepresentationItem& item) {
   if (!m_objects) return;
   const ItemAppearance appearance = ItemAppearance::of(item);

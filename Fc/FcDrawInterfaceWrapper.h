@@ -70,12 +70,17 @@ class QOR_API FcDrawInterfaceWrapper : public FcDrawInterface,
   void setColor(const generate::draw::Color& color) override;
   generate::draw::Color getColor() const override;
 
+ protected:
+  /// Gives the target the look of the item. An item without a style keeps the look of the one
+  /// before it, the first of all is grey. Items that are drawn whole pass through here; what is
+  /// left of one that is cut keeps the look in force, unless a subclass calls this before.
+  void checkStyles(const resource::geometry::FcRepresentationItem& item);
+
  private:
   using Material = std::shared_ptr<const generate::draw::Material>;
   using Shading = resource::presentationappearance::FcSurfaceStyleShading;
   using Textures = resource::presentationappearance::FcSurfaceStyleWithTextures;
 
-  void checkStyles(const resource::geometry::FcRepresentationItem& item);
   /// What a style looks like, and the style itself, so that its address stays its own.
   struct StyleMaterial {
     Material material;

@@ -50,10 +50,14 @@ QOR_API TopoDS_Wire getClosedWireFromPoints(const std::vector<math::Point3d>& po
 /// CASCADE on for ever.
 constexpr double farthestCoordinate = 1e9;
 /// Throws `Standard_OutOfRange` for a point beyond `farthestCoordinate` and for one of no numbers.
-inline gp_Pnt toOpenCascade(const math::Point3d& point) {
+inline void expectWithinReach(const math::Point3d& point) {
   for (const double coordinate : {point.x, point.y, point.z})
     if (!(std::abs(coordinate) <= farthestCoordinate))
       throw Standard_OutOfRange("A coordinate is no place in a model");
+}
+/// As `expectWithinReach` for points that are no place.
+inline gp_Pnt toOpenCascade(const math::Point3d& point) {
+  expectWithinReach(point);
   return {point.x, point.y, point.z};
 }
 inline gp_Vec toOpenCascade(const math::Vector3d& vector) { return {vector.x, vector.y, vector.z}; }

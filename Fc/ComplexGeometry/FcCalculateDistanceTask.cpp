@@ -1,21 +1,19 @@
 #include "Fc/ComplexGeometry/FcCalculateDistanceTask.h"
 
 #include <BRepExtrema_DistShapeShape.hxx>
-#include <TopoDS_Shape.hxx>
 #include <optional>
 #include <utility>
 #include <vector>
 
 #include "Fc/ComplexGeometry/FcDoubleResult.h"
-#include "Fc/HelperFunctionsOC.h"
-#include "Fc/Resource/Geometry/FcRepresentationItem.h"
+#include "Fc/ComplexGeometry/ShapesOfItem.h"
 
 namespace qor::fc {
 namespace {
 
 std::vector<TopoDS_Shape> placedShapes(const resource::geometry::FcRepresentationItem& item,
                                        const math::Matrix& matrix, const FcParams& params) {
-  std::vector<TopoDS_Shape> shapes = item.ocRepresentation(params);
+  std::vector<TopoDS_Shape> shapes = shapesOfItem(item, params);
   for (TopoDS_Shape& shape : shapes) transformOpenCascadeShape(shape, matrix);
   return shapes;
 }

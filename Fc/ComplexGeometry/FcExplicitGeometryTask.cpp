@@ -1,11 +1,11 @@
 #include "Fc/ComplexGeometry/FcExplicitGeometryTask.h"
 
-#include <TopoDS_Shape.hxx>
 #include <utility>
 
 #include "Fc/ComplexGeometry/CopyOfItem.h"
 #include "Fc/ComplexGeometry/FaceSetsFromShapes.h"
 #include "Fc/ComplexGeometry/FcPolygonalFaceSetResult.h"
+#include "Fc/ComplexGeometry/ShapesOfItem.h"
 
 namespace qor::fc {
 
@@ -17,7 +17,7 @@ FcExplicitGeometryTask::~FcExplicitGeometryTask() = default;
 
 std::unique_ptr<FcComplexGeometryTaskResult> FcExplicitGeometryTask::process() const {
   return std::make_unique<FcPolygonalFaceSetResult>(
-      faceSetsFromShapes(m_item->ocRepresentation(params()), params().curveDiscretization()));
+      faceSetsFromShapes(shapesOfItem(*m_item, params()), params().curveDiscretization()));
 }
 
 }  // namespace qor::fc

@@ -6,14 +6,12 @@
 #include <TopExp_Explorer.hxx>
 #include <TopoDS.hxx>
 #include <TopoDS_Face.hxx>
-#include <TopoDS_Shape.hxx>
 #include <TopoDS_Wire.hxx>
 #include <utility>
 #include <vector>
 
 #include "Fc/ComplexGeometry/FcSurfacesResult.h"
-#include "Fc/HelperFunctionsOC.h"
-#include "Fc/Resource/Geometry/FcRepresentationItem.h"
+#include "Fc/ComplexGeometry/ShapesOfItem.h"
 #include "Qor/Math/MatrixFactory.h"
 
 namespace qor::fc {
@@ -53,7 +51,7 @@ FcGetSurfacesTask::~FcGetSurfacesTask() = default;
 
 std::unique_ptr<FcComplexGeometryTaskResult> FcGetSurfacesTask::process() const {
   Polygons polygons;
-  for (TopoDS_Shape& shape : m_item->ocRepresentation(params())) {
+  for (TopoDS_Shape& shape : shapesOfItem(*m_item, params())) {
     if (shape.IsNull()) continue;
     transformOpenCascadeShape(shape, m_matrix);
     guardOpenCascade([&] { appendOutlines(shape, polygons); },

@@ -1,13 +1,12 @@
 #include "Fc/ComplexGeometry/FcImplicitClippingTask.h"
 
-#include <TopoDS_Shape.hxx>
 #include <optional>
 
 #include "Fc/ComplexGeometry/BooleanOperations.h"
 #include "Fc/ComplexGeometry/CopyOfItem.h"
 #include "Fc/ComplexGeometry/FaceSetsFromShapes.h"
 #include "Fc/ComplexGeometry/FcPolygonalFaceSetResult.h"
-#include "Fc/HelperFunctionsOC.h"
+#include "Fc/ComplexGeometry/ShapesOfItem.h"
 #include "Qor/Math/Bounding.h"
 #include "Qor/Math/Epsilon.h"
 
@@ -64,13 +63,13 @@ FcImplicitClippingTask::FcImplicitClippingTask(FcParams params, const Item& item
 FcImplicitClippingTask::~FcImplicitClippingTask() = default;
 
 std::unique_ptr<FcComplexGeometryTaskResult> FcImplicitClippingTask::process() const {
-  std::vector<TopoDS_Shape> shapes = m_item->ocRepresentation(params());
+  std::vector<TopoDS_Shape> shapes = shapesOfItem(*m_item, params());
   if (shapes.empty()) return nullptr;
   const math::Matrix inverse = m_itemMatrix.inverse();
   std::vector<TopoDS_Shape> tools;
   for (const auto& [clipItem, clipMatrix] : m_clipItems) {
     if (params().skipExpensiveClipping && isExpensiveTool(*clipItem)) continue;
-    for (TopoDS_Shape& tool : clipItem->ocRepresentation(params())) {
+    for (TopoDS_Shape& tool : shapesOfItem(*clipItem, params())) {
       transformOpenCascadeShape(tool, clipMatrix * inverse);
       if (!tool.IsNull()) tools.push_back(std::move(tool));
     }

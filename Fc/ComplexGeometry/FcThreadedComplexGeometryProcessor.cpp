@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "Fc/ComplexGeometry/FcComplexGeometryProcessorQueueContext.h"
-#include "Fc/HelperFunctionsOC.h"
 
 namespace qor::fc {
 namespace {
@@ -38,9 +37,7 @@ FcThreadedComplexGeometryProcessor::~FcThreadedComplexGeometryProcessor() {
 
 std::unique_ptr<FcComplexGeometryTaskResult> FcThreadedComplexGeometryProcessor::process(
     const FcComplexGeometryTask& task) const {
-  std::unique_ptr<FcComplexGeometryTaskResult> result;
-  guardOpenCascade([&] { result = task.process(); }, "OpenCascade failed in a task.");
-  return result;
+  return task.process();
 }
 
 std::future<std::unique_ptr<FcComplexGeometryTaskResult>>

@@ -4,6 +4,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "Fc/Reflection/SelectInfo.h"
@@ -85,10 +86,15 @@ class QOR_API SelectBase {
   std::uint32_t m_position = npos;
 };
 
+/// A class below `Base`: where a select takes a pointer to `Base`, it takes one to that class too.
+template <class Entity, class Base>
+concept Below = !std::is_same_v<Entity, Base> && std::is_convertible_v<Entity*, Base*>;
+
 /// A select class `D` of the schema: one of several entities or values, or nothing (NotSet).
 ///
 /// `D` has the enumeration `Types` with its alternatives in ascending order and a last `NotSet`,
-/// `static const SelectInfo& info()`, a constructor from each alternative, and a getter of each
+/// `static const SelectInfo& info()`, a constructor from each alternative (and from the classes
+/// below it), and a getter of each
 /// alternative's name, which throws `qor::exception` ("Not of correct type") when another one is
 /// current. Copies clone the value; entities are shared.
 template <class D>

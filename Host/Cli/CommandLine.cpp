@@ -187,7 +187,7 @@ class CommandLine {
 }  // namespace
 
 ExitCode runFctool(int argc, const char* const* argv, Console& console) noexcept try {
-  const AssertLines asserts(console.err);
+  const AssertLines asserts(console.err, console.watch);
   return CommandLine().run(argc, argv, console);
 } catch (const std::bad_alloc&) {
   console.err << "fctool: out of memory\n";

@@ -4,10 +4,13 @@
 
 namespace qor::host::cli {
 
+class Watch;
+
 /// Where a command writes to.
 struct Console {
   std::ostream& out;          ///< results
   std::ostream& err;          ///< messages, each in one line
+  Watch& watch;               ///< is told what a long run is at
   bool showProgress = false;  ///< a person watches `err`
 };
 

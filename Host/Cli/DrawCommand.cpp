@@ -3,8 +3,6 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <fstream>
-#include <functional>
 #include <ostream>
 #include <typeindex>
 #include <typeinfo>
@@ -15,6 +13,7 @@
 #include "Host/Cli/AttributeValue.h"
 #include "Host/Cli/EntityLabel.h"
 #include "Host/Cli/LoadModel.h"
+#include "Host/Cli/OutputFile.h"
 #include "Host/Cli/PrintableText.h"
 #include "Host/Cli/SceneTree.h"
 #include "Host/Cli/WholeNumber.h"
@@ -71,15 +70,6 @@ std::optional<Plan> planOf(const DrawOptions& options, Console& console) {
   else
     return Plan{*discretization, *view, size->first, size->second};
   return std::nullopt;
-}
-
-/// Writes one file; false, after a line that says why, when it can't be written whole.
-bool writeFile(const std::filesystem::path& path, Console& console,
-               const std::function<bool(std::ostream&)>& write) {
-  std::ofstream stream(path, std::ios::binary);
-  if (stream && write(stream) && stream.flush()) return true;
-  refuse(console, fmt::format("can't write {}", inQuotes(path.string())));
-  return false;
 }
 
 bool writeObjFiles(const std::filesystem::path& path, const Scene& scene, Console& console) {

@@ -12,6 +12,7 @@
 #include "Host/Cli/LoadModel.h"
 #include "Host/Cli/PrintableText.h"
 #include "Host/Cli/ProcessorScope.h"
+#include "Host/Cli/Watch.h"
 
 namespace qor::host::cli {
 namespace {
@@ -56,8 +57,10 @@ std::shared_ptr<FcProduct> findProduct(const step::ReadResult& model, const std:
 ExitCode measureSurfaces(const step::ReadResult& model, const MeasureOptions& options,
                          const fc::FcParams& params, Console& console) {
   const ProcessorScope processor;
+  const Watch::Walk walk(console.watch, model);
   nlohmann::ordered_json products = nlohmann::ordered_json::array();
   for (const std::shared_ptr<FcProduct> product : model.data->entities<FcProduct>()) {
+    console.watch.at(product->GlobalId());
     const auto surfaces = product->getBodySurfaces(params);
     if (surfaces.empty()) continue;
     if (options.json)
@@ -79,6 +82,8 @@ ExitCode measureDistance(const step::ReadResult& model, const MeasureOptions& op
   const auto second = first ? findProduct(model, options.distance.back(), options, console) : first;
   if (!first || !second) return ExitCode::impossible;
   const ProcessorScope processor;
+  const Watch::Walk walk(console.watch, model);
+  console.watch.at(first->GlobalId());
   const auto distance = first->getDistanceToOtherProduct(params, *second);
   if (options.json) {
     nlohmann::ordered_json value;

@@ -25,6 +25,7 @@
 #include "Host/Cli/PrintableText.h"
 #include "Host/Cli/ProcessorScope.h"
 #include "Host/Cli/ProgressBar.h"
+#include "Host/Cli/Watch.h"
 #include "Host/Cli/WholeNumber.h"
 #include "Host/StepFile/Progress.h"
 #include "Qor/Math/Epsilon.h"
@@ -48,13 +49,15 @@ std::shared_ptr<fc::FcBase> findEntity(const step::ReadResult& model, const Draw
   return id ? findEntity(model, *id, options.file.string(), console) : nullptr;
 }
 
-/// What is drawn when nothing is asked for: the project, and what it doesn't lead to, of which a
-/// line tells.
+/// What is drawn when nothing is asked for: the project, and what its walk may not come by, since
+/// it is nested in another object, or since no project leads to it, of which a line tells. Parents
+/// come before what belongs to them; what the walk has met it doesn't draw again.
 std::vector<std::shared_ptr<fc::FcBase>> allRoots(const step::ReadResult& model, Console& console) {
   std::vector<std::shared_ptr<fc::FcBase>> roots;
   std::size_t outside = 0;
   walkModelTree(*model.data, numbersOf(model), [&](const TreeNode& node) {
-    if (node.depth == 0) roots.push_back(node.object);
+    const auto* product = fc::fcCast<FcProduct>(node.object.get());
+    if (node.depth == 0 || (product && product->Representation())) roots.push_back(node.object);
     outside += node.relation == TreeRelation::outside ? 1 : 0;
     return true;
   });
@@ -63,6 +66,19 @@ std::vector<std::shared_ptr<fc::FcBase>> allRoots(const step::ReadResult& model,
         "fctool: no project leads to {} of the products; they are drawn all the same\n", outside);
   return roots;
 }
+
+/// Gives what is left of a cut item the look of the item.
+class StylingWrapper : public fc::FcDrawInterfaceWrapper {
+ public:
+  using FcDrawInterfaceWrapper::FcDrawInterfaceWrapper;
+
+  void drawConstRepresentationItem(std::shared_ptr<const FcRepresentationItem> item,
+                                   const fc::FcDrawParams& params,
+                                   generate::draw::SurfaceDrawType type) override {
+    if (isClipping()) checkStyles(*item);
+    FcDrawInterfaceWrapper::drawConstRepresentationItem(std::move(item), params, type);
+  }
+};
 
 /// Leaves walls as they are before openings are cut out.
 class UncutWrapper : public fc::FcDrawInterfaceWrapper {
@@ -80,7 +96,7 @@ class UncutWrapper : public fc::FcDrawInterfaceWrapper {
 std::unique_ptr<fc::FcDrawInterfaceWrapper> wrapperOf(generate::draw::DrawInterface& target,
                                                       const DrawingOptions& options) {
   if (options.noOpenings) return std::make_unique<UncutWrapper>(target);
-  return std::make_unique<fc::FcDrawInterfaceWrapper>(target);
+  return std::make_unique<StylingWrapper>(target);
 }
 
 /// One walk over a model into one target.
@@ -88,14 +104,15 @@ class Drawing {
  public:
   Drawing(const std::shared_ptr<fc::Data>& data, const fc::DrawStatus& status,
           RepresentationChoice* choice, generate::draw::DrawInterface& target,
-          const DrawingOptions& options, const std::function<void(double)>& tell)
+          const DrawingOptions& options, Watch& watch, const std::function<void(double)>& tell)
       : m_document(data),
         m_target(target),
         m_wrapper(wrapperOf(target, options)),
         m_params(*m_wrapper, m_document, status, *data, choice, nullptr, nullptr),
         m_progress(tell, data->entities<FcProduct>().size()) {
     m_params.skipExpensiveClipping = options.skipExpensive;
-    m_params.skipObjectCallback = [this](const Guid&) {
+    m_params.skipObjectCallback = [this, &watch](const Guid& guid) {
+      watch.at(guid);
       m_progress.advance(m_done++);
       return false;
     };
@@ -199,7 +216,9 @@ bool drawModel(const step::ReadResult& model, const DrawingOptions& options,
   math::Epsilon::current().set(1000.0, false);
   ProgressBar bar("Drawing", console);
   const fc::DrawStatus all = choice ? withAllContexts(status) : fc::DrawStatus();
-  Drawing drawing(model.data, choice ? all : status, choice, target, options, bar.callback());
+  const Watch::Walk walk(console.watch, model);
+  Drawing drawing(model.data, choice ? all : status, choice, target, options, console.watch,
+                  bar.callback());
   for (const auto& root : roots) {
     if (drawing.draw(root)) continue;
     refuse(console,

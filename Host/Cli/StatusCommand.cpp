@@ -3,7 +3,6 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <fstream>
 #include <ostream>
 #include <string_view>
 #include <variant>
@@ -15,6 +14,7 @@
 #include "Host/Cli/EntityLabel.h"
 #include "Host/Cli/LoadModel.h"
 #include "Host/Cli/ModelDrawing.h"
+#include "Host/Cli/OutputFile.h"
 #include "Host/Cli/PrintableText.h"
 #include "Qor/String/IgnoreCase.h"
 
@@ -94,11 +94,10 @@ void print(const StatusOptions& options, const fc::DrawStatus& status, std::ostr
 }
 
 bool write(const fc::DrawStatus& status, const std::filesystem::path& path, Console& console) {
-  std::ofstream stream(path, std::ios::binary);
-  if (stream) status.serialize(stream);
-  if (stream.flush()) return true;
-  refuse(console, fmt::format("can't write {}", inQuotes(path.string())));
-  return false;
+  return writeFile(path, console, [&](std::ostream& out) {
+    status.serialize(out);
+    return true;
+  });
 }
 
 }  // namespace

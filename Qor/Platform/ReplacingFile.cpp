@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <mutex>
 #include <random>
+#include <set>
 #include <system_error>
 #include <utility>
 
@@ -100,12 +102,39 @@ fs::path temporaryBeside(const fs::path& target) {
   return temporary;
 }
 
+void removeFile(const fs::path& path) {
+  std::error_code ignored;
+  fs::remove(path, ignored);
+}
+
+std::mutex openMutex;
+
+std::set<fs::path>& openTemporaries() {
+  static std::set<fs::path> all;
+  return all;
+}
+
+void remember(const fs::path& temporary) {
+  const std::lock_guard lock(openMutex);
+  openTemporaries().insert(temporary);
+}
+
+void forget(const fs::path& temporary) {
+  const std::lock_guard lock(openMutex);
+  openTemporaries().erase(temporary);
+}
+
 }  // namespace
 
 ReplacingFile::~ReplacingFile() {
   close();
-  std::error_code ignored;
-  if (!m_temporary.empty()) fs::remove(m_temporary, ignored);
+  if (!m_temporary.empty()) removeFile(m_temporary);
+  forget(m_temporary);
+}
+
+void ReplacingFile::removeTemporaries() {
+  const std::lock_guard lock(openMutex);
+  for (const fs::path& temporary : openTemporaries()) removeFile(temporary);
 }
 
 void ReplacingFile::close() {
@@ -121,6 +150,7 @@ std::string ReplacingFile::open(const fs::path& target) {
   m_file = createNew(temporary);
   if (m_file == noFile) return lastError();
   m_temporary = std::move(temporary);
+  remember(m_temporary);
   if (fs::exists(old)) fs::permissions(m_temporary, old.permissions(), error);
   return {};
 }
@@ -136,6 +166,7 @@ std::string ReplacingFile::commit() {
   if (!flush(m_file)) return lastError();
   if (!closeFile(std::exchange(m_file, noFile))) return lastError();
   if (!replace(m_temporary, m_target)) return lastError();
+  forget(m_temporary);
   m_temporary.clear();
   return {};
 }

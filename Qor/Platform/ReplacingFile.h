@@ -31,6 +31,10 @@ class QOR_API ReplacingFile {
   /// Replaces the target. Nothing may be written afterwards.
   std::string commit();
 
+  /// For a program that ends without destroying its objects: removes the temporary files of all
+  /// that are open, in any thread.
+  static void removeTemporaries();
+
   /// "model.ifc.1f3a9c2e.tmp"; empty before `open`.
   const std::filesystem::path& temporary() const { return m_temporary; }
 

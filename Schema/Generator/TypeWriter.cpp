@@ -15,16 +15,27 @@ std::vector<std::string> alternatives(const Select& select) {
   return members;
 }
 
-// Values of the selects below this one, so that a caller needn't name the select between.
+// From pointers to the classes below the alternative, which no pointer turns into by itself.
+std::string derivedConstructor(const SchemaModel& model, const Group& group,
+                               const std::string& name, const std::string& entity) {
+  return fmt::format(
+      "  template <Below<{1}> Entity>\n"
+      "  {0}(std::shared_ptr<Entity> value) : {0}(std::shared_ptr<{1}>(std::move(value))) {{}}\n",
+      name, model.className(entity, group));
+}
+
+// Alternatives of the selects below this one, so that a caller needn't name the select between.
 std::string nestedConstructors(const SchemaModel& model, const Select& select,
                                const std::string& member) {
   const Group& group = groupNamed(select.group);
   const std::string name = generatedSelectName(model, select);
   std::string text;
   for (const std::string& leaf : alternatives(model.select(member))) {
-    if (model.kind(leaf) != ElementKind::definedType) continue;
+    const ElementKind kind = model.kind(leaf);
+    if (kind == ElementKind::select) continue;
     text += fmt::format("  {0}({1} value) : {0}({2}(std::move(value))) {{}}\n", name,
                         model.alternativeType(leaf, group), model.className(member, group));
+    if (kind == ElementKind::entity) text += derivedConstructor(model, group, name, leaf);
   }
   return text;
 }
@@ -108,6 +119,8 @@ std::string selectHeader(const SchemaModel& model, const Select& select) {
     types += shortName(member) + ", ";
     constructors += fmt::format("  {0}({1} value) {{ put(Types::{2}, std::move(value)); }}\n", name,
                                 type, shortName(member));
+    if (model.kind(member) == ElementKind::entity)
+      constructors += derivedConstructor(model, group, name, member);
     if (model.kind(member) == ElementKind::select)
       constructors += nestedConstructors(model, select, member);
     getters += fmt::format("  const {0}& {1}() const {{ return get<{0}>(Types::{1}); }}\n", type,

@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <BRepPrimAPI_MakeBox.hxx>
+#include <functional>
 #include <string>
 
+#include "Fc/ComplexGeometry/BooleanOperations.h"
 #include "Fc/ComplexGeometry/FcThreadedComplexGeometryProcessor.h"
 #include "Fc/Resource/GeometricModel/FcPolygonalBoundedHalfSpace.h"
 #include "Fc/Resource/Geometry/FcPolyline.h"
@@ -16,6 +19,7 @@ using test::boolean;
 using test::boxItem;
 using test::difference;
 using test::ExpectAsserts;
+using test::ExpectedAssert;
 using test::halfSpace;
 using test::params;
 using test::volumeOf;
@@ -164,6 +168,25 @@ TEST(BooleanResult, LeavesExpensiveToolsOutSilentlyWhereItMay) {
   EXPECT_NEAR(volumeOf(cut->ocRepresentation(cheap)), 8, 1e-9);
   const auto twice = difference(cut, halfSpace({0, 0, 1}, {0, 0, 1}));
   EXPECT_NEAR(volumeOf(twice->ocRepresentation(cheap)), 4, 1e-9);
+}
+
+// Open CASCADE would step along such an edge for ever.
+TEST(BooleanOperations, RefuseShapesThatReachOutOfAnyModel) {
+  const TopoDS_Shape far = BRepPrimAPI_MakeBox(1, 1, 1e20), box = BRepPrimAPI_MakeBox(2, 2, 2);
+  const struct {
+    std::string name;
+    std::function<TopoDS_Shape(const TopoDS_Shape&, const TopoDS_Shape&)> operation;
+  } cases[] = {
+      {"cut", [](const auto& a, const auto& b) { return cutShapes({a}, {b}, 0); }},
+      {"common", commonOfShapes},
+      {"fuse", fuseShapes},
+  };
+  for (const auto& [name, operation] : cases) {
+    const ExpectedAssert failed("OpenCascade boolean '" + name + "' operation failed.");
+    const ExpectAsserts expected({failed, failed});
+    EXPECT_TRUE(operation(far, box).IsNull());
+    EXPECT_TRUE(operation(box, far).IsNull());
+  }
 }
 
 TEST(BooleanResult, EndsWhereItIsPartOfItself) {

@@ -240,6 +240,16 @@ TEST(Parameters, OwnTheirDiscretizationAndKeepTheFlag) {
   EXPECT_EQ(copy.curveDiscretization().maxSegmentsOfFullCircle(), 5U);
 }
 
+TEST(Parameters, OfAHostsOwnWrapperAreThoseOfTheTarget) {
+  class HostsWrapper : public FcDrawInterfaceWrapper {
+   public:
+    using FcDrawInterfaceWrapper::FcDrawInterfaceWrapper;
+  };
+  test::RecordingTarget target(CurveDiscretization(0.5, 3, 7));
+  HostsWrapper wrapper(target);
+  EXPECT_EQ(FcParams(FcDrawParams(wrapper)).curveDiscretization().maxSegmentsOfFullCircle(), 7U);
+}
+
 TEST_F(Items, HandAPolylineThroughTheWrapperAsItIs) {
   test::RecordingTarget target;
   FcDrawInterfaceWrapper wrapper(target);

@@ -48,7 +48,7 @@ TEST(ExtractCommand, TakesAnElementWithItsOpeningsItsTypeItsSetsAndTheWayUp) {
 TEST(ExtractCommand, OfADoorTakesNoWall) {
   const ScratchFolder folder;
   const std::string out = folder.path("door.ifc");
-  runTool({"extract", sampleFile(), "--guid", "0TFreIQonEaOenN0vtqaQR", "-o", out});
+  runTool({"extract", sampleFile(), "--guid", "0TFreKQonEaOenN0vtqaQR", "-o", out});
   const nlohmann::json classes = runTool({"info", out, "--json"}).json().at("classes");
   EXPECT_EQ(classes.value("IFCDOOR", 0), 1);
   EXPECT_FALSE(classes.contains("IFCWALL"));

@@ -18,19 +18,23 @@ TEST(InfoCommand, TellsHeaderCountsUnitsAndProblems) {
   EXPECT_THAT(run.out, StartsWith("File:               " + sampleFile() + R"(
 Schema:             IFC4X3_ADD2
 Name:               sample.ifc
-Description:        A house of two storeys without shapes
+Description:        A house of two storeys
 Time stamp:         2025-01-01T12:00:00
 Originating system: sample_model
 
-Entities: 119, of classes: 35
-        18  IFCAXIS2PLACEMENT3D
+Entities: 961, of classes: 74
+        13  IFCARBITRARYCLOSEDPROFILEDEF
+         1  IFCARBITRARYPROFILEDEFWITHVOIDS
+       113  IFCAXIS2PLACEMENT3D
+         6  IFCBOOLEANCLIPPINGRESULT
          1  IFCBUILDING
          2  IFCBUILDINGSTOREY
 )"));
   EXPECT_THAT(run.out, EndsWith(R"(
-         6  IFCWALL
+         8  IFCWALL
          1  IFCWALLTYPE
-         1  IFCWINDOW
+         9  IFCWINDOW
+         2  IFCWINDOWTYPE
 
 Units:
   LENGTHUNIT: metre
@@ -48,8 +52,8 @@ TEST(InfoCommand, JsonHasThePromisedKeys) {
   EXPECT_EQ(json.at("file"), sampleFile());
   EXPECT_EQ(json.at("schema"), "IFC4X3_ADD2");
   EXPECT_EQ(json.at("header").at("originatingSystem"), "sample_model");
-  EXPECT_EQ(json.at("entities"), 119);
-  EXPECT_EQ(json.at("classes").at("IFCWALL"), 6);
+  EXPECT_EQ(json.at("entities"), 961);
+  EXPECT_EQ(json.at("classes").at("IFCWALL"), 8);
   EXPECT_EQ(json.at("units").at(1), nlohmann::json({{"assignment", 2},
                                                     {"type", "AREAUNIT"},
                                                     {"unit", "square metre"},

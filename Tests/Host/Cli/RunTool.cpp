@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "Host/Cli/CommandLine.h"
+#include "Host/Cli/Watch.h"
 
 namespace qor::test {
 
@@ -15,7 +16,8 @@ ToolRun runTool(const std::vector<std::string>& arguments, bool showProgress) {
   for (const std::string& argument : arguments) argv.push_back(argument.c_str());
   std::ostringstream out;
   std::ostringstream err;
-  host::cli::Console console{out, err, showProgress};
+  host::cli::Watch watch(err);
+  host::cli::Console console{out, err, watch, showProgress};
   const auto code = host::cli::runFctool(static_cast<int>(argv.size()), argv.data(), console);
   return {code, out.str(), err.str()};
 }

@@ -14,28 +14,52 @@ TEST(TreeCommand, ShowsTheSampleHouse) {
   const ToolRun run = runTool({"tree", sampleFile()});
   EXPECT_EQ(run.code, ExitCode::success);
   EXPECT_EQ(run.out, R"(#1 IFCPROJECT 'Sample house'
-  #11 IFCSITE 'Meadow'
-    #15 IFCBUILDING 'House'
-      #19 IFCBUILDINGSTOREY 'Ground floor'
-        #27 IFCSPACE '0.1'
-        #35 IFCSLAB 'Base slab'
-        #41 IFCWALL 'South wall'
-        #47 IFCWALL 'East wall'
-        #53 IFCWALL 'North wall'
-        #59 IFCWALL 'West wall'
-        #66 IFCDOOR 'Front door'
-        #76 IFCWINDOW 'Küchenfenster'
-      #23 IFCBUILDINGSTOREY 'Upper floor'
-        #82 IFCSLAB 'Floor slab'
-        #88 IFCWALL 'South gable'
-        #94 IFCWALL 'North gable'
+  #13 IFCSITE 'Meadow'
+    #23 IFCBUILDING 'House'
+      #25 IFCBUILDINGSTOREY 'Ground floor'
+        #29 IFCSPACE '0.1'
+        #41 IFCSLAB 'Base slab'
+        #53 IFCWALL 'South wall'
+        #67 IFCWALL 'East wall'
+        #78 IFCWALL 'North wall'
+        #89 IFCWALL 'West wall'
+        #98 IFCSLAB 'Doorstep'
+        #143 IFCDOOR 'Front door'
+        #172 IFCWINDOW 'Küchenfenster'
+        #186 IFCWINDOW 'East window 1'
+        #200 IFCWINDOW 'East window 2'
+        #214 IFCWINDOW 'North window'
+        #228 IFCWINDOW 'West window'
+        #241 IFCCOLUMN 'West column'
+        #247 IFCCOLUMN 'East column'
+        #253 IFCSTAIR 'Stair'
+        #262 IFCCHIMNEY 'Chimney'
+      #27 IFCBUILDINGSTOREY 'Upper floor'
+        #274 IFCSLAB 'Floor slab'
+        #303 IFCWALL 'South gable'
+        #317 IFCWALL 'East knee wall'
+        #334 IFCWALL 'North gable'
+        #348 IFCWALL 'West knee wall'
+        #355 IFCROOF 'Roof'
+          #357 IFCSLAB 'West pitch'
+          #369 IFCSLAB 'East pitch'
+        #388 IFCSLAB 'Balcony'
+        #432 IFCRAILING 'Balcony railing'
+        #443 IFCWINDOW 'South window'
+        #466 IFCDOOR 'Balcony door'
+        #489 IFCWINDOW 'South round window'
+        #503 IFCWINDOW 'Gable window'
+        #517 IFCWINDOW 'North round window'
+    #540 IFCGEOGRAPHICELEMENT 'Tree 1'
+    #546 IFCGEOGRAPHICELEMENT 'Tree 2'
+    #552 IFCGEOGRAPHICELEMENT 'Tree 3'
 )");
 }
 
 TEST(TreeCommand, JsonListsTheNodesWithTheirParents) {
   const nlohmann::json json = runTool({"tree", sampleFile(), "--json"}).json();
   EXPECT_EQ(json.at("file"), sampleFile());
-  ASSERT_EQ(json.at("nodes").size(), 16u);
+  ASSERT_EQ(json.at("nodes").size(), 40u);
   EXPECT_EQ(json.at("nodes").at(0), nlohmann::json({{"id", 1},
                                                     {"class", "IFCPROJECT"},
                                                     {"guid", "0TFre1QonEaOenN0vtqaQR"},
@@ -46,7 +70,7 @@ TEST(TreeCommand, JsonListsTheNodesWithTheirParents) {
                                                     {"repeated", false}}));
   const nlohmann::json& slab = json.at("nodes").at(5);
   EXPECT_EQ(slab.at("name"), "Base slab");
-  EXPECT_EQ(slab.at("parent"), 19);
+  EXPECT_EQ(slab.at("parent"), 25);
   EXPECT_EQ(slab.at("relation"), "contained");
 }
 
