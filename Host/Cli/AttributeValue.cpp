@@ -15,6 +15,7 @@
 #include "Fc/HelperFunctions.h"
 #include "Host/Cli/EntityLabel.h"
 #include "Host/Cli/PrintableText.h"
+#include "Host/StepFile/EntityNumbers.h"
 
 namespace qor::host::cli {
 
@@ -131,6 +132,11 @@ class JsonMaker {
 };
 
 }  // namespace
+
+NumberOf numbersOf(const step::ReadResult& model) {
+  const auto numbers = std::make_shared<step::EntityNumbers>(*model.data, model.instances);
+  return [numbers](const fc::FcBase& entity) { return numbers->numberOf(entity); };
+}
 
 fc::LocalValue valueOf(const fc::FcBase& entity, const fc::AttributeInfo& attribute,
                        const NumberOf& numberOf) {

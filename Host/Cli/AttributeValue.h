@@ -7,11 +7,16 @@
 
 #include "Fc/Reflection/AttributeInfo.h"
 #include "Fc/Reflection/LocalValue.h"
+#include "Host/StepFile/StepReader.h"
 
 namespace qor::host::cli {
 
 /// The number of an entity in its file.
 using NumberOf = std::function<std::uint64_t(const fc::FcBase&)>;
+
+/// Those of a model that was read, which must outlive the function. An entity that the file doesn't
+/// have gets the next number.
+NumberOf numbersOf(const step::ReadResult& model);
 
 /// The value of an attribute, forward or inverse. The entries of an inverse one come in the order
 /// of their numbers.

@@ -11,7 +11,6 @@
 #include "Host/Cli/EntityLabel.h"
 #include "Host/Cli/LoadModel.h"
 #include "Host/Cli/ModelDiff.h"
-#include "Host/StepFile/EntityNumbers.h"
 
 namespace qor::host::cli {
 
@@ -22,9 +21,7 @@ using Json = nlohmann::ordered_json;
 /// One of the two models with the numbers of its entities.
 class Side {
  public:
-  explicit Side(const step::ReadResult& model) : m_numbers(*model.data, model.instances) {}
-  Side(const Side&) = delete;
-  Side& operator=(const Side&) = delete;
+  explicit Side(const step::ReadResult& model) : m_numberOf(numbersOf(model)) {}
 
   std::string text(const fc::FcBase& entity, const fc::AttributeInfo& attribute) const {
     constexpr std::size_t maxLength = 100;
@@ -48,8 +45,7 @@ class Side {
   }
 
  private:
-  mutable step::EntityNumbers m_numbers;
-  NumberOf m_numberOf = [this](const fc::FcBase& entity) { return m_numbers.numberOf(entity); };
+  NumberOf m_numberOf;
 };
 
 void printText(const ModelDiff& diff, const Side& before, const Side& after, std::ostream& out) {

@@ -3,7 +3,6 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <charconv>
 #include <ostream>
 #include <typeindex>
 #include <typeinfo>
@@ -11,12 +10,13 @@
 
 #include "Fc/Core/ProductExtension/FcOpeningElement.h"
 #include "Fc/Core/ProductExtension/FcSpace.h"
+#include "Host/Cli/AttributeValue.h"
 #include "Host/Cli/EntityLabel.h"
 #include "Host/Cli/LoadModel.h"
 #include "Host/Cli/OutputFile.h"
 #include "Host/Cli/PrintableText.h"
 #include "Host/Cli/SceneTree.h"
-#include "Host/StepFile/EntityNumbers.h"
+#include "Host/Cli/WholeNumber.h"
 #include "Host/Targets/GltfWriter.h"
 #include "Host/Targets/ObjWriter.h"
 #include "Host/Targets/RecordingTarget.h"
@@ -40,17 +40,13 @@ struct Plan {
   std::size_t height;
 };
 
-std::optional<std::pair<std::size_t, std::size_t>> sizeOf(const std::string& text) {
+using Size = std::pair<std::uint64_t, std::uint64_t>;
+
+std::optional<Size> sizeOf(const std::string& text) {
   constexpr std::size_t most = 10000;
-  std::pair<std::size_t, std::size_t> size{};
-  const char* end = text.data() + text.size();
-  const auto [middle, error] = std::from_chars(text.data(), end, size.first);
-  if (error != std::errc() || middle == end || *middle != 'x') return std::nullopt;
-  const auto [last, secondError] = std::from_chars(middle + 1, end, size.second);
-  if (secondError != std::errc() || last != end) return std::nullopt;
-  const bool sound =
-      std::min(size.first, size.second) > 0 && std::max(size.first, size.second) <= most;
-  return sound ? std::optional(size) : std::nullopt;
+  const std::optional<Size> size = twoWholeNumbers(text, 'x');
+  if (!size || std::min(size->first, size->second) == 0) return std::nullopt;
+  return std::max(size->first, size->second) <= most ? size : std::nullopt;
 }
 
 std::optional<Plan> planOf(const DrawOptions& options, Console& console) {
@@ -174,9 +170,7 @@ ExitCode runDraw(const DrawOptions& options, Console& console) {
   targets::SceneTarget target(plan->discretization);
   if (!drawModel(*model, options, *status, choice, target, console)) return ExitCode::impossible;
   Scene scene = target.takeScene();
-  step::EntityNumbers numbers(*model->data, model->instances);
-  arrangeAsTree(scene, *model->data,
-                [&](const fc::FcBase& entity) { return numbers.numberOf(entity); });
+  arrangeAsTree(scene, *model->data, numbersOf(*model));
   for (const auto& output : options.outputs)
     if (!writeScene(output, scene, *plan, titleOf(options), console)) return ExitCode::impossible;
   print(options, scene, console.out);

@@ -7,7 +7,7 @@
 #include <ostream>
 
 #include "Host/Cli/EntityLabel.h"
-#include "Host/Cli/GuidOption.h"
+#include "Host/Cli/EntityOption.h"
 #include "Host/Cli/LoadModel.h"
 #include "Host/Cli/ModelExtract.h"
 #include "Host/Cli/PrintableText.h"

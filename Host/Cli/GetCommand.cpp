@@ -2,75 +2,33 @@
 
 #include <fmt/format.h>
 
-#include <charconv>
 #include <cstdint>
 #include <memory>
 #include <optional>
 #include <ostream>
-#include <string_view>
 
 #include "Fc/Core/Kernel/FcRoot.h"
 #include "Host/Cli/AttributeValue.h"
 #include "Host/Cli/EntityLabel.h"
-#include "Host/Cli/GuidOption.h"
+#include "Host/Cli/EntityOption.h"
 #include "Host/Cli/LoadModel.h"
-#include "Host/Cli/PrintableText.h"
-#include "Host/StepFile/EntityNumbers.h"
 
 namespace qor::host::cli {
 
 namespace {
 
-/// Which entity is asked for.
-struct Key {
-  std::optional<Guid> guid{};
-  std::uint64_t id = 0;
-};
-
-std::optional<std::uint64_t> idFromText(std::string_view text) {
-  if (text.starts_with('#')) text.remove_prefix(1);
-  std::uint64_t id = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), id);
-  const bool whole = error == std::errc() && end == text.data() + text.size();
-  return whole ? std::optional(id) : std::nullopt;
-}
-
-std::optional<Key> keyOf(const GetOptions& options, Console& console) {
-  if (!options.id.empty()) {
-    if (const auto id = idFromText(options.id)) return Key{.id = *id};
-    refuse(console, fmt::format("{} is no number of an instance", inQuotes(options.id)));
-    return std::nullopt;
-  }
-  const std::optional<Guid> guid = guidFromText(options.guid, console);
-  return guid ? std::optional(Key{.guid = guid}) : std::nullopt;
-}
-
-bool matches(const step::NumberedEntity& instance, const Key& key) {
-  if (!key.guid) return instance.number == key.id;
-  const auto* root = fc::fcCast<fc::core::kernel::FcRoot>(instance.entity.get());
-  return root && root->GlobalId() == *key.guid;
-}
-
-/// The first instance that matches; null, after a line that says why, when there is none.
-const step::NumberedEntity* find(const step::ReadResult& model, const Key& key,
-                                 const GetOptions& options, Console& console) {
-  const step::NumberedEntity* found = nullptr;
+/// Names the entities behind the first one with that guid.
+void tellOthers(const step::ReadResult& model, const Guid& guid, std::ostream& err) {
+  std::uint64_t shown = 0;
   for (const step::NumberedEntity& instance : model.instances) {
-    if (!matches(instance, key)) continue;
-    if (found)
-      console.err << fmt::format("fctool: #{} has the same {} as #{}, which is shown\n",
-                                 instance.number, key.guid ? "guid" : "number", found->number);
+    const auto* root = fc::fcCast<fc::core::kernel::FcRoot>(instance.entity.get());
+    if (!root || root->GlobalId() != guid) continue;
+    if (shown == 0)
+      shown = instance.number;
     else
-      found = &instance;
+      err << fmt::format("fctool: #{} has the same guid as #{}, which is shown\n", instance.number,
+                         shown);
   }
-  const std::string file = inQuotes(options.file.string());
-  if (!found && key.guid)
-    refuse(console, fmt::format("{} has no entity with the guid {}", file, options.guid));
-  else if (!found)
-    refuse(console, fmt::format("{} has no instance #{}", file, key.id));
-  else if (!found->entity)
-    refuse(console, fmt::format("#{} of {} was left out of the model", key.id, file));
-  return found && found->entity ? found : nullptr;
 }
 
 void printText(const fc::FcBase& entity, const NumberOf& numberOf, std::ostream& out) {
@@ -107,19 +65,22 @@ void printJson(const std::string& file, const fc::FcBase& entity, const NumberOf
 }  // namespace
 
 ExitCode runGet(const GetOptions& options, Console& console) {
-  const std::optional<Key> key = keyOf(options, console);
-  if (!key) return ExitCode::impossible;
+  const auto id = options.id ? idFromText(*options.id, console) : std::nullopt;
+  const auto guid = options.guid ? guidFromText(*options.guid, console) : std::nullopt;
+  if (!id && !guid) return ExitCode::impossible;
   const auto model = loadModel(options.file, console);
   if (!model) return ExitCode::impossible;
-  const step::NumberedEntity* found = find(*model, *key, options, console);
+  const std::string file = options.file.string();
+  const std::shared_ptr<fc::FcBase> found =
+      id ? findEntity(*model, *id, file, console) : findRoot(*model, *guid, file, console);
   if (!found) return ExitCode::impossible;
+  if (guid) tellOthers(*model, *guid, console.err);
 
-  step::EntityNumbers numbers(*model->data, model->instances);
-  const NumberOf numberOf = [&](const fc::FcBase& entity) { return numbers.numberOf(entity); };
+  const NumberOf numberOf = numbersOf(*model);
   if (options.json)
-    printJson(options.file.string(), *found->entity, numberOf, console.out);
+    printJson(file, *found, numberOf, console.out);
   else
-    printText(*found->entity, numberOf, console.out);
+    printText(*found, numberOf, console.out);
   return exitCodeOf(*model);
 }
 

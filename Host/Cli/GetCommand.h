@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 
 #include "Host/Cli/Console.h"
@@ -10,8 +11,8 @@ namespace qor::host::cli {
 /// One of `guid` and `id` is given.
 struct GetOptions {
   std::filesystem::path file{};
-  std::string guid{};  ///< 22 characters, or 32 hexadecimal digits with hyphens
-  std::string id{};    ///< "12" or "#12"
+  std::optional<std::string> guid{};  ///< 22 characters, or 32 hexadecimal digits with hyphens
+  std::optional<std::string> id{};    ///< "12" or "#12"
   bool json = false;
 };
 

@@ -8,7 +8,7 @@
 
 #include "Fc/Core/Kernel/FcProduct.h"
 #include "Host/Cli/EntityLabel.h"
-#include "Host/Cli/GuidOption.h"
+#include "Host/Cli/EntityOption.h"
 #include "Host/Cli/LoadModel.h"
 #include "Host/Cli/PrintableText.h"
 #include "Host/Cli/ProcessorScope.h"

@@ -3,12 +3,10 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <charconv>
 #include <fstream>
 #include <functional>
 #include <memory>
 #include <ostream>
-#include <string_view>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -21,13 +19,14 @@
 #include "Fc/Resource/Geometry/FcRepresentationMap.h"
 #include "Fc/Resource/Representation/FcProductRepresentation.h"
 #include "Fc/Resource/Representation/FcRepresentation.h"
+#include "Host/Cli/EntityOption.h"
 #include "Host/Cli/LoadModel.h"
 #include "Host/Cli/ModelTree.h"
 #include "Host/Cli/PrintableText.h"
 #include "Host/Cli/ProcessorScope.h"
 #include "Host/Cli/ProgressBar.h"
 #include "Host/Cli/Watch.h"
-#include "Host/StepFile/EntityNumbers.h"
+#include "Host/Cli/WholeNumber.h"
 #include "Host/StepFile/Progress.h"
 #include "Qor/Math/Epsilon.h"
 
@@ -43,38 +42,20 @@ using fc::resource::representation::FcGeometricRepresentationContext;
 using fc::resource::representation::FcProductRepresentation;
 using fc::resource::representation::FcRepresentation;
 
-template <class Number>
-std::optional<Number> numberOf(std::string_view text) {
-  Number number{};
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  const bool whole = error == std::errc() && end == text.data() + text.size();
-  return whole ? std::optional(number) : std::nullopt;
-}
-
-/// The entity with the number that is asked for; null, after a line that says why, for none.
-std::shared_ptr<fc::FcBase> findEntity(const step::ReadResult& model, const std::string& id,
+/// The one entity that is asked for; null, after a line that says why, for none.
+std::shared_ptr<fc::FcBase> findEntity(const step::ReadResult& model, const DrawingOptions& options,
                                        Console& console) {
-  const auto number =
-      numberOf<std::uint64_t>(std::string_view(id).substr(id.starts_with('#') ? 1 : 0));
-  if (!number) {
-    refuse(console, fmt::format("{} is no number of an instance", inQuotes(id)));
-    return nullptr;
-  }
-  for (const step::NumberedEntity& instance : model.instances)
-    if (instance.number == *number && instance.entity) return instance.entity;
-  refuse(console, fmt::format("the file has no instance #{}", *number));
-  return nullptr;
+  const auto id = idFromText(options.id, console);
+  return id ? findEntity(model, *id, options.file.string(), console) : nullptr;
 }
 
-/// What is drawn when nothing is asked for: the project, and what its walk may not come by, since it
-/// is nested in another object, or since no project leads to it, of which a line tells. Parents come
-/// before what belongs to them; what the walk has met it doesn't draw again.
+/// What is drawn when nothing is asked for: the project, and what its walk may not come by, since
+/// it is nested in another object, or since no project leads to it, of which a line tells. Parents
+/// come before what belongs to them; what the walk has met it doesn't draw again.
 std::vector<std::shared_ptr<fc::FcBase>> allRoots(const step::ReadResult& model, Console& console) {
   std::vector<std::shared_ptr<fc::FcBase>> roots;
   std::size_t outside = 0;
-  step::EntityNumbers numbers(*model.data, model.instances);
-  const auto numberOf = [&](const fc::FcBase& entity) { return numbers.numberOf(entity); };
-  walkModelTree(*model.data, numberOf, [&](const TreeNode& node) {
+  walkModelTree(*model.data, numbersOf(model), [&](const TreeNode& node) {
     const auto* product = fc::fcCast<FcProduct>(node.object.get());
     if (node.depth == 0 || (product && product->Representation())) roots.push_back(node.object);
     outside += node.relation == TreeRelation::outside ? 1 : 0;
@@ -191,11 +172,9 @@ fc::DrawStatus withAllContexts(const fc::DrawStatus& status) {
 
 std::optional<math::CurveDiscretization> discretizationOf(const DrawingOptions& options,
                                                           Console& console) {
-  const std::string_view text = options.segments;
-  const std::size_t comma = std::min(text.find(','), text.size());
-  const auto least = numberOf<std::size_t>(text.substr(0, comma));
-  const auto most = numberOf<std::size_t>(text.substr(std::min(comma + 1, text.size())));
-  if (!least || !most || *least < 3 || *most < *least || *most > 100000) {
+  const auto segments = twoWholeNumbers(options.segments, ',');
+  if (!segments || segments->first < 3 || segments->second < segments->first ||
+      segments->second > 100000) {
     refuse(console, fmt::format("{} is no least and most number of segments, such as 16,72",
                                 inQuotes(options.segments)));
     return std::nullopt;
@@ -204,7 +183,7 @@ std::optional<math::CurveDiscretization> discretizationOf(const DrawingOptions& 
     refuse(console, fmt::format("a chord of {} mm isn't above 0", options.chord));
     return std::nullopt;
   }
-  return math::CurveDiscretization(options.chord / 1000, *least, *most);
+  return math::CurveDiscretization(options.chord / 1000, segments->first, segments->second);
 }
 
 std::optional<fc::DrawStatus> readDrawStatus(const fc::Data& data,
@@ -223,7 +202,7 @@ bool drawModel(const step::ReadResult& model, const DrawingOptions& options,
   std::vector<std::shared_ptr<fc::FcBase>> roots;
   if (options.id.empty())
     roots = allRoots(model, console);
-  else if (auto entity = findEntity(model, options.id, console))
+  else if (auto entity = findEntity(model, options, console))
     roots = {std::move(entity)};
   else
     return false;

@@ -10,8 +10,6 @@ namespace qor::host::cli {
 
 namespace {
 
-bool isControl(char32_t c) { return c < 0x20 || (c >= 0x7F && c < 0xA0); }
-
 void appendEscape(std::string& out, char32_t control) {
   switch (control) {
     case '\n':

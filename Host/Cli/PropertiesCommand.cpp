@@ -18,12 +18,11 @@
 #include "Fc/Resource/Property/FcProperty.h"
 #include "Fc/Resource/Quantity/FcPhysicalQuantity.h"
 #include "Host/Cli/EntityLabel.h"
-#include "Host/Cli/GuidOption.h"
+#include "Host/Cli/EntityOption.h"
 #include "Host/Cli/LoadModel.h"
 #include "Host/Cli/PrintableText.h"
 #include "Host/Cli/PropertySets.h"
 #include "Host/Cli/PropertyValue.h"
-#include "Host/StepFile/EntityNumbers.h"
 
 namespace qor::host::cli {
 
@@ -236,8 +235,7 @@ ExitCode runProperties(const PropertiesOptions& options, Console& console) {
                                          root->ifcNameUpper()));
   }
 
-  step::EntityNumbers numbers(*model->data, model->instances);
-  const NumberOf numberOf = [&](const fc::FcBase& entity) { return numbers.numberOf(entity); };
+  const NumberOf numberOf = numbersOf(*model);
   std::unique_ptr<Output> output;
   if (options.json)
     output = std::make_unique<JsonOutput>(options.file.string(), numberOf, console.out);

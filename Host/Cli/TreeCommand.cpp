@@ -9,7 +9,6 @@
 #include "Host/Cli/EntityLabel.h"
 #include "Host/Cli/LoadModel.h"
 #include "Host/Cli/ModelTree.h"
-#include "Host/StepFile/EntityNumbers.h"
 
 namespace qor::host::cli {
 
@@ -64,8 +63,7 @@ void printJson(const std::string& file, const fc::Data& data, const NumberOf& nu
 ExitCode runTree(const TreeOptions& options, Console& console) {
   const auto model = loadModel(options.file, console);
   if (!model) return ExitCode::impossible;
-  step::EntityNumbers numbers(*model->data, model->instances);
-  const NumberOf numberOf = [&](const fc::FcBase& entity) { return numbers.numberOf(entity); };
+  const NumberOf numberOf = numbersOf(*model);
   if (options.json)
     printJson(options.file.string(), *model->data, numberOf, console.out);
   else

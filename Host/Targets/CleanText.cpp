@@ -7,9 +7,7 @@ namespace qor::host::targets {
 namespace {
 
 /// What XML can't hold at all, not even as a reference, among the control characters and beyond.
-bool isUnwelcome(char32_t c) {
-  return c < 0x20 || (c >= 0x7F && c < 0xA0) || c == 0xFFFE || c == 0xFFFF;
-}
+bool isUnwelcome(char32_t c) { return isControl(c) || c == 0xFFFE || c == 0xFFFF; }
 
 }  // namespace
 

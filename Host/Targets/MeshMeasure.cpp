@@ -1,7 +1,6 @@
 #include "Host/Targets/MeshMeasure.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "Host/Targets/PointWelder.h"
@@ -14,10 +13,6 @@ using math::Point3d;
 using math::Vector3d;
 
 constexpr double samePlace = 1e-6;
-
-bool isFinite(const Point3d& p) {
-  return std::isfinite(p.x) && std::isfinite(p.y) && std::isfinite(p.z);
-}
 
 /// The edges of triangles, each with how much more often it is used from its lower end to its
 /// higher one than back.
@@ -52,14 +47,14 @@ MeshMeasure measureMesh(const std::vector<Point3d>& points,
   PointWelder welder(samePlace);
   std::vector<std::uint32_t> places(points.size());
   for (std::size_t i = 0; i < points.size(); ++i)
-    if (isFinite(points[i])) places[i] = welder.numberOf(points[i]);
+    if (points[i].isFinite()) places[i] = welder.numberOf(points[i]);
   EdgeBalance edges;
   edges.reserve(triangles.size() / 3);
   Point3d origin;
   for (std::size_t i = 0; i + 2 < triangles.size(); i += 3) {
     const std::uint32_t corners[3] = {triangles[i], triangles[i + 1], triangles[i + 2]};
     const Point3d &a = points[corners[0]], &b = points[corners[1]], &c = points[corners[2]];
-    if (!isFinite(a) || !isFinite(b) || !isFinite(c)) continue;
+    if (!a.isFinite() || !b.isFinite() || !c.isFinite()) continue;
     if (measure.triangles == 0) origin = a;  // near, so that the volume loses no digits
     for (const std::uint32_t corner : corners) measure.box.include(points[corner]);
     const Vector3d normal = (b - a).cross(c - a);

@@ -25,10 +25,6 @@ using math::Point3d;
 using math::Vector3d;
 using Indices = Triangulator::Indices;
 
-bool isFinite(const Point3d& p) {
-  return std::isfinite(p.x) && std::isfinite(p.y) && std::isfinite(p.z);
-}
-
 void addFan(const Indices& outer, Indices& triangles) {
   for (std::size_t i = 2; i < outer.size(); ++i)
     triangles.insert(triangles.end(), {outer[0], outer[i - 1], outer[i]});
@@ -89,7 +85,7 @@ class Triangulator::Sweep {
   void addContour(const Indices& contour) {
     gluTessBeginContour(m_tessellator);
     for (const std::uint32_t index : contour) {
-      if (!isFinite((*m_points)[index])) continue;
+      if (!(*m_points)[index].isFinite()) continue;
       // Near the origin, so that large coordinates cost no precision.
       const Vector3d p = (*m_points)[index] - m_origin;
       Corner& corner = m_corners.emplace_back(Corner{{p.x, p.y, p.z}, index});
@@ -133,7 +129,7 @@ void Triangulator::triangulate(std::vector<Point3d>& points, const Indices& oute
                                const std::vector<Indices>& holes, Indices& triangles) {
   if (outer.size() < 3) return;
   for (const std::uint32_t index : outer)
-    if (!isFinite(points[index])) return;
+    if (!points[index].isFinite()) return;
   if (holes.empty() && (outer.size() == 3 || addConvex(points, outer, triangles))) {
     if (outer.size() == 3) addFan(outer, triangles);
     return;

@@ -2,19 +2,35 @@
 
 #include <algorithm>
 #include <limits>
+#include <type_traits>
 
 #include "Qor/Math/Matrix.h"
 
 namespace qor::math {
 
-namespace _2d {
+namespace details {
 
-/// A box along the axes of the plane, edges included. The default is empty.
-class Extent {
+constexpr _2d::Point lowest(const _2d::Point& a, const _2d::Point& b) {
+  return {std::min(a.x, b.x), std::min(a.y, b.y)};
+}
+constexpr _3d::Point lowest(const _3d::Point& a, const _3d::Point& b) {
+  return {std::min(a.x, b.x), std::min(a.y, b.y), std::min(a.z, b.z)};
+}
+constexpr _2d::Point highest(const _2d::Point& a, const _2d::Point& b) {
+  return {std::max(a.x, b.x), std::max(a.y, b.y)};
+}
+constexpr _3d::Point highest(const _3d::Point& a, const _3d::Point& b) {
+  return {std::max(a.x, b.x), std::max(a.y, b.y), std::max(a.z, b.z)};
+}
+
+/// What `Extent2d` and `Extent` have in common: a box along the axes, its sides included. The
+/// default is empty.
+template <class Extent, class Point>
+class BasicExtent {
  public:
-  constexpr Extent() = default;
+  constexpr BasicExtent() = default;
   /// The smallest box around two points.
-  constexpr Extent(const Point& a, const Point& b) {
+  constexpr BasicExtent(const Point& a, const Point& b) {
     include(a);
     include(b);
   }
@@ -27,101 +43,68 @@ class Extent {
   }
 
   /// False when it is empty. The other questions have no answer then.
-  constexpr bool isValid() const { return m_min.x <= m_max.x && m_min.y <= m_max.y; }
+  constexpr bool isValid() const { return lowest(m_min, m_max) == m_min; }
   constexpr const Point& minimum() const { return m_min; }
   constexpr const Point& maximum() const { return m_max; }
-  constexpr Vector size() const { return m_max - m_min; }
+  constexpr auto size() const { return m_max - m_min; }
   constexpr Point center() const { return m_min + size() * 0.5; }
 
   /// Grows it as far as the point; a coordinate that isn't a number is passed over.
   constexpr void include(const Point& point) {
-    m_min = {std::min(m_min.x, point.x), std::min(m_min.y, point.y)};
-    m_max = {std::max(m_max.x, point.x), std::max(m_max.y, point.y)};
+    m_min = lowest(m_min, point);
+    m_max = highest(m_max, point);
   }
   /// The box around both; the other one when one is empty.
   [[nodiscard]] constexpr Extent uniteWith(const Extent& other) const {
-    Extent result = *this;
-    result.include(other.m_min);
-    result.include(other.m_max);
-    return !isValid() ? other : !other.isValid() ? *this : result;
+    if (!isValid()) return other;
+    return other.isValid() ? Extent(lowest(m_min, other.m_min), highest(m_max, other.m_max))
+                           : static_cast<const Extent&>(*this);
   }
   /// What both have in common; empty when that is nothing.
   [[nodiscard]] constexpr Extent intersectWith(const Extent& other) const {
     Extent result;
-    result.m_min = {std::max(m_min.x, other.m_min.x), std::max(m_min.y, other.m_min.y)};
-    result.m_max = {std::min(m_max.x, other.m_max.x), std::min(m_max.y, other.m_max.y)};
+    result.m_min = highest(m_min, other.m_min);
+    result.m_max = lowest(m_max, other.m_max);
     return result.isValid() ? result : Extent();
   }
 
-  friend constexpr bool operator==(const Extent&, const Extent&) = default;
+  friend constexpr bool operator==(const BasicExtent&, const BasicExtent&) = default;
 
  private:
+  static constexpr Point cornerAt(double coordinate) {
+    if constexpr (std::is_constructible_v<Point, double, double>)
+      return {coordinate, coordinate};
+    else
+      return {coordinate, coordinate, coordinate};
+  }
+
   static constexpr double kFar = std::numeric_limits<double>::infinity();
-  Point m_min{kFar, kFar};
-  Point m_max{-kFar, -kFar};
+  Point m_min = cornerAt(kFar);
+  Point m_max = cornerAt(-kFar);
+};
+
+}  // namespace details
+
+namespace _2d {
+
+/// A box along the axes of the plane, edges included.
+class Extent : public details::BasicExtent<Extent, Point> {
+ public:
+  using BasicExtent::BasicExtent;
 };
 
 }  // namespace _2d
 
 namespace _3d {
 
-/// A box along the axes of space, faces included. The default is empty.
-class QOR_API Extent {
+/// A box along the axes of space, faces included.
+class QOR_API Extent : public details::BasicExtent<Extent, Point> {
  public:
-  constexpr Extent() = default;
-  /// The smallest box around two points.
-  constexpr Extent(const Point& a, const Point& b) {
-    include(a);
-    include(b);
-  }
-  /// The smallest box around all points; empty for none.
-  template <typename Points>
-  static constexpr Extent ofPoints(const Points& points) {
-    Extent result;
-    for (const Point& point : points) result.include(point);
-    return result;
-  }
+  using BasicExtent::BasicExtent;
 
-  /// False when it is empty. The other questions have no answer then.
-  constexpr bool isValid() const {
-    return m_min.x <= m_max.x && m_min.y <= m_max.y && m_min.z <= m_max.z;
-  }
-  constexpr const Point& minimum() const { return m_min; }
-  constexpr const Point& maximum() const { return m_max; }
-  constexpr Vector size() const { return m_max - m_min; }
-  constexpr Point center() const { return m_min + size() * 0.5; }
-
-  /// Grows it as far as the point; a coordinate that isn't a number is passed over.
-  constexpr void include(const Point& point) {
-    m_min = {std::min(m_min.x, point.x), std::min(m_min.y, point.y), std::min(m_min.z, point.z)};
-    m_max = {std::max(m_max.x, point.x), std::max(m_max.y, point.y), std::max(m_max.z, point.z)};
-  }
-  /// The box around both; the other one when one is empty.
-  [[nodiscard]] constexpr Extent uniteWith(const Extent& other) const {
-    Extent result = *this;
-    result.include(other.m_min);
-    result.include(other.m_max);
-    return !isValid() ? other : !other.isValid() ? *this : result;
-  }
-  /// What both have in common; empty when that is nothing.
-  [[nodiscard]] constexpr Extent intersectWith(const Extent& other) const {
-    Extent result;
-    result.m_min = {std::max(m_min.x, other.m_min.x), std::max(m_min.y, other.m_min.y),
-                    std::max(m_min.z, other.m_min.z)};
-    result.m_max = {std::min(m_max.x, other.m_max.x), std::min(m_max.y, other.m_max.y),
-                    std::min(m_max.z, other.m_max.z)};
-    return result.isValid() ? result : Extent();
-  }
   /// The box around the eight corners times the matrix: it can be larger than that of what was in
   /// it. Empty stays empty.
   [[nodiscard]] Extent transformExtent(const Matrix& matrix) const;
-
-  friend constexpr bool operator==(const Extent&, const Extent&) = default;
-
- private:
-  static constexpr double kFar = std::numeric_limits<double>::infinity();
-  Point m_min{kFar, kFar, kFar};
-  Point m_max{-kFar, -kFar, -kFar};
 };
 
 }  // namespace _3d

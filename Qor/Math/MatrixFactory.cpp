@@ -6,23 +6,9 @@ namespace qor::math::_3d {
 
 namespace {
 
-/// The vector from the first point to the one furthest from it.
-Vector longestFromFirst(const std::vector<Point>& points) {
-  Vector longest;
-  double length = 0;
-  for (const Point& point : points) {
-    const Vector vector = point - points[0];
-    if (const double l = vector.length(); !(l <= length)) {
-      longest = vector;
-      length = l;
-    }
-  }
-  return longest;
-}
-
 /// At right angles to the axis: from the line through the first point along it to the point that is
-/// furthest from that line.
-Vector furthestFromLine(const std::vector<Point>& points, const Vector& axis) {
+/// furthest from that line. Without an axis, from the first point itself.
+Vector furthestFromLine(const std::vector<Point>& points, const Vector& axis = {}) {
   Vector furthest;
   double distance = 0;
   for (const Point& point : points) {
@@ -49,7 +35,7 @@ Vector areaVector(const std::vector<Point>& points) {
 std::optional<Matrix> MatrixFactory::fromPoints(const std::vector<Point>& points) {
   if (points.size() < 3) return {};
   const double tolerance = Epsilon::current().length;
-  const Vector longest = longestFromFirst(points);
+  const Vector longest = furthestFromLine(points);
   const double length = longest.length();
   if (!(length > tolerance) || !std::isfinite(length)) return {};
   const Vector axis = longest * (1 / length);

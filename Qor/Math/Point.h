@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cmath>
+
 #include "Qor/Math/Vector.h"
 
 namespace qor::math {
@@ -15,6 +17,8 @@ struct Point {
   constexpr Point(double x_, double y_) : x(x_), y(y_) {}
 
   double distance(const Point& other) const { return (*this - other).length(); }
+  /// Every coordinate is a number, and none is infinite.
+  bool isFinite() const { return std::isfinite(x) && std::isfinite(y); }
   /// No coordinate differs by more than the length tolerance.
   bool isNear(const Point& other) const { return (*this - other).isNear({}); }
 
@@ -45,6 +49,8 @@ struct Point {
   constexpr Point(double x_, double y_, double z_) : x(x_), y(y_), z(z_) {}
 
   double distance(const Point& other) const { return (*this - other).length(); }
+  /// Every coordinate is a number, and none is infinite.
+  bool isFinite() const { return std::isfinite(x) && std::isfinite(y) && std::isfinite(z); }
   /// No coordinate differs by more than the length tolerance.
   bool isNear(const Point& other) const { return (*this - other).isNear({}); }
 

@@ -29,6 +29,11 @@ QOR_API bool isValidUtf8(std::string_view text);
 /// U+10FFFF.
 QOR_API bool appendUtf8(std::string& text, char32_t codePoint);
 
+/// One of the control characters, of ASCII or of Latin-1.
+constexpr bool isControl(char32_t codePoint) {
+  return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0);
+}
+
 /// `text` as well-formed UTF-8, with U+FFFD for each byte that belongs to no code point, and with
 /// what `replacement` appends for the code points that it answers true for:
 /// `bool replacement(std::string& out, char32_t codePoint)`.

@@ -19,31 +19,57 @@ using fc::resource::measure::FcUnitAssignment;
 
 namespace {
 
-bool close(double a, double b) {
-  return std::abs(a - b) <= 1e-12 * std::max(std::abs(a), std::abs(b));
+bool areUnits(const fc::FcBase& a, const fc::FcBase& b) {
+  return fc::fcCast<FcSIUnit>(&a) && fc::fcCast<FcSIUnit>(&b);
 }
 
-template <class List>
-bool closeLists(const List& a, const List& b);
+/// Compares values, and references by the numbers of what they refer to.
+class Comparison {
+ public:
+  Comparison(const host::step::ReadResult& a, const host::step::ReadResult& b, Compared compared)
+      : m_allButUnits(compared == Compared::allButUnits) {
+    for (const auto& instance : a.instances) m_numbers[instance.entity.get()] = instance.number;
+    for (const auto& instance : b.instances) m_numbers[instance.entity.get()] = instance.number;
+  }
 
-bool close(const LocalValue& a, const LocalValue& b) {
-  if (a.index() != b.index() || a.typeName != b.typeName) return false;
-  if (const auto* number = std::get_if<double>(&a.value))
-    return close(*number, std::get<double>(b.value));
-  if (const auto* list = std::get_if<LocalValue::List>(&a.value))
-    return closeLists(*list, std::get<LocalValue::List>(b.value));
-  if (const auto* pair = std::get_if<std::array<double, 2>>(&a.value))
-    return closeLists(*pair, std::get<std::array<double, 2>>(b.value));
-  if (const auto* triple = std::get_if<std::array<double, 3>>(&a.value))
-    return closeLists(*triple, std::get<std::array<double, 3>>(b.value));
-  return std::holds_alternative<std::shared_ptr<fc::FcBase>>(a.value) || a.value == b.value;
-}
+  bool same(const LocalValue& a, const LocalValue& b) const {
+    if (a.index() != b.index() || a.typeName != b.typeName) return false;
+    return std::visit(
+        [&](const auto& value) {
+          return same(value, std::get<std::decay_t<decltype(value)>>(b.value));
+        },
+        a.value);
+  }
 
-template <class List>
-bool closeLists(const List& a, const List& b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                    [](const auto& x, const auto& y) { return close(x, y); });
-}
+ private:
+  template <class Value>
+  bool same(const Value& a, const Value& b) const {
+    return a == b;
+  }
+  bool same(double a, double b) const {
+    const double tolerance = m_allButUnits ? 1e-12 * std::max(std::abs(a), std::abs(b)) : 0;
+    return std::abs(a - b) <= tolerance;
+  }
+  bool same(const std::shared_ptr<fc::FcBase>& a, const std::shared_ptr<fc::FcBase>& b) const {
+    if (!a || !b) return !a && !b;
+    return m_numbers.at(a.get()) == m_numbers.at(b.get()) || (m_allButUnits && areUnits(*a, *b));
+  }
+  bool same(const LocalValue::List& a, const LocalValue::List& b) const {
+    return sameElements(a, b);
+  }
+  template <std::size_t n>
+  bool same(const std::array<double, n>& a, const std::array<double, n>& b) const {
+    return sameElements(a, b);
+  }
+  template <class List>
+  bool sameElements(const List& a, const List& b) const {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [this](const auto& x, const auto& y) { return same(x, y); });
+  }
+
+  bool m_allButUnits;
+  std::map<const fc::FcBase*, std::uint64_t> m_numbers;
+};
 
 bool isLength(const std::string& type) {
   return type == "IfcLengthMeasure" || type == "IfcPositiveLengthMeasure" ||
@@ -72,14 +98,17 @@ std::size_t scale(LocalValue& value, bool isLengthType, double factor) {
 }  // namespace
 
 std::vector<std::string> differences(const host::step::ReadResult& a,
-                                     const host::step::ReadResult& b) {
+                                     const host::step::ReadResult& b, Compared compared) {
+  const Comparison comparison(a, b, compared);
   std::vector<std::string> lines;
   std::map<std::uint64_t, std::shared_ptr<fc::FcBase>> others;
   for (const auto& instance : b.instances) others.emplace(instance.number, instance.entity);
   for (const auto& instance : a.instances) {
     if (!instance.entity) continue;
     const fc::FcBase& x = *instance.entity;
-    if (fc::fcCast<FcUnitAssignment>(&x) || fc::fcCast<FcSIUnit>(&x)) continue;
+    if (compared == Compared::allButUnits &&
+        (fc::fcCast<FcUnitAssignment>(&x) || fc::fcCast<FcSIUnit>(&x)))
+      continue;
     const std::shared_ptr<fc::FcBase> other = others[instance.number];
     if (!other || other->classId() != x.classId()) {
       lines.push_back('#' + std::to_string(instance.number) + " isn't there");
@@ -87,7 +116,7 @@ std::vector<std::string> differences(const host::step::ReadResult& a,
     }
     const fc::FcBase& y = *other;
     x.classInfo().forEachAttribute([&](const fc::AttributeInfo& attribute) {
-      if (close(x.getLocalValue(attribute.id()), y.getLocalValue(attribute.id()))) return;
+      if (comparison.same(x.getLocalValue(attribute.id()), y.getLocalValue(attribute.id()))) return;
       std::ostringstream line;
       line.precision(17);
       line << '#' << instance.number << ' ' << x.ifcName() << '.' << attribute.name;

@@ -7,11 +7,18 @@
 
 namespace qor::test {
 
+enum class Compared {
+  everything,
+  /// Numbers may differ by 1e-12 of the larger one; SI units, what refers to them, and unit
+  /// assignments aren't looked at.
+  allButUnits
+};
+
 /// Where a model holds other values than the first one in the instance of the same number, a line
-/// each: numbers that differ by more than 1e-12 of the larger one, all else that isn't the same.
-/// References, SI units and unit assignments aren't looked at.
+/// each. References are the same when they lead to instances of the same number.
 std::vector<std::string> differences(const host::step::ReadResult& a,
-                                     const host::step::ReadResult& b);
+                                     const host::step::ReadResult& b,
+                                     Compared compared = Compared::everything);
 
 /// Multiplies all lengths of a model with a factor, by the types' names and one attribute after the
 /// other: shares no code with the reader. Returns how many numbers that were.

@@ -4,10 +4,10 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <string>
 
 #include "Qor/Platform/MappedFile.h"
+#include "Tests/Support/SharedModels.h"
 
 namespace qor {
 namespace {
@@ -27,10 +27,7 @@ class ReplacingFileTest : public testing::Test {
   void TearDown() override { fs::remove_all(m_folder); }
 
   fs::path target() const { return m_folder / "model.ifc"; }
-  std::string content() const {
-    std::ifstream in(target());
-    return {std::istreambuf_iterator<char>(in), {}};
-  }
+  std::string content() const { return test::readFile(target()); }
   std::ptrdiff_t files() const { return std::distance(fs::directory_iterator(m_folder), {}); }
 
   fs::path m_folder;

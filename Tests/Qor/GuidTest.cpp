@@ -27,9 +27,6 @@ struct KnownPair {
 
 const KnownPair knownPairs[] = {
     {{}, "00000000-0000-0000-0000-000000000000", "0000000000000000000000"},
-    {{0, 0, 0, {0, 0, 0, 0, 0, 0, 0, 1}},
-     "00000000-0000-0000-0000-000000000001",
-     "0000000000000000000001"},
     {{0xFFFFFFFF, 0xFFFF, 0xFFFF, {255, 255, 255, 255, 255, 255, 255, 255}},
      "ffffffff-ffff-ffff-ffff-ffffffffffff",
      "3$$$$$$$$$$$$$$$$$$$$$"},
@@ -39,9 +36,6 @@ const KnownPair knownPairs[] = {
     {{0xC1F2BD26, 0x6DD6, 0x4B26, {0x99, 0xD6, 0x6F, 0x5E, 0x3E, 0x6D, 0x7A, 0x01}},
      "c1f2bd26-6dd6-4b26-99d6-6f5e3e6d7a01",
      "31yhqcRTPB9fdMRru_RNe1"},
-    {{0x80000000, 0, 0x4000, {0x80, 0, 0, 0, 0, 0, 0xFF, 0x7F}},
-     "80000000-0000-4000-8000-00000000ff7f",
-     "2000000010080000000Fz$"},
 };
 
 TEST(Guid, WritesAndReadsKnownPairsInBothForms) {
@@ -51,13 +45,11 @@ TEST(Guid, WritesAndReadsKnownPairsInBothForms) {
     EXPECT_EQ(guidOf(known.hyphens), known.guid);
     EXPECT_EQ(guidOf(known.characters), known.guid);
   }
-}
-
-TEST(Guid, ReadsBracesAndAnyCaseOfHexadecimalDigits) {
-  const Guid guid = knownPairs[4].guid;
+  // In braces, and hexadecimal digits in any case; that of the short form counts.
+  const Guid guid = knownPairs[3].guid;
   EXPECT_EQ(guidOf("{31yhqcRTPB9fdMRru_RNe1}"), guid);
   EXPECT_EQ(guidOf("{C1F2BD26-6dd6-4B26-99d6-6F5E3e6d7a01}"), guid);
-  EXPECT_NE(guidOf("31YHQCRTPB9FDMRRU_RNE1"), guid) << "in the short form case counts";
+  EXPECT_NE(guidOf("31YHQCRTPB9FDMRRU_RNE1"), guid);
 }
 
 TEST(Guid, LeavesItselfAloneOnAnyOtherText) {
@@ -104,11 +96,6 @@ TEST(Guid, GeneratesVersion4GuidsThatDifferOnEveryThread) {
   }
 }
 
-TEST(Guid, IsNullByDefaultAlone) {
-  EXPECT_TRUE(Guid().isNull());
-  EXPECT_FALSE(guidOf("0000000000000000000001").isNull());
-}
-
 TEST(Guid, OrdersByItsFieldsUnsigned) {
   const Guid ascending[] = {{},
                             {0, 0, 0, {0, 0, 0, 0, 0, 0, 0, 0x80}},
@@ -119,6 +106,8 @@ TEST(Guid, OrdersByItsFieldsUnsigned) {
                             {0, 0x8000, 0, {}},
                             {1, 0, 0, {}},
                             {0x80000000, 0, 0, {}}};
+  EXPECT_TRUE(ascending[0].isNull());
+  EXPECT_FALSE(ascending[1].isNull());
   EXPECT_EQ(std::ranges::adjacent_find(ascending, std::greater_equal<>()), std::end(ascending));
 }
 

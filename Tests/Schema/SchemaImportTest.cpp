@@ -2,7 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <fstream>
 #include <sstream>
 
 #include "Tests/Schema/ExpectError.h"
@@ -11,7 +10,9 @@
 namespace qor::schema {
 namespace {
 
+using qor::test::readFile;
 using test::errorOf;
+using test::Faulty;
 using testing::Pair;
 using testing::UnorderedElementsAre;
 
@@ -24,13 +25,6 @@ Groups groupsOf(std::initializer_list<const char*> files) {
   return groups;
 }
 
-std::string textOf(const std::filesystem::path& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::ostringstream text;
-  text << in.rdbuf();
-  return text.str();
-}
-
 TEST(Groups, ComeFromListsAndFromTables) {
   EXPECT_THAT(groupsOf({"# name\tgroup\nIfcWall\tshared::buildingelements\r\n\nIfcRoot\tcore\n",
                         "-- a table\nschema S\nentity IfcRoot core\ntype IfcLabel measure : REAL\n"
@@ -40,7 +34,22 @@ TEST(Groups, ComeFromListsAndFromTables) {
                                    Pair("IfcE", "core"), Pair("IfcS", "core")));
 }
 
-TEST(Groups, AreRefusedWhenUnclear) {
+TEST(SchemaImport, PutsEveryElementInItsGroup) {
+  const SchemaTable table =
+      importSchema("SCHEMA S; ENTITY A; END_ENTITY; TYPE B = SELECT (A); END_TYPE; END_SCHEMA;",
+                   {{"A", "one::a"}, {"B", "two::b"}, {"Gone", "three"}});
+  EXPECT_EQ(table.entities.at(0).group + ' ' + table.selects.at(0).group, "one::a two::b");
+}
+
+TEST(SchemaImport, NamesWhatIsMissingOrThereTwice) {
+  const Faulty cases[] = {{"ENTITY A; END_ENTITY; ENTITY C; END_ENTITY; TYPE B = REAL; END_TYPE;",
+                           "no group is given for: C B"},
+                          {"ENTITY A; Tag : IfcLabel; END_ENTITY;", "A.Tag: unknown type IfcLabel"},
+                          {"ENTITY A; END_ENTITY; TYPE A = REAL; END_TYPE;", "A is defined twice"}};
+  for (const Faulty& faulty : cases) {
+    const std::string text = "SCHEMA S; " + std::string(faulty.text) + " END_SCHEMA;";
+    EXPECT_EQ(errorOf([&] { importSchema(text, {{"A", "core"}}); }), faulty.error);
+  }
   EXPECT_EQ(errorOf([] {
               groupsOf({"IfcWall\ta::b\n", "IfcWall\ta::c\n"});
             }),
@@ -49,31 +58,11 @@ TEST(Groups, AreRefusedWhenUnclear) {
             "line 2: expected a group, found the end");
 }
 
-TEST(SchemaImport, PutsEveryElementInItsGroup) {
-  const SchemaTable table =
-      importSchema("SCHEMA S; ENTITY A; END_ENTITY; TYPE B = SELECT (A); END_TYPE; END_SCHEMA;",
-                   {{"A", "one::a"}, {"B", "two::b"}, {"Gone", "three"}});
-  EXPECT_EQ(table.entities.at(0).group, "one::a");
-  EXPECT_EQ(table.selects.at(0).group, "two::b");
-}
-
-TEST(SchemaImport, NamesWhatIsMissingOrThereTwice) {
-  const auto errorOfImport = [](const std::string& declarations) {
-    return errorOf([&] {
-      importSchema("SCHEMA S; " + declarations + " END_SCHEMA;", {{"A", "core"}});
-    });
-  };
-  EXPECT_EQ(errorOfImport("ENTITY A; END_ENTITY; ENTITY C; END_ENTITY; TYPE B = REAL; END_TYPE;"),
-            "no group is given for: C B");
-  EXPECT_EQ(errorOfImport("ENTITY A; Tag : IfcLabel; END_ENTITY;"), "A.Tag: unknown type IfcLabel");
-  EXPECT_EQ(errorOfImport("ENTITY A; END_ENTITY; TYPE A = REAL; END_TYPE;"), "A is defined twice");
-}
-
 TEST(SchemaImport, MakesTheCommittedTableAgain) {
   FC_SHARED_FILE_OR_SKIP(express, "IFC4X3_ADD2.exp");
-  const std::string committed = textOf(FC_SCHEMA_TABLE);
+  const std::string committed = readFile(FC_SCHEMA_TABLE);
   std::ostringstream again;
-  writeSchemaTable(again, importSchema(textOf(express), groupsOf({committed.c_str()})));
+  writeSchemaTable(again, importSchema(readFile(express), groupsOf({committed.c_str()})));
   EXPECT_TRUE(again.str() == committed) << "run schema_import, and look at the difference";
 }
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cctype>
+#include <fstream>
+#include <iterator>
 
 namespace qor::test {
 
@@ -19,11 +21,16 @@ std::vector<fs::path> sharedModels() {
   return models;
 }
 
-std::vector<std::filesystem::path> sharedBuildings() {
-  std::vector<std::filesystem::path> models = sharedModels();
+std::vector<fs::path> sharedBuildings() {
+  std::vector<fs::path> models = sharedModels();
   std::erase_if(models,
                 [](const auto& path) { return path.parent_path().filename() != "buildings"; });
   return models;
+}
+
+std::string readFile(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
 }
 
 std::string modelTestName(const testing::TestParamInfo<fs::path>& model) {

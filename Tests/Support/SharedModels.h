@@ -18,10 +18,21 @@ std::vector<std::filesystem::path> sharedModels();
 /// Those of them under "models/buildings".
 std::vector<std::filesystem::path> sharedBuildings();
 
+/// The bytes of a file; none where it can't be read.
+std::string readFile(const std::filesystem::path& path);
+
 /// Name of a model as a test parameter's suffix: letters, digits and underscores alone.
 std::string modelTestName(const testing::TestParamInfo<std::filesystem::path>& model);
 
+/// What holds for each of some models; the parameter is its path.
+using ModelTest = testing::TestWithParam<std::filesystem::path>;
+
 }  // namespace qor::test
+
+/// Runs the tests of `suite`, a ModelTest, for each of these models, which may be none.
+#define FC_INSTANTIATE_FOR_MODELS(suite, models)                                                  \
+  INSTANTIATE_TEST_SUITE_P(Models, suite, testing::ValuesIn(models), ::qor::test::modelTestName); \
+  GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(suite)
 
 /// Declares `variable` as the path of a file that isn't part of the repository; skips the test
 /// where it is absent.

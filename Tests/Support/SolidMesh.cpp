@@ -45,6 +45,15 @@ void removeSpikes(Loop& loop) {
 
 }  // namespace
 
+PolygonalFaceSetOpenGL boxFaces(double x, double y, double z) {
+  PolygonalFaceSetOpenGL set;
+  for (const unsigned i : {0u, 1u, 2u, 3u, 4u, 5u, 6u, 7u})
+    set.coordinates.emplace_back(i & 1 ? x : 0, i & 2 ? y : 0, i & 4 ? z : 0);
+  set.faces = {{{0, 2, 3, 1}}, {{4, 5, 7, 6}}, {{0, 1, 5, 4}},
+               {{1, 3, 7, 5}}, {{3, 2, 6, 7}}, {{2, 0, 4, 6}}};
+  return set;
+}
+
 void SolidMesh::add(const PolygonalFaceSetOpenGL& faceSet, const math::Matrix& frame) {
   const auto offset = static_cast<std::uint32_t>(m_points.size());
   for (const Point3d& point : faceSet.coordinates) m_points.push_back(point * frame);
@@ -136,8 +145,7 @@ std::string SolidMesh::problem() const {
   if (!m_badInput.empty()) return m_badInput;
   if (m_faces.empty()) return "no faces";
   for (const Point3d& p : m_points)
-    if (!std::isfinite(p.x) || !std::isfinite(p.y) || !std::isfinite(p.z))
-      return "a coordinate isn't finite";
+    if (!p.isFinite()) return "a coordinate isn't finite";
 
   std::map<std::pair<std::uint32_t, std::uint32_t>, int> uses;
   for (const auto& face : weldedFaces())

@@ -11,6 +11,10 @@
 
 namespace qor::test {
 
+/// A box from the origin on, its faces looking outward; its corners in the order of x, then y, then
+/// z.
+generate::draw::PolygonalFaceSetOpenGL boxFaces(double x, double y, double z);
+
 /// Faces that were drawn, with all points that agree within a distance welded to one, so that a
 /// test can ask whether they are the skin of a solid. Faces without an area are left out.
 class SolidMesh {

@@ -7,20 +7,14 @@
 namespace qor::test {
 namespace {
 
-/// A unit cube of quads whose points aren't shared, without the faces whose bit is set in
-/// `missing`.
-SolidMesh cube(unsigned missing = 0, bool insideOut = false) {
-  generate::draw::PolygonalFaceSetOpenGL set;
-  set.coordinates = {{0, 0, 0}, {1, 0, 0}, {1, 1, 0}, {0, 1, 0},
-                     {0, 0, 1}, {1, 0, 1}, {1, 1, 1}, {0, 1, 1}};
-  set.faces = {{{0, 3, 2, 1}, {}}, {{0, 1, 5, 4}, {}}, {{1, 2, 6, 5}, {}},
-               {{2, 3, 7, 6}, {}}, {{3, 0, 4, 7}, {}}, {{4, 5, 6, 7}, {}}};
+/// A unit cube of quads whose points aren't shared, the first `leftOut` of them left out.
+SolidMesh cube(std::size_t leftOut = 0, bool insideOut = false) {
+  auto one = boxFaces(1, 1, 1);
   SolidMesh mesh;
-  for (std::size_t i = 0; i < set.faces.size(); ++i) {
-    if (missing >> i & 1U) continue;
-    auto one = set;
-    one.faces = {set.faces[i]};
-    if (insideOut) one.faces[0].outer = {set.faces[i].outer.rbegin(), set.faces[i].outer.rend()};
+  const auto faces = one.faces;
+  for (std::size_t i = leftOut; i < faces.size(); ++i) {
+    one.faces = {faces[i]};
+    if (insideOut) one.faces[0].outer = {faces[i].outer.rbegin(), faces[i].outer.rend()};
     mesh.add(one);
   }
   return mesh;

@@ -1,7 +1,7 @@
 #include "Fc/Resource/GeometricModel/DirectrixSweep.h"
 
 #include <algorithm>
-#include <cmath>
+#include <functional>
 #include <utility>
 
 #include "Fc/Resource/GeometricModel/SweepFaces.h"
@@ -27,10 +27,6 @@ std::vector<Point3d> withoutRepeatedPoints(const std::vector<Point3d>& path) {
   for (const Point3d& point : path)
     if (result.empty() || !point.isNear(result.back())) result.push_back(point);
   return result;
-}
-
-bool isFinite(const Point3d& point) {
-  return std::isfinite(point.x) && std::isfinite(point.y) && std::isfinite(point.z);
 }
 
 /// Rings and faces of a body that follows a path, from its first leg on.
@@ -180,7 +176,8 @@ std::optional<PolygonalFaceSetOpenGL> sweptAlongPath(const Profile2D& profile,
         kOperation, __LINE__);
     return std::nullopt;
   }
-  if (!std::all_of(stations.begin(), stations.end(), isFinite)) return std::nullopt;
+  if (!std::all_of(stations.begin(), stations.end(), std::mem_fn(&Point3d::isFinite)))
+    return std::nullopt;
   PathSweep sweep(profile, stations, reference, closed);
   if (!sweep.run()) return std::nullopt;
   return std::move(sweep).faceSet(frame);

@@ -1,7 +1,6 @@
 #include "Fc/Resource/Profile/FcProfileDef.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 #include <variant>
 
@@ -18,7 +17,7 @@ namespace {
 bool isFinite(const Profile2D& profile) {
   for (const auto& contour : profile.contours())
     for (const auto& point : contour)
-      if (!std::isfinite(point.x) || !std::isfinite(point.y)) return false;
+      if (!point.isFinite()) return false;
   return true;
 }
 

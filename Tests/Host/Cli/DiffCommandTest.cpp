@@ -78,7 +78,7 @@ TEST(DiffCommand, TellsAnotherClass) {
   EXPECT_THAT(runTool({"diff", a, b}).out, HasSubstr("\n      class: IFCWALL -> IFCSLAB\n"));
 }
 
-class BuildingDiff : public testing::TestWithParam<std::filesystem::path> {};
+class BuildingDiff : public ModelTest {};
 
 TEST_P(BuildingDiff, FindsNoneBetweenAModelAndItsCopy) {
   const ScratchFolder folder;
@@ -91,9 +91,7 @@ TEST_P(BuildingDiff, FindsNoneBetweenAModelAndItsCopy) {
     for (const auto& attribute : changed.at("attributes")) ADD_FAILURE() << attribute;
 }
 
-INSTANTIATE_TEST_SUITE_P(DiffCommand, BuildingDiff, testing::ValuesIn(sharedBuildings()),
-                         modelTestName);
-GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(BuildingDiff);
+FC_INSTANTIATE_FOR_MODELS(BuildingDiff, sharedBuildings());
 
 }  // namespace
 }  // namespace qor::test

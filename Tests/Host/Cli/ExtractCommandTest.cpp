@@ -11,10 +11,8 @@ namespace qor::test {
 namespace {
 
 using host::cli::ExitCode;
-using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-using testing::Not;
 using testing::StartsWith;
 
 constexpr const char* southWall = "0TFreCQonEaOenN0vtqaQR";
@@ -58,18 +56,7 @@ TEST(ExtractCommand, OfADoorTakesNoWall) {
   EXPECT_EQ(classes.value("IFCLOCALPLACEMENT", 0), 6);
 }
 
-TEST(ExtractCommand, WritesNothingForAGuidThatIsNoObjects) {
-  const ScratchFolder folder;
-  const std::string out = folder.path("out.ifc");
-  for (const char* guid : {"nonsense", "0TFrzzQonEaOenN0vtqaQR", "0TFrepQonEaOenN0vtqaQR"}) {
-    const ToolRun run = runTool({"extract", sampleFile(), "--guid", southWall, guid, "-o", out});
-    EXPECT_EQ(run.code, ExitCode::impossible) << guid;
-    EXPECT_THAT(run.err, StartsWith("fctool: ")) << guid;
-  }
-  EXPECT_FALSE(std::filesystem::exists(out));
-}
-
-class BuildingExtract : public testing::TestWithParam<std::filesystem::path> {};
+class BuildingExtract : public ModelTest {};
 
 TEST_P(BuildingExtract, HasTheContentOfItsSource) {
   const ScratchFolder folder;
@@ -98,9 +85,7 @@ TEST_P(BuildingExtract, HasTheContentOfItsSource) {
   EXPECT_EQ(readFile(out).find("IFCSTYLEDITEM") != std::string::npos, hasStyles);
 }
 
-INSTANTIATE_TEST_SUITE_P(ExtractCommand, BuildingExtract, testing::ValuesIn(sharedBuildings()),
-                         modelTestName);
-GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(BuildingExtract);
+FC_INSTANTIATE_FOR_MODELS(BuildingExtract, sharedBuildings());
 
 }  // namespace
 }  // namespace qor::test

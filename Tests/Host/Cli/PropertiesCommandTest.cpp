@@ -10,7 +10,6 @@
 namespace qor::test {
 namespace {
 
-using host::cli::ExitCode;
 using testing::HasSubstr;
 
 constexpr const char* guid = "0TFre1QonEaOenN0vtqaQR";
@@ -67,14 +66,11 @@ TEST(PropertiesCommand, MergesAnObjectsSetsWithThoseOfItsType) {
 
 TEST(PropertiesCommand, ShowsEverythingWithoutAGuidAlsoWhatBelongsToNothing) {
   const ScratchFolder folder;
-  const ToolRun run = runTool({"properties", folder.model(wall)});
-  EXPECT_THAT(run.out, HasSubstr("\n#2 IFCWALLTYPE 'Brick'\n  #10 IFCPROPERTYSET 'Common'\n"
-                                 "    FireRating: F30\n"));
-  EXPECT_THAT(run.out, testing::EndsWith("\nOf no object:\n    Lost: true\n"));
-}
+  const std::string out = runTool({"properties", folder.model(wall)}).out;
+  EXPECT_THAT(out, HasSubstr("\n#2 IFCWALLTYPE 'Brick'\n  #10 IFCPROPERTYSET 'Common'\n"
+                             "    FireRating: F30\n"));
+  EXPECT_THAT(out, testing::EndsWith("\nOf no object:\n    Lost: true\n"));
 
-TEST(PropertiesCommand, JsonHasThePromisedKeys) {
-  const ScratchFolder folder;
   const nlohmann::json json = runTool({"properties", folder.model(wall), "--json"}).json();
   const nlohmann::json& set = json.at("objects").at(0).at("sets").at(0);
   EXPECT_EQ(json.at("objects").at(0).at("class"), "IFCWALL");
@@ -90,14 +86,7 @@ TEST(PropertiesCommand, JsonHasThePromisedKeys) {
   EXPECT_TRUE(json.at("objects").back().at("id").is_null());
 }
 
-TEST(PropertiesCommand, RefusesWhatHasNoProperties) {
-  const ScratchFolder folder;
-  const std::string file = folder.model(wall);
-  for (const char* wrong : {"x", "0TFreZQonEaOenN0vtqaQR", "0TFre3QonEaOenN0vtqaQR"})
-    EXPECT_EQ(runTool({"properties", file, "--guid", wrong}).code, ExitCode::impossible) << wrong;
-}
-
-class BuildingProperties : public testing::TestWithParam<std::filesystem::path> {};
+class BuildingProperties : public ModelTest {};
 
 /// The name of each property and quantity by number, from the text of the file; names with
 /// apostrophes or escapes are left empty.
@@ -130,9 +119,7 @@ TEST_P(BuildingProperties, AppearEachOne) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(PropertiesCommand, BuildingProperties,
-                         testing::ValuesIn(sharedBuildings()), modelTestName);
-GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(BuildingProperties);
+FC_INSTANTIATE_FOR_MODELS(BuildingProperties, sharedBuildings());
 
 }  // namespace
 }  // namespace qor::test

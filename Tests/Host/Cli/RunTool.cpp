@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <iterator>
 #include <sstream>
 #include <vector>
 
@@ -42,11 +41,6 @@ std::string ScratchFolder::model(const std::string& instances, const std::string
   writeFile(path(name), "ISO-10303-21;\nHEADER;\nFILE_SCHEMA(('IFC4X3_ADD2'));\nENDSEC;\nDATA;\n" +
                             instances + "ENDSEC;\nEND-ISO-10303-21;\n");
   return path(name);
-}
-
-std::string readFile(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
 }
 
 void writeFile(const std::string& path, const std::string& text) {

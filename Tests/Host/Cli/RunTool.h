@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "Host/Cli/Console.h"
+#include "Tests/Support/SharedModels.h"
 
 namespace qor::test {
 
@@ -40,7 +41,6 @@ class ScratchFolder {
   std::filesystem::path m_folder;
 };
 
-std::string readFile(const std::string& path);
 void writeFile(const std::string& path, const std::string& text);
 
 }  // namespace qor::test

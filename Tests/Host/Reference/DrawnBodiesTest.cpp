@@ -50,7 +50,7 @@ bool isLeftOut(const FcProduct& product) {
              product.ObjectPlacement().get());
 }
 
-class DrawnBodies : public testing::TestWithParam<std::filesystem::path> {};
+class DrawnBodies : public ModelTest {};
 
 TEST_P(DrawnBodies, AreAllOfTheFileAndStayClosedWhereOpeningsCut) {
   const host::step::ReadResult model = host::step::readStepFile(GetParam());
@@ -67,8 +67,7 @@ TEST_P(DrawnBodies, AreAllOfTheFileAndStayClosedWhereOpeningsCut) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Models, DrawnBodies, testing::ValuesIn(sharedModels()), modelTestName);
-GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(DrawnBodies);
+FC_INSTANTIATE_FOR_MODELS(DrawnBodies, sharedModels());
 
 }  // namespace
 }  // namespace qor::test

@@ -12,7 +12,6 @@
 #include <sstream>
 
 #include "Tests/Host/Cli/RunTool.h"
-#include "Tests/Host/Reference/KnownDeviations.h"
 #include "Tests/Support/SharedModels.h"
 
 namespace qor::test {
@@ -22,6 +21,21 @@ using nlohmann::json;
 
 constexpr double boxTolerance = 0.001;  // metres
 constexpr double relativeTolerance = 0.01;
+
+/// A product of a model whose measures differ from the reference for a reason that is known.
+struct KnownDeviation {
+  std::string_view model;  ///< name of the file without its ending
+  std::string_view guid;
+  const char* cause;
+};
+
+constexpr const char* wide = "an arc of so wide a radius that 72 segments leave it by 4 mm";
+constexpr KnownDeviation knownDeviations[] = {
+    {"Ifc4_SampleHouse", "09J5N7xMHBfQZeQGAEMom9", wide},
+    {"Ifc4_SampleHouse", "3cUkl32yn9qRSPvBJVyW_5", wide},
+    {"curve-parameters-in-degrees", "3vcm8ZmFfDwhpgzzT7EP8n",
+     "the extreme of an arc lies between two of its points, up to 2 mm outside their chord"},
+};
 
 /// How far a value lies outside the range that the reference gives.
 double outside(double value, const json& range) {
@@ -54,15 +68,14 @@ std::string deviationOf(const json* product, const json& reference) {
   return out.str();
 }
 
-class Reference : public testing::TestWithParam<std::filesystem::path> {
+class Reference : public ModelTest {
  protected:
   /// The entry that explains the product; null for none.
   const KnownDeviation* explanation(const std::string& guid) const {
-    const auto& all = knownDeviations();
-    const auto found = std::find_if(all.begin(), all.end(), [&](const KnownDeviation& known) {
+    const auto* const found = std::ranges::find_if(knownDeviations, [&](const auto& known) {
       return known.model == model && known.guid == guid;
     });
-    return found == all.end() ? nullptr : &*found;
+    return found == std::end(knownDeviations) ? nullptr : found;
   }
 
   const std::string model = GetParam().stem().string();
@@ -90,15 +103,14 @@ TEST_P(Reference, AgreesWithWhatIsMeasured) {
     explained += known ? 1 : 0;
     used.insert(known);
   }
-  for (const KnownDeviation& known : knownDeviations())
+  for (const KnownDeviation& known : knownDeviations)
     EXPECT_TRUE(known.model != model || used.contains(&known))
         << known.guid << " doesn't deviate any more";
   RecordProperty("compared", static_cast<int>(compared));
   RecordProperty("explained", static_cast<int>(explained));
 }
 
-INSTANTIATE_TEST_SUITE_P(Models, Reference, testing::ValuesIn(sharedModels()), modelTestName);
-GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(Reference);
+FC_INSTANTIATE_FOR_MODELS(Reference, sharedModels());
 
 }  // namespace
 }  // namespace qor::test

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "Qor/Math/Matrix.h"
+#include "Tests/Support/SolidMesh.h"
 
 namespace qor::host::targets {
 namespace {
@@ -15,14 +16,13 @@ using math::Point3d;
 /// A box whose faces have points of their own, which thus meet by their places alone.
 struct BoxMesh {
   explicit BoxMesh(double x, double y, double z, const Matrix& frame = {}, double gap = 0) {
-    const Point3d p[8] = {{0, 0, 0}, {x, 0, 0}, {x, y, 0}, {0, y, 0},
-                          {0, 0, z}, {x, 0, z}, {x, y, z}, {0, y, z}};
-    const int faces[6][4] = {{3, 2, 1, 0}, {4, 5, 6, 7}, {0, 1, 5, 4},
-                             {1, 2, 6, 5}, {2, 3, 7, 6}, {3, 0, 4, 7}};
-    for (const auto& face : faces) {
+    const auto box = test::boxFaces(x, y, z);
+    for (const auto& face : box.faces) {
       const auto first = static_cast<std::uint32_t>(points.size());
-      for (const int corner : face)
-        points.push_back(Point3d(p[corner].x + gap * first, p[corner].y, p[corner].z) * frame);
+      for (const std::uint32_t corner : face.outer) {
+        const Point3d& p = box.coordinates[corner];
+        points.push_back(Point3d(p.x + gap * first, p.y, p.z) * frame);
+      }
       for (const std::uint32_t i : {0u, 1u, 2u, 0u, 2u, 3u}) triangles.push_back(first + i);
     }
   }
@@ -69,10 +69,13 @@ TEST(MeshMeasure, LeavesOutWhatIsNoNumberAndWhatNoTriangleUses) {
   BoxMesh box(1, 1, 1);
   box.points.emplace_back(100, 100, 100);
   EXPECT_EQ(measureMesh(box.points, box.triangles).box, math::Extent({0, 0, 0}, {1, 1, 1}));
-  box.points[0].x = INFINITY;
-  const MeshMeasure measure = measureMesh(box.points, box.triangles);
-  EXPECT_EQ(measure.triangles, 10u);
-  EXPECT_TRUE(std::isfinite(measure.volume));
+  for (const std::size_t corner : {0u, 1u, 2u, 3u}) {
+    BoxMesh torn(1, 1, 1);
+    torn.points[corner].x = INFINITY;
+    const MeshMeasure measure = measureMesh(torn.points, torn.triangles);
+    EXPECT_EQ(measure.triangles, corner % 2 == 0 ? 10u : 11u);
+    EXPECT_TRUE(std::isfinite(measure.volume));
+  }
   const MeshMeasure nothing = measureMesh({}, {});
   EXPECT_FALSE(nothing.closed);
   EXPECT_FALSE(nothing.box.isValid());

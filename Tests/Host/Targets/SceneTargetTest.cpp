@@ -7,9 +7,10 @@
 
 #include "Fc/Reflection/MakeEntity.h"
 #include "Fc/Shared/BuildingElements/FcWall.h"
-#include "Host/Targets/MeshMeasure.h"
 #include "Host/Targets/RecordingTarget.h"
+#include "Host/Targets/SceneMeasure.h"
 #include "Tests/Support/ExpectAsserts.h"
+#include "Tests/Support/SolidMesh.h"
 
 namespace qor::host::targets {
 namespace {
@@ -21,6 +22,7 @@ using generate::draw::PolygonalFaceSetOpenGL;
 using generate::draw::TriangulatedFaceSetOpenGL;
 using math::Matrix;
 using math::Point3d;
+using test::boxFaces;
 using test::ExpectAsserts;
 constexpr auto left = math::MatrixMultiplyOrder::left;
 
@@ -33,43 +35,17 @@ std::shared_ptr<const Material> material(const Color& colour, std::optional<floa
   return result;
 }
 
-/// A cube from the origin on.
-PolygonalFaceSetOpenGL cube(double size) {
-  PolygonalFaceSetOpenGL set;
-  for (const double z : {0.0, size})
-    for (const double y : {0.0, size})
-      for (const double x : {0.0, size}) set.coordinates.emplace_back(x, y, z);
-  set.faces = {{{0, 2, 3, 1}}, {{4, 5, 7, 6}}, {{0, 1, 5, 4}},
-               {{1, 3, 7, 5}}, {{3, 2, 6, 7}}, {{2, 0, 4, 6}}};
-  return set;
-}
-
-/// What the first object draws, in project coordinates.
-MeshMeasure measureOf(const Scene& scene) {
-  std::vector<Point3d> points;
-  std::vector<std::uint32_t> triangles;
-  scene.forEachContent(scene.objects.at(0),
-                       [&](const SceneContent& content, const Matrix& frame, MaterialIndex) {
-                         const auto base = static_cast<std::uint32_t>(points.size());
-                         for (const Point3d& p : content.mesh.points) points.push_back(p * frame);
-                         for (const auto i : content.mesh.triangles) triangles.push_back(base + i);
-                       });
-  return measureMesh(points, triangles);
-}
+MeshMeasure measureOf(const Scene& scene) { return measureObject(scene, scene.objects.at(0)); }
 
 TEST(SceneTarget, KeepsContentInTheFrameOfTheObject) {
   SceneTarget target(discretization);
   const auto wall = fc::makeEntity<FcWall>();
-  wall->setGlobalId(*[] {
-    auto guid = std::make_unique<Guid>();
-    guid->boSet("2O2Fr$t4X7Zf8NOew3FNr2");
-    return guid;
-  }());
+  wall->setAttributeFromString("GlobalId", "2O2Fr$t4X7Zf8NOew3FNr2");
   wall->setName("South\nwall");
   target.startObject(wall.get());
   target.vTransformationMultiply(Matrix::createTranslation({1e6, 2, 3}), left);
   target.vTransformationMultiply(Matrix::createTranslation({0.5, 0, 0}), left);
-  target.polygonalFaceSet(cube(1));
+  target.polygonalFaceSet(boxFaces(1, 1, 1));
   target.vPolyline({{0, 0, 0}, {1, 0, 0}});
   target.vTextLiteral("text", 4);
   target.stopObject();
@@ -91,7 +67,7 @@ TEST(SceneTarget, TurnsFacesOutwardInMirroredFrames) {
     target.startObject(nullptr);
     target.vTransformationMultiply({}, left);
     target.vTransformationMultiply(Matrix::createScale(mirror, 1, 2), left);
-    target.polygonalFaceSet(cube(1));
+    target.polygonalFaceSet(boxFaces(1, 1, 1));
     target.stopObject();
     const MeshMeasure measure = measureOf(target.takeScene());
     EXPECT_NEAR(measure.volume, 2, 1e-12);
@@ -101,13 +77,13 @@ TEST(SceneTarget, TurnsFacesOutwardInMirroredFrames) {
 
 TEST(SceneTarget, JoinsRangesOfOneLook) {
   SceneTarget target(discretization);
-  target.polygonalFaceSet(cube(1));
+  target.polygonalFaceSet(boxFaces(1, 1, 1));
   target.setMaterial(material({1, 0, 0}));
-  target.polygonalFaceSet(cube(1));
+  target.polygonalFaceSet(boxFaces(1, 1, 1));
   target.setMaterial(material({1, 0, 0}));
-  target.polygonalFaceSet(cube(1));
+  target.polygonalFaceSet(boxFaces(1, 1, 1));
   target.setMaterial(material({1, 0, 0}, 0.25f));
-  target.polygonalFaceSet(cube(1));
+  target.polygonalFaceSet(boxFaces(1, 1, 1));
   const Scene scene = target.takeScene();
   const Mesh& mesh = scene.objects.at(0).content.mesh;
   ASSERT_EQ(mesh.ranges.size(), 3u);
@@ -134,11 +110,11 @@ TEST(SceneTarget, SharesBlocksWithTheLookOfEachUse) {
     target.setMaterial(look);
     const double x = look == red ? 0 : 10;
     drawBlock(target, "outer", Matrix::createTranslation({x, 0, 0}), [&] {
-      target.polygonalFaceSet(cube(1));
+      target.polygonalFaceSet(boxFaces(1, 1, 1));
       drawBlock(target, "inner", Matrix::createTranslation({0, 2, 0}), [&] {
-        target.polygonalFaceSet(cube(1));
+        target.polygonalFaceSet(boxFaces(1, 1, 1));
         target.setMaterial(blue);
-        target.polygonalFaceSet(cube(0.5));
+        target.polygonalFaceSet(boxFaces(0.5, 0.5, 0.5));
       });
     });
     EXPECT_EQ(target.getMaterial(), look) << "a block leaves the look as it was";
@@ -166,7 +142,7 @@ TEST(SceneTarget, LeavesOutWhatIsNoPlaceInAModel) {
   const char* lost = "Coordinates that are no place in a model, left out";
   const ExpectAsserts asserts({lost, lost, lost, "Illegal index in face"});
   SceneTarget target(discretization);
-  PolygonalFaceSetOpenGL set = cube(1);
+  PolygonalFaceSetOpenGL set = boxFaces(1, 1, 1);
   set.coordinates[7].x = std::nan("");
   set.faces.push_back({{0, 1, 99}});
   target.polygonalFaceSet(std::move(set));
@@ -191,7 +167,7 @@ TEST(RecordingTarget, WritesEachCallAsALine) {
   target.vTransformationMultiply(Matrix::createTranslation({1, 2, 3}), left);
   target.setMaterial(material({0.5f, 0, 1}));
   EXPECT_EQ(target.startBlock("0x1234"), 0u);
-  target.polygonalFaceSet(cube(2));
+  target.polygonalFaceSet(boxFaces(2, 2, 2));
   target.stopBlock();
   EXPECT_NE(target.startBlock("0x1234"), 0u);
   target.stopBlock();

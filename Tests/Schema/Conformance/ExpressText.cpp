@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <cctype>
-#include <fstream>
-#include <iterator>
 #include <regex>
 #include <set>
+
+#include "Tests/Support/SharedModels.h"
 
 namespace qor::schema::test {
 
@@ -106,9 +106,8 @@ class Reader {
 }  // namespace
 
 ExpressText readExpressText(const std::filesystem::path& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::string text{std::istreambuf_iterator<char>(in), {}};
-  text = std::regex_replace(text, std::regex(R"(\(\*[^*]*\*\)|--[^\n]*)"), " ");
+  const std::string text =
+      std::regex_replace(qor::test::readFile(path), std::regex(R"(\(\*[^*]*\*\)|--[^\n]*)"), " ");
   Reader reader;
   for (std::size_t at = 0; at < text.size();) reader.read(takeStatement(text, at));
   return reader.schema;

@@ -60,16 +60,11 @@ class SchemaConformance : public testing::Test {
   ExpressText express;
 };
 
-TEST_F(SchemaConformance, ClassesHaveTheirNamesSupertypesAndAbstractness) {
+TEST_F(SchemaConformance, ClassesHaveTheirSupertypesAndAttributesWithTypesAndBoundsInOrder) {
   EXPECT_EQ(Factory::classes().size(), express.classes.size());
   forEachClass([](const ExpressClass& declared, const ClassInfo& info) {
     EXPECT_EQ(info.isAbstract(), declared.isAbstract);
     EXPECT_EQ(info.parent ? info.parent->name.view() : "", declared.supertype);
-  });
-}
-
-TEST_F(SchemaConformance, AttributesHaveTheirNamesOrderTypesAndBounds) {
-  forEachClass([](const ExpressClass& declared, const ClassInfo& info) {
     EXPECT_EQ(declarations(info.attributes), declared.attributes);
     EXPECT_EQ(declarations(info.inverseAttributes), declared.inverses);
     EXPECT_EQ(Texts(info.derivedAttributes.begin(), info.derivedAttributes.end()),
@@ -148,82 +143,40 @@ TEST_F(SchemaConformance, NewInstancesHoldValuesOfTheDeclaredKind) {
   });
 }
 
-TEST(Schema, HasItsNumberOfClassesEnumerationsAndSelects) {
-  EXPECT_EQ(Factory::classes().size(), 876U);
-  EXPECT_EQ(std::ranges::count_if(Factory::classes(), &ClassInfo::isAbstract), 133);
-  EXPECT_EQ(SchemaTables::enumerations().size(), 243U);
-  EXPECT_EQ(SchemaTables::selects().size(), 61U);
-}
-
 TEST(Schema, NumbersItsClasses) {
-  struct {
-    const char* name;
-    unsigned first, last;
-  } const rows[] = {{"IfcActorRole", 1, 1},
-                    {"IfcAddress", 2, 4},
-                    {"IfcGeometricRepresentationContext", 188, 189},
-                    {"IfcRepresentationItem", 190, 345},
-                    {"IfcRoot", 357, 840},
-                    {"IfcProject", 360, 360},
-                    {"IfcWall", 429, 430},
-                    {"IfcWallStandardCase", 430, 430},
-                    {"IfcWellKnownText", 876, 876}};
-  for (const auto& row : rows)
-    EXPECT_EQ(Factory::boundFromIfcName(StringHash::of(row.name)), std::pair(row.first, row.last))
-        << row.name;
+  const auto bound = [](const char* name) {
+    return Factory::boundFromIfcName(StringHash::of(name));
+  };
+  EXPECT_EQ(bound("IfcActorRole"), std::pair(1U, 1U));
+  EXPECT_EQ(bound("IfcRoot"), std::pair(357U, 840U));
+  EXPECT_EQ(bound("IfcWall"), std::pair(429U, 430U));
+  EXPECT_EQ(bound("IfcWellKnownText"), std::pair(876U, 876U));
 }
 
 TEST(Schema, HasItsClassesInGroups) {
-  const std::map<std::string, int> groups = {
-      {"Core.Kernel", 49},
-      {"Core.Control Extension", 3},
-      {"Core.Process Extension", 11},
-      {"Core.Product Extension", 82},
-      {"Domain.Architecture", 5},
-      {"Domain.Building Controls", 12},
-      {"Domain.Construction Management", 14},
-      {"Domain.Electrical", 50},
-      {"Domain.Hvac", 66},
-      {"Domain.Plumbing Fire Protection", 10},
-      {"Domain.Ports and Waterways", 10},
-      {"Domain.Rail", 6},
-      {"Domain.Road", 4},
-      {"Domain.Structural Analysis", 28},
-      {"Domain.Structural Elements", 23},
-      {"Shared.Building Elements", 45},
-      {"Shared.Building Service Elements", 26},
-      {"Shared.Component Elements", 10},
-      {"Shared.Facilities Elements", 7},
-      {"Shared.Infrastructure Elements", 18},
-      {"Shared.Management Elements", 5},
-      {"Resource.Actor", 8},
-      {"Resource.Approval", 3},
-      {"Resource.Constraint", 5},
-      {"Resource.Cost", 3},
-      {"Resource.DateTime", 14},
-      {"Resource.External Reference", 11},
-      {"Resource.Geometric Constraint", 16},
-      {"Resource.Geometric Model", 47},
-      {"Resource.Geometry", 76},
-      {"Resource.Material", 18},
-      {"Resource.Measure", 11},
-      {"Resource.Presentation Appearance", 46},
-      {"Resource.Presentation Definition", 6},
-      {"Resource.Presentation Organization", 10},
-      {"Resource.Profile", 28},
-      {"Resource.Property", 14},
-      {"Resource.Quantity", 10},
-      {"Resource.Representation", 21},
-      {"Resource.Structural Load", 20},
-      {"Resource.Topology", 20},
-      {"Resource.Utility", 5},
-  };
   std::map<std::string, int> counts;
   for (const ClassInfo* info : Factory::classes()) {
     ++counts[info->groupPath];
     EXPECT_TRUE(std::string(info->groupPath).ends_with('.' + std::string(info->group)));
   }
-  EXPECT_EQ(counts, groups);
+  std::string found;
+  for (const auto& [group, count] : counts) found += group + ": " + std::to_string(count) + "; ";
+  EXPECT_EQ(found,
+            "Core.Control Extension: 3; Core.Kernel: 49; Core.Process Extension: 11; Core.Product "
+            "Extension: 82; Domain.Architecture: 5; Domain.Building Controls: 12; "
+            "Domain.Construction Management: 14; Domain.Electrical: 50; Domain.Hvac: 66; "
+            "Domain.Plumbing Fire Protection: 10; Domain.Ports and Waterways: 10; Domain.Rail: 6; "
+            "Domain.Road: 4; Domain.Structural Analysis: 28; Domain.Structural Elements: 23; "
+            "Resource.Actor: 8; Resource.Approval: 3; Resource.Constraint: 5; Resource.Cost: 3; "
+            "Resource.DateTime: 14; Resource.External Reference: 11; Resource.Geometric "
+            "Constraint: 16; Resource.Geometric Model: 47; Resource.Geometry: 76; "
+            "Resource.Material: 18; Resource.Measure: 11; Resource.Presentation Appearance: 46; "
+            "Resource.Presentation Definition: 6; Resource.Presentation Organization: 10; "
+            "Resource.Profile: 28; Resource.Property: 14; Resource.Quantity: 10; "
+            "Resource.Representation: 21; Resource.Structural Load: 20; Resource.Topology: 20; "
+            "Resource.Utility: 5; Shared.Building Elements: 45; Shared.Building Service Elements: "
+            "26; Shared.Component Elements: 10; Shared.Facilities Elements: 7; "
+            "Shared.Infrastructure Elements: 18; Shared.Management Elements: 5; ");
 }
 
 }  // namespace
