@@ -5,6 +5,9 @@
 #include <optional>
 
 #include "Fc/Core/Kernel/FcProduct.h"
+#include "Fc/Document/Document.h"
+#include "Fc/FcDrawInterfaceWrapper.h"
+#include "Fc/FcGenerateParams.h"
 #include "Fc/Resource/GeometricConstraint/FcLinearPlacement.h"
 #include "Fc/Resource/GeometricConstraint/FcLocalPlacement.h"
 #include "Fc/Resource/GeometricModel/FcFacetedBrep.h"
@@ -15,6 +18,7 @@
 #include "Host/StepFile/StepReader.h"
 #include "Items.h"
 #include "Tests/Support/ExpectAsserts.h"
+#include "Tests/Support/RecordingTarget.h"
 #include "Tests/Support/SharedModels.h"
 #include "Tests/Support/SolidMesh.h"
 
@@ -86,14 +90,27 @@ class RealModel : public testing::TestWithParam<std::filesystem::path> {
   const std::shared_ptr<Data> data = host::step::readStepFile(GetParam()).data;
 };
 
-TEST_P(RealModel, PlacesEachProductWhereItsNumbersSay) {
-  for (const std::shared_ptr<FcProduct> product : data->entities<FcProduct>()) {
-    if (!product->ObjectPlacement()) continue;
-    const auto expected = absoluteFrame(product->ObjectPlacement().get());
-    if (!expected) continue;
-    EXPECT_LT(deviation(product->ObjectPlacement()->placementGet(false), *expected), 1e-9)
-        << product->ifcName() << ' ' << product->GlobalId().toString(false);
-  }
+TEST_P(RealModel, OpensEachProductWhereItsNumbersSayWithinTheFrameOfTheTarget) {
+  const Matrix outer = Matrix::createZRotate(0.3) * Matrix::createTranslation({5, -7, 2});
+  DrawStatus status;
+  for (const std::shared_ptr<FcProduct> product : data->entities<FcProduct>())
+    status.setEnabled(product.get(), false);
+  test::RecordingTarget target;
+  target.vTransformationSet(outer);
+  FcDrawInterfaceWrapper wrapper(target);
+  const document::Document objects(data);
+  FcGenerateParams params(wrapper, objects, status, *data, nullptr, nullptr, nullptr);
+  std::size_t opened = 0;
+  params.disabledProductCallback = [&](FcGenerateParams&, const FcProduct& product) {
+    ++opened;
+    const auto expected = absoluteFrame(product.ObjectPlacement().get());
+    if (!expected) return;
+    EXPECT_LT(deviation(target.transformationGet(), *expected * outer), 1e-9)
+        << product.ifcName() << ' ' << product.GlobalId().toString(false);
+  };
+  const auto products = data->entities<FcProduct>();
+  for (const std::shared_ptr<FcProduct> product : products) product->generate(params);
+  EXPECT_EQ(opened, products.size());
 }
 
 TEST_P(RealModel, AnswersForEachCurve) {
