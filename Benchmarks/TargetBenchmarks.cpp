@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <numbers>
+#include <numeric>
 #include <sstream>
 
 #include "Host/Targets/GltfWriter.h"
@@ -115,6 +116,27 @@ void concavePolygon(benchmark::State& state) {
   setItems(state, made);
 }
 BENCHMARK(concavePolygon)->RangeMultiplier(2)->Range(1 << 10, 1 << 20);
+
+/// One polygon of very many teeth.
+void jaggedPolygon(benchmark::State& state) {
+  const auto count = static_cast<std::uint32_t>(state.range(0));
+  std::vector<Point3d> points;
+  Triangulator::Indices outer(count);
+  std::iota(outer.begin(), outer.end(), 0U);
+  for (std::uint32_t i = 0; i < count; ++i) {
+    const double angle = 2 * std::numbers::pi * i / count;
+    const double radius = 100 + 30 * std::sin(angle * 60) + (i % 2 == 0 ? 0 : 1);
+    points.emplace_back(radius * std::cos(angle), radius * std::sin(angle), 0);
+  }
+  Triangulator triangulator;
+  for (auto _ : state) {
+    Triangulator::Indices found;
+    triangulator.triangulate(points, outer, {}, found);
+    benchmark::DoNotOptimize(found.data());
+  }
+  setItems(state, count);
+}
+BENCHMARK(jaggedPolygon)->RangeMultiplier(2)->Range(1 << 10, 1 << 20);
 
 void measure(benchmark::State& state) {
   const Scene scene = tubes(1, static_cast<std::uint32_t>(state.range(0)));

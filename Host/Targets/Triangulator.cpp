@@ -11,6 +11,7 @@
 #include <deque>
 #include <new>
 
+#include "Host/Targets/SmallEars.h"
 #include "Qor/Math/Vector.h"
 
 #ifndef CALLBACK
@@ -24,6 +25,9 @@ namespace {
 using math::Point3d;
 using math::Vector3d;
 using Indices = Triangulator::Indices;
+
+/// From here on it pays to cut off the teeth of an outline first.
+constexpr std::size_t manyCorners = 2000;
 
 void addFan(const Indices& outer, Indices& triangles) {
   for (std::size_t i = 2; i < outer.size(); ++i)
@@ -138,7 +142,11 @@ void Triangulator::triangulate(std::vector<Point3d>& points, const Indices& oute
   const double size = area.length();
   if (!std::isfinite(size) || size == 0) return addFan(outer, triangles);
   if (!m_sweep) m_sweep = std::make_unique<Sweep>();
-  m_sweep->run(points, outer, holes, area * (1 / size), triangles);
+  const Vector3d normal = area * (1 / size);
+  if (outer.size() < manyCorners) return m_sweep->run(points, outer, holes, normal, triangles);
+  Indices rest = outer;
+  cutSmallEars(points, holes, normal, rest, triangles);
+  m_sweep->run(points, rest, holes, normal, triangles);
 }
 
 /// A fan is right when all its triangles turn the way of the outline and all corners lie on one

@@ -10,11 +10,11 @@ namespace qor::host::targets {
 
 /// Cuts plane polygons with holes into triangles.
 ///
-/// Convex polygons are cut as a fan; all others go to a sweep-line tessellator that takes whatever
-/// real files hold: concave outlines, holes in either direction and touching the outline, points
-/// that coincide or lie on a line, outlines that cross themselves (inside is what an odd number of
-/// turns runs round). Every edge of the polygon is an edge of a triangle, in the same direction, so
-/// that a closed set of faces stays closed.
+/// Convex polygons are cut as a fan; all others go, large ones without their teeth, to a sweep-line
+/// tessellator that takes whatever real files hold: concave outlines, holes in either direction and
+/// touching the outline, points that coincide or lie on a line, outlines that cross themselves
+/// (inside is what an odd number of turns runs round). Every edge of the polygon is an edge of a
+/// triangle, in the same direction, so that a closed set of faces stays closed.
 ///
 /// Holds scratch memory: make one for many polygons. Not for several threads at once.
 class Triangulator {
