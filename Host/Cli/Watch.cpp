@@ -21,7 +21,7 @@ volatile std::sig_atomic_t isInterrupted = 0;
 
 extern "C" void noteInterruption(int signal) {
   isInterrupted = 1;
-  std::signal(signal, SIG_DFL);
+  std::signal(signal, noteInterruption);  // some systems forget it
 }
 
 }  // namespace

@@ -26,8 +26,7 @@ class Watch {
   ~Watch();
 
   /// From now on Ctrl-C, and what else asks the process to end, make the watch say what the program
-  /// was at, remove temporary files and end it with `interruptedExitCode`. A second one ends it at
-  /// once.
+  /// was at, remove temporary files and end it with `interruptedExitCode`, within 50 ms.
   static void endInOrderWhenInterrupted();
   static constexpr int interruptedExitCode = 130;
 
