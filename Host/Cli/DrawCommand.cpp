@@ -114,8 +114,13 @@ struct Counts {
   std::size_t objects = 0, blocks, triangles = 0, lines = 0, texts = 0;
 };
 
-void print(const DrawOptions& options, const Scene& scene, std::ostream& out) {
+void print(const DrawOptions& options, const Scene& scene, Console& console) {
   const Counts counts(scene);
+  std::ostream& out = console.out;
+  if (counts.objects == 0 && counts.blocks == 0)
+    console.err
+        << "fctool: nothing was drawn: what has a shape is hidden (--spaces, --openings and "
+           "--status show it) or belongs to no product (--id draws any one entity)\n";
   if (options.json) {
     nlohmann::ordered_json json{{"file", options.file.string()}, {"objects", counts.objects},
                                 {"blocks", counts.blocks},       {"triangles", counts.triangles},
@@ -173,7 +178,7 @@ ExitCode runDraw(const DrawOptions& options, Console& console) {
   arrangeAsTree(scene, *model->data, numbersOf(*model));
   for (const auto& output : options.outputs)
     if (!writeScene(output, scene, *plan, titleOf(options), console)) return ExitCode::impossible;
-  print(options, scene, console.out);
+  print(options, scene, console);
   return exitCodeOf(*model);
 }
 

@@ -89,7 +89,9 @@ TEST_F(Drawing, HidesSpacesAndOpeningsUnlessAskedFor) {
   instances.replace(wall, 8, "IFCSPACE(");
   instances.replace(instances.find(",$,$);", wall), 6, ",$,$,$,$);");
   const std::string space = folder.model(instances, "space.ifc");
-  EXPECT_EQ(runTool({"draw", space, "--json"}).json()["objects"], 0);
+  const ToolRun hidden = runTool({"draw", space, "--json"});
+  EXPECT_EQ(hidden.json()["objects"], 0);
+  EXPECT_THAT(hidden.err, HasSubstr("nothing was drawn: "));
   EXPECT_EQ(runTool({"draw", space, "--json", "--spaces"}).json()["objects"], 1);
   EXPECT_EQ(runTool({"draw", space, "--json", "--openings"}).json()["objects"], 1);
   EXPECT_EQ(runTool({"measure", space, "--json"}).json()["products"].size(), 1u);
