@@ -7,11 +7,16 @@
 
 #include "Host/Cli/PrintableText.h"
 #include "Host/Cli/ProgressBar.h"
+#include "Host/StepFile/TakeApart.h"
 
 namespace qor::host::cli {
 
-std::optional<step::ReadResult> loadModel(const std::filesystem::path& file, Console& console,
-                                          bool keepUnits) {
+void TakingApart::operator()(const step::ReadResult* model) const {
+  if (model->data) step::takeApart(*model->data);
+  delete model;
+}
+
+LoadedModel loadModel(const std::filesystem::path& file, Console& console, bool keepUnits) {
   step::ReadResult model;
   {
     ProgressBar bar("Reading", console);
@@ -20,9 +25,9 @@ std::optional<step::ReadResult> loadModel(const std::filesystem::path& file, Con
   const std::string name = printable(file.string());
   for (const step::Problem& problem : model.problems)
     console.err << fmt::format("{}: {}\n", name, printable(problem.toString()));
-  if (model.data) return model;
+  if (model.data) return LoadedModel(new step::ReadResult(std::move(model)));
   refuse(console, fmt::format("can't read '{}': {}", name, printable(model.failure)));
-  return std::nullopt;
+  return nullptr;
 }
 
 ExitCode exitCodeOf(const step::ReadResult& model) {

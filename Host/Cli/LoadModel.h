@@ -1,18 +1,24 @@
 #pragma once
 
 #include <filesystem>
-#include <optional>
+#include <memory>
 
 #include "Host/Cli/Console.h"
 #include "Host/StepFile/StepReader.h"
 
 namespace qor::host::cli {
 
+/// Takes the model apart before it goes, so that entities that refer to each other in a circle go
+/// with it.
+struct TakingApart {
+  void operator()(const step::ReadResult* model) const;
+};
+using LoadedModel = std::unique_ptr<const step::ReadResult, TakingApart>;
+
 /// Reads a model, with a progress bar, and reports its problems, each in one line. Its numbers are
-/// SI unless `keepUnits` asks for those of the file. Empty, after a line that says why, when there
+/// SI unless `keepUnits` asks for those of the file. Null, after a line that says why, when there
 /// is nothing to go on with.
-std::optional<step::ReadResult> loadModel(const std::filesystem::path& file, Console& console,
-                                          bool keepUnits = false);
+LoadedModel loadModel(const std::filesystem::path& file, Console& console, bool keepUnits = false);
 
 /// `problems` when the file has some.
 ExitCode exitCodeOf(const step::ReadResult& model);

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <utility>
 
 namespace qor::host::step {
 
@@ -9,8 +10,8 @@ namespace qor::host::step {
 class Progress {
  public:
   /// `tell` may be empty; `total` is what `advance` reaches at the end.
-  Progress(const std::function<void(double)>& tell, std::size_t total)
-      : m_tell(tell), m_total(total) {}
+  Progress(std::function<void(double)> tell, std::size_t total)
+      : m_tell(std::move(tell)), m_total(total) {}
 
   /// `done` of the total is done. Cheap enough to be called for each instance.
   void advance(std::size_t done) {
@@ -22,7 +23,7 @@ class Progress {
  private:
   static constexpr std::size_t steps = 200;
 
-  const std::function<void(double)>& m_tell;
+  std::function<void(double)> m_tell;
   std::size_t m_total;
   std::size_t m_next = 0;
 };

@@ -64,7 +64,7 @@ class Comparison {
   template <class List>
   bool sameElements(const List& a, const List& b) const {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [this](const auto& x, const auto& y) { return same(x, y); });
+                      [this](const auto& x, const auto& y) { return this->same(x, y); });
   }
 
   bool m_allButUnits;

@@ -13,6 +13,7 @@
 #include "Fc/Resource/Property/FcPropertySingleValue.h"
 #include "Host/StepFile/StepReader.h"
 #include "Host/StepFile/StepWriter.h"
+#include "Host/StepFile/TakeApart.h"
 #include "Host/StepFile/Units/Measures.h"
 #include "Tests/Host/CloseModels.h"
 #include "Tests/Host/StepText.h"
@@ -335,6 +336,7 @@ TEST(Units, WhatMakesNoSenseIsToldInALineAndLeavesNumbersAlone) {
     EXPECT_EQ(told, row.told);
     const auto point = fc::fcCast<FcCartesianPoint>(model.instances.back().entity);
     EXPECT_EQ(point->Coordinates()[0], row.x);
+    takeApart(*model.data);
   }
 }
 

@@ -95,4 +95,9 @@ std::vector<std::shared_ptr<fc::FcBase>> randomEntities(std::size_t count, std::
   return entities;
 }
 
+void empty(fc::FcBase& entity) {
+  entity.classInfo().forEachAttribute(
+      [&](const fc::AttributeInfo& attribute) { entity.setLocalValue({}, attribute.id()); });
+}
+
 }  // namespace qor::test

@@ -14,4 +14,7 @@ namespace qor::test {
 /// that equal parts occur.
 std::vector<std::shared_ptr<fc::FcBase>> randomEntities(std::size_t count, std::uint32_t seed);
 
+/// Takes all values out of an entity, so that it goes with its last owner outside of a cycle.
+void empty(fc::FcBase& entity);
+
 }  // namespace qor::test

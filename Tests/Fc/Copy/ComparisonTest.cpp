@@ -69,6 +69,7 @@ TEST(Comparison, IsAStrictWeakOrderOnEntitiesOfManyClasses) {
         }
       }
     }
+    for (const auto& entity : entities) test::empty(*entity);
   }
 }
 

@@ -39,7 +39,8 @@ std::shared_ptr<FcWall> placedWall() {
 
 TEST(DeepCopy, EqualsItsSourceAndSharesNothingWithIt) {
   for (std::uint32_t seed = 1; seed <= 20; ++seed) {
-    for (const auto& entity : test::randomEntities(40, seed)) {
+    const auto entities = test::randomEntities(40, seed);
+    for (const auto& entity : entities) {
       FcCopySettings settings;
       const auto copy = entity->deepCopy(settings);
       ASSERT_TRUE(copy->isEqualTo(*entity)) << seed << " " << entity->ifcName();
@@ -49,7 +50,9 @@ TEST(DeepCopy, EqualsItsSourceAndSharesNothingWithIt) {
               EXPECT_FALSE(settings.copiedEntities.contains(reached.get())) << id.name();
             },
             true);
+      for (const auto& [source, made] : settings.copiedEntities) test::empty(*made);
     }
+    for (const auto& entity : entities) test::empty(*entity);
   }
 }
 

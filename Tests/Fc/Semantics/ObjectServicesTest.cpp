@@ -236,6 +236,9 @@ TEST_F(ObjectServices, ClimbNoCircleOfReferences) {
   const auto made = reference->createClassification(*data, "New");
   EXPECT_EQ(reference->getClassificationName(), "New");
   EXPECT_TRUE(data->hasEntity(*made));
+  for (const std::shared_ptr<FcClassificationReference> one :
+       data->entities<FcClassificationReference>())
+    one->clearReferencedSource();
 }
 
 TEST_F(ObjectServices, ReferToSomethingOutsideByANewRelationshipEachTime) {
