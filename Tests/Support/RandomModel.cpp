@@ -96,8 +96,9 @@ std::vector<std::shared_ptr<fc::FcBase>> randomEntities(std::size_t count, std::
 }
 
 void empty(fc::FcBase& entity) {
-  entity.classInfo().forEachAttribute(
-      [&](const fc::AttributeInfo& attribute) { entity.setLocalValue({}, attribute.id()); });
+  entity.classInfo().forEachAttribute([&](const fc::AttributeInfo& attribute) {
+    attribute.type->setLocalValue(attribute.of(entity), fc::LocalValue(fc::details::EmptyValue()));
+  });
 }
 
 }  // namespace qor::test
