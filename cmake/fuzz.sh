@@ -30,7 +30,7 @@ timeout=10
 [[ $target == step_reader_fuzzer ]] || timeout=120
 
 # The target ends a model with circles of references itself, so that every leak is one.
-UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
+UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 LSAN_OPTIONS=suppressions="$root/Host/Fuzz/leaks.txt" \
   "$root/build/fuzz/Host/Fuzz/$target" "$corpus" "${seeds[@]}" \
   -dict="$root/Host/Fuzz/step.dict" -max_len=65536 -timeout="$timeout" -rss_limit_mb=2048 \
   -artifact_prefix="$found/" -max_total_time="$seconds" -print_final_stats=1
