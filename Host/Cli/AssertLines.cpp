@@ -26,7 +26,8 @@ void AssertLines::take(const AssertInfo& info) {
     ++told->second;
   } else if (m_told.size() < maxLines) {
     const std::string object = m_watch.object();
-    m_err << (object.empty() ? text : fmt::format("{}, at {}", text, object)) << "\n";
+    m_err << m_watch.lineStart() << (object.empty() ? text : fmt::format("{}, at {}", text, object))
+          << "\n";
     m_told.emplace(std::move(text), 1);
   }
 }

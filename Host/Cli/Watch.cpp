@@ -87,7 +87,8 @@ void Watch::run() {
 
 void Watch::tell(Clock::duration duration) const {
   using Seconds = std::chrono::duration<double>;
-  m_err << fmt::format("fctool: {} has taken {:.0f} s so far\n", objectWhileLocked(),
+  m_err << lineStart()
+        << fmt::format("fctool: {} has taken {:.0f} s so far\n", objectWhileLocked(),
                        Seconds(duration).count())
         << std::flush;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <cstdint>
@@ -35,6 +36,10 @@ class Watch {
   /// "#12 IFCWALL 'South wall'"; empty when the program is at none.
   std::string object() const;
 
+  /// While a progress bar stands in the last line of `err`, other lines begin by wiping it away.
+  void setBarShown(bool isShown) { m_isBarShown = isShown; }
+  const char* lineStart() const { return m_isBarShown ? "\r\033[K" : ""; }
+
   /// The time in which a command is at one object of `model` after the other. The model may not
   /// change meanwhile.
   class Walk {
@@ -58,6 +63,7 @@ class Watch {
   const std::chrono::milliseconds m_patience;
   mutable std::mutex m_mutex;
   std::condition_variable m_wakeUp;
+  std::atomic<bool> m_isBarShown = false;
   bool m_isDone = false;
   const step::ReadResult* m_model = nullptr;
   Guid m_guid;

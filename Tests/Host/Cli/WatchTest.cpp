@@ -70,12 +70,13 @@ TEST_F(WatchTest, LetsAssertsNameTheirObject) {
     raise("first\nof two");
     const Watch::Walk walk(watch, m_model);
     watch.at(m_wall);
+    watch.setBarShown(true);
     raise("second");
     raise("first\nof two");
   }
   EXPECT_EQ(err.str(),
             "fctool: assert: first\\nof two (f)\n"
-            "fctool: assert: second (f), at #7 IFCWALL 'South wall'\n"
+            "\r\033[Kfctool: assert: second (f), at #7 IFCWALL 'South wall'\n"
             "fctool: assert: first\\nof two (f): 2 times in all\n");
 }
 
