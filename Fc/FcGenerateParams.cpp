@@ -44,7 +44,7 @@ FcGenerateParams::FcGenerateParams(generate::GenerateInterface& target,
       m_representationFilter(representationFilter),
       m_contextFilter(contextFilter),
       m_connectionLine(connectionLine),
-      m_visited(8) {}
+      m_visited(8, &m_memory) {}
 
 FcGenerateParams::~FcGenerateParams() = default;
 

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <memory_resource>
 #include <unordered_set>
 #include <vector>
 
@@ -129,7 +130,8 @@ class QOR_API FcGenerateParams {
   RepresentationInterface* m_representationFilter;
   const RepresentationContextInterface* m_contextFilter;
   ObjectInterface* m_connectionLine;
-  std::unordered_set<const FcRoot*> m_visited;
+  std::pmr::monotonic_buffer_resource m_memory;  ///< one piece for many of the visited roots
+  std::pmr::unordered_set<const FcRoot*> m_visited;
   std::vector<Step> m_steps;
 };
 
