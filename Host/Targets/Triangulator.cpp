@@ -26,14 +26,6 @@ using math::Point3d;
 using math::Vector3d;
 using Indices = Triangulator::Indices;
 
-/// From here on it pays to cut off the teeth of an outline first.
-constexpr std::size_t manyCorners = 2000;
-
-void addFan(const Indices& outer, Indices& triangles) {
-  for (std::size_t i = 2; i < outer.size(); ++i)
-    triangles.insert(triangles.end(), {outer[0], outer[i - 1], outer[i]});
-}
-
 /// Twice the area as a length, in the direction from which the outline runs counter-clockwise.
 Vector3d areaVector(const std::vector<Point3d>& points, const Indices& outer) {
   Vector3d sum;
@@ -41,6 +33,44 @@ Vector3d areaVector(const std::vector<Point3d>& points, const Indices& outer) {
   for (std::size_t i = 2; i < outer.size(); ++i)
     sum = sum + (points[outer[i - 1]] - first).cross(points[outer[i]] - first);
   return sum;
+}
+
+/// A band between the outline and a hole of as many corners, as the end of a pipe has: two
+/// triangles from edge to edge. Since they fill what lies between the two when all of them turn the
+/// way of the outline, nothing else is asked. False, and nothing added, when one doesn't.
+bool addBand(const std::vector<Point3d>& points, const Indices& outer, const Indices& hole,
+             const Vector3d& normal, Indices& triangles) {
+  const std::size_t n = outer.size();
+  if (hole.size() != n) return false;
+  for (const std::uint32_t index : hole)
+    if (!points[index].isFinite()) return false;
+  Indices inner = hole;
+  if (areaVector(points, hole).dot(normal) < 0) std::reverse(inner.begin(), inner.end());
+  const auto nearest =
+      std::min_element(inner.begin(), inner.end(), [&](std::uint32_t a, std::uint32_t b) {
+        return (points[a] - points[outer[0]]).length() < (points[b] - points[outer[0]]).length();
+      });
+  std::rotate(inner.begin(), nearest, inner.end());
+  const std::size_t before = triangles.size();
+  const auto add = [&](std::uint32_t a, std::uint32_t b, std::uint32_t c) {
+    triangles.insert(triangles.end(), {a, b, c});
+    return (points[b] - points[a]).cross(points[c] - points[a]).dot(normal) > 0;
+  };
+  for (std::size_t i = 0; i < n; ++i) {
+    const std::size_t next = i + 1 < n ? i + 1 : 0;
+    if (add(outer[i], outer[next], inner[i]) && add(outer[next], inner[next], inner[i])) continue;
+    triangles.resize(before);
+    return false;
+  }
+  return true;
+}
+
+/// From here on it pays to cut off the teeth of an outline first.
+constexpr std::size_t manyCorners = 2000;
+
+void addFan(const Indices& outer, Indices& triangles) {
+  for (std::size_t i = 2; i < outer.size(); ++i)
+    triangles.insert(triangles.end(), {outer[0], outer[i - 1], outer[i]});
 }
 
 }  // namespace
@@ -141,8 +171,9 @@ void Triangulator::triangulate(std::vector<Point3d>& points, const Indices& oute
   const Vector3d area = areaVector(points, outer);
   const double size = area.length();
   if (!std::isfinite(size) || size == 0) return addFan(outer, triangles);
-  if (!m_sweep) m_sweep = std::make_unique<Sweep>();
   const Vector3d normal = area * (1 / size);
+  if (holes.size() == 1 && addBand(points, outer, holes[0], normal, triangles)) return;
+  if (!m_sweep) m_sweep = std::make_unique<Sweep>();
   if (outer.size() < manyCorners) return m_sweep->run(points, outer, holes, normal, triangles);
   Indices rest = outer;
   cutSmallEars(points, holes, normal, rest, triangles);

@@ -10,7 +10,7 @@ namespace qor::host::targets {
 
 /// Cuts plane polygons with holes into triangles.
 ///
-/// Convex polygons are cut as a fan; all others go, large ones without their teeth, to a sweep-line
+/// Convex polygons are cut as a fan, the ends of pipes as a band; all others go, large ones without their teeth, to a sweep-line
 /// tessellator that takes whatever real files hold: concave outlines, holes in either direction and
 /// touching the outline, points that coincide or lie on a line, outlines that cross themselves
 /// (inside is what an odd number of turns runs round). Every edge of the polygon is an edge of a
