@@ -67,37 +67,27 @@ std::vector<std::shared_ptr<fc::FcBase>> allRoots(const step::ReadResult& model,
   return roots;
 }
 
-/// Gives what is left of a cut item the look of the item.
-class StylingWrapper : public fc::FcDrawInterfaceWrapper {
+/// Leaves bodies as they are before openings are cut out, or gives what is left of a cut item the
+/// look of the item.
+class ModelWrapper : public fc::FcDrawInterfaceWrapper {
  public:
-  using FcDrawInterfaceWrapper::FcDrawInterfaceWrapper;
+  ModelWrapper(generate::draw::DrawInterface& target, bool noOpenings)
+      : FcDrawInterfaceWrapper(target), m_noOpenings(noOpenings) {}
 
   void drawConstRepresentationItem(std::shared_ptr<const FcRepresentationItem> item,
                                    const fc::FcDrawParams& params,
                                    generate::draw::SurfaceDrawType type) override {
-    if (isClipping()) checkStyles(*item);
+    std::optional<RestoreClipping> uncut;
+    if (m_noOpenings)
+      uncut.emplace(*this);
+    else if (isClipping())
+      checkStyles(*item);
     FcDrawInterfaceWrapper::drawConstRepresentationItem(std::move(item), params, type);
   }
+
+ private:
+  bool m_noOpenings;
 };
-
-/// Leaves walls as they are before openings are cut out.
-class UncutWrapper : public fc::FcDrawInterfaceWrapper {
- public:
-  using FcDrawInterfaceWrapper::FcDrawInterfaceWrapper;
-
-  void drawConstRepresentationItem(std::shared_ptr<const FcRepresentationItem> item,
-                                   const fc::FcDrawParams& params,
-                                   generate::draw::SurfaceDrawType type) override {
-    const RestoreClipping uncut(*this);
-    FcDrawInterfaceWrapper::drawConstRepresentationItem(std::move(item), params, type);
-  }
-};
-
-std::unique_ptr<fc::FcDrawInterfaceWrapper> wrapperOf(generate::draw::DrawInterface& target,
-                                                      const DrawingOptions& options) {
-  if (options.noOpenings) return std::make_unique<UncutWrapper>(target);
-  return std::make_unique<StylingWrapper>(target);
-}
 
 /// One walk over a model into one target.
 class Drawing {
@@ -107,8 +97,8 @@ class Drawing {
           const DrawingOptions& options, Watch& watch, const std::function<void(double)>& tell)
       : m_document(data),
         m_target(target),
-        m_wrapper(wrapperOf(target, options)),
-        m_params(*m_wrapper, m_document, status, *data, choice, nullptr, nullptr),
+        m_wrapper(target, options.noOpenings),
+        m_params(m_wrapper, m_document, status, *data, choice, nullptr, nullptr),
         m_progress(tell, data->entities<FcProduct>().size()) {
     m_params.skipExpensiveClipping = options.skipExpensive;
     m_params.skipObjectCallback = [this, &watch](const Guid& guid) {
@@ -124,12 +114,12 @@ class Drawing {
       root->generate(m_params);
       return true;
     }
-    fc::FcDrawParams params(*m_wrapper);
+    fc::FcDrawParams params(m_wrapper);
     params.skipExpensiveClipping = m_params.skipExpensiveClipping;
     if (const auto item = fc::fcCast<FcRepresentationItem>(entity))
       return drawPart(*entity, [&] {
-        m_wrapper->drawConstRepresentationItem(item, params,
-                                               generate::draw::SurfaceDrawType::Surface);
+        m_wrapper.drawConstRepresentationItem(item, params,
+                                              generate::draw::SurfaceDrawType::Surface);
       });
     if (const auto representation = fc::fcCast<FcRepresentation>(entity))
       return drawPart(*entity, [&] { representation->draw(params); });
@@ -152,7 +142,7 @@ class Drawing {
 
   fc::document::Document m_document;
   generate::draw::DrawInterface& m_target;
-  std::unique_ptr<fc::FcDrawInterfaceWrapper> m_wrapper;
+  ModelWrapper m_wrapper;
   fc::FcGenerateParams m_params;
   step::Progress m_progress;
   std::size_t m_done = 0;

@@ -57,11 +57,8 @@ std::string Watch::object() const {
 std::string Watch::objectWhileLocked() const {
   const auto root = m_model && m_visits > 0 ? m_model->data->entityByGuid(m_guid) : nullptr;
   if (!root) return {};
-  const auto& instances = m_model->instances;
-  const auto instance =
-      std::find_if(instances.begin(), instances.end(),
-                   [&](const step::NumberedEntity& one) { return one.entity == root; });
-  return label(*root, instance == instances.end() ? 0 : instance->number);
+  if (!m_numbers) m_numbers.emplace(*m_model->data, m_model->instances);
+  return label(*root, m_numbers->numberOf(*root));
 }
 
 void Watch::run() {
@@ -113,6 +110,7 @@ Watch::Walk::Walk(Watch& watch, const step::ReadResult& model) : m_watch(watch) 
 Watch::Walk::~Walk() {
   const std::lock_guard lock(m_watch.m_mutex);
   m_watch.m_model = nullptr;
+  m_watch.m_numbers.reset();
   m_watch.m_visits = 0;
 }
 

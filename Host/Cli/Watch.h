@@ -5,10 +5,12 @@
 #include <condition_variable>
 #include <cstdint>
 #include <mutex>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <thread>
 
+#include "Host/StepFile/EntityNumbers.h"
 #include "Host/StepFile/StepReader.h"
 #include "Qor/Id/Guid.h"
 
@@ -66,6 +68,7 @@ class Watch {
   std::atomic<bool> m_isBarShown = false;
   bool m_isDone = false;
   const step::ReadResult* m_model = nullptr;
+  mutable std::optional<step::EntityNumbers> m_numbers;  ///< made when the first object is named
   Guid m_guid;
   std::uint64_t m_visits = 0;  ///< 0 when at none
   std::thread m_thread;        ///< last: it uses all the others
