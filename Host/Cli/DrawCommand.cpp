@@ -120,7 +120,8 @@ void print(const DrawOptions& options, const Scene& scene, Console& console) {
   if (counts.objects == 0 && counts.blocks == 0)
     console.err
         << "fctool: nothing was drawn: what has a shape is hidden (--spaces, --openings and "
-           "--status show it) or belongs to no product (--id draws any one entity)\n";
+           "--status show it), couldn't be made (the lines above say why) or belongs to no product "
+           "(--id draws any one entity)\n";
   if (options.json) {
     nlohmann::ordered_json json{{"file", options.file.string()}, {"objects", counts.objects},
                                 {"blocks", counts.blocks},       {"triangles", counts.triangles},

@@ -100,8 +100,9 @@ void Watch::end() const {
 }
 
 Watch::Walk::Walk(Watch& watch, const step::ReadResult& model) : m_watch(watch) {
-  model.data->entityByGuid(
-      Guid());  // the index is made now, since the watch asks it from its thread
+  // What a model orders when it is asked is ordered now, since the watch asks from its own thread.
+  model.data->entityByGuid(Guid());
+  model.data->allEntities();
   const std::lock_guard lock(m_watch.m_mutex);
   m_watch.m_model = &model;
   m_watch.m_visits = 0;
