@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "Benchmarks/HeapInUse.h"
-#include "Fc/ComplexGeometry/FaceSetsFromShapes.h"
+#include "Fc/ComplexGeometry/Bridge/FaceSetsFromShapes.h"
 #include "Fc/ComplexGeometry/FcImplicitClippingTask.h"
 #include "Fc/FcParams.h"
 #include "Fc/Resource/GeometricModel/FcBlock.h"

@@ -8,4 +8,3 @@ foreach(toolkit TKMesh TKBO TKBool TKPrim TKShHealing TKTopAlgo TKGeomAlgo TKBRe
   find_library(OPENCASCADE_${toolkit} ${toolkit} REQUIRED)
   target_link_libraries(OpenCascadeModeling INTERFACE ${OPENCASCADE_${toolkit}})
 endforeach()
-install(TARGETS OpenCascadeModeling EXPORT FcTargets)

@@ -3,9 +3,8 @@
 #include <utility>
 
 #include "Fc/ComplexGeometry/CopyOfItem.h"
-#include "Fc/ComplexGeometry/FaceSetsFromShapes.h"
 #include "Fc/ComplexGeometry/FcPolygonalFaceSetResult.h"
-#include "Fc/ComplexGeometry/ShapesOfItem.h"
+#include "Fc/ComplexGeometry/SolidModeller.h"
 
 namespace qor::fc {
 
@@ -16,8 +15,9 @@ FcExplicitGeometryTask::FcExplicitGeometryTask(FcParams params,
 FcExplicitGeometryTask::~FcExplicitGeometryTask() = default;
 
 std::unique_ptr<FcComplexGeometryTaskResult> FcExplicitGeometryTask::process() const {
-  return std::make_unique<FcPolygonalFaceSetResult>(
-      faceSetsFromShapes(shapesOfItem(*m_item, params()), params().curveDiscretization()));
+  const auto* modeller = SolidModeller::get();
+  return std::make_unique<FcPolygonalFaceSetResult>(modeller ? modeller->faceSets(*m_item, params())
+                                                             : SolidModeller::FaceSets());
 }
 
 }  // namespace qor::fc

@@ -2,13 +2,11 @@
 
 #include <optional>
 
-#include "Fc/ComplexGeometry/BooleanOperations.h"
 #include "Fc/ComplexGeometry/CopyOfItem.h"
-#include "Fc/ComplexGeometry/FaceSetsFromShapes.h"
+#include "Fc/ComplexGeometry/ExpensiveTool.h"
 #include "Fc/ComplexGeometry/FcPolygonalFaceSetResult.h"
-#include "Fc/ComplexGeometry/ShapesOfItem.h"
+#include "Fc/ComplexGeometry/SolidModeller.h"
 #include "Qor/Math/Bounding.h"
-#include "Qor/Math/Epsilon.h"
 
 namespace qor::fc {
 namespace {
@@ -63,23 +61,15 @@ FcImplicitClippingTask::FcImplicitClippingTask(FcParams params, const Item& item
 FcImplicitClippingTask::~FcImplicitClippingTask() = default;
 
 std::unique_ptr<FcComplexGeometryTaskResult> FcImplicitClippingTask::process() const {
-  std::vector<TopoDS_Shape> shapes = shapesOfItem(*m_item, params());
-  if (shapes.empty()) return nullptr;
-  const math::Matrix inverse = m_itemMatrix.inverse();
-  std::vector<TopoDS_Shape> tools;
-  for (const auto& [clipItem, clipMatrix] : m_clipItems) {
-    if (params().skipExpensiveClipping && isExpensiveTool(*clipItem)) continue;
-    for (TopoDS_Shape& tool : shapesOfItem(*clipItem, params())) {
-      transformOpenCascadeShape(tool, clipMatrix * inverse);
-      if (!tool.IsNull()) tools.push_back(std::move(tool));
-    }
-  }
-  if (!tools.empty()) {
-    const double fuzzyValue = math::Epsilon::current().length;
-    for (TopoDS_Shape& shape : shapes) shape = cutShapes({shape}, tools, fuzzyValue);
-  }
-  return std::make_unique<FcPolygonalFaceSetResult>(
-      faceSetsFromShapes(shapes, params().curveDiscretization()));
+  const auto* modeller = SolidModeller::get();
+  if (!modeller) return nullptr;
+  std::vector<ClipItem> tools;
+  for (const ClipItem& clipItem : m_clipItems)
+    if (!params().skipExpensiveClipping || !isExpensiveTool(*clipItem.first))
+      tools.push_back(clipItem);
+  auto faceSets = modeller->cut({m_item, m_itemMatrix}, tools, params());
+  if (!faceSets) return nullptr;
+  return std::make_unique<FcPolygonalFaceSetResult>(std::move(*faceSets));
 }
 
 }  // namespace qor::fc

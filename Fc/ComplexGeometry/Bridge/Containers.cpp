@@ -3,9 +3,10 @@
 #include <TopoDS_Shape.hxx>
 #include <vector>
 
-#include "Fc/ComplexGeometry/Bridge/ConversionGuard.h"
+#include "Fc/ComplexGeometry/Bridge/ShapesOf.h"
 #include "Fc/FcParams.h"
 #include "Fc/HelperFunctionsOC.h"
+#include "Fc/Resource/ConversionGuard.h"
 #include "Fc/Resource/GeometricModel/FcCsgSolid.h"
 #include "Fc/Resource/Geometry/FcCartesianTransformationOperator.h"
 #include "Fc/Resource/Geometry/FcMappedItem.h"
@@ -15,8 +16,6 @@
 namespace qor::fc {
 namespace {
 
-using Shapes = std::vector<TopoDS_Shape>;
-
 void move(Shapes& shapes, const math::Matrix& matrix) {
   for (TopoDS_Shape& shape : shapes) transformOpenCascadeShape(shape, matrix);
 }
@@ -25,11 +24,11 @@ void move(Shapes& shapes, const math::Matrix& matrix) {
 
 namespace resource::geometry {
 
-Shapes FcMappedItem::ocRepresentation(const FcParams& params) const {
-  const ConversionGuard guard(this);
-  if (!guard.mayEnter() || !MappingSource() || !MappingTarget()) return {};
-  Shapes shapes = MappingSource()->ocRepresentation(params);
-  move(shapes, MappingTarget()->getTransformation());
+Shapes shapesOf(const FcMappedItem& item, const FcParams& params) {
+  const ConversionGuard guard(&item);
+  if (!guard.mayEnter() || !item.MappingSource() || !item.MappingTarget()) return {};
+  Shapes shapes = item.MappingSource()->ocRepresentation(params);
+  move(shapes, item.MappingTarget()->getTransformation());
   return shapes;
 }
 
@@ -44,10 +43,10 @@ Shapes FcRepresentationMap::ocRepresentation(const FcParams& params) const {
 
 namespace resource::geometricmodel {
 
-Shapes FcCsgSolid::ocRepresentation(const FcParams& params) const {
-  const ConversionGuard guard(this);
+Shapes shapesOf(const FcCsgSolid& item, const FcParams& params) {
+  const ConversionGuard guard(&item);
   if (!guard.mayEnter()) return {};
-  const auto root = rootItem();
+  const auto root = item.rootItem();
   return root ? root->ocRepresentation(params) : Shapes{};
 }
 

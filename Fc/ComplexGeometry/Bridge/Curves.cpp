@@ -13,8 +13,10 @@
 #include <stdexcept>
 
 #include "Fc/ComplexGeometry/Bridge/BSplineArrays.h"
+#include "Fc/ComplexGeometry/Bridge/FormOfClass.h"
 #include "Fc/ComplexGeometry/Bridge/Guarded.h"
-#include "Fc/ComplexGeometry/ocMemoizer.h"
+#include "Fc/ComplexGeometry/Bridge/OpenCascadeModeller.h"
+#include "Fc/ComplexGeometry/Bridge/ocMemoizer.h"
 #include "Fc/FcParams.h"
 #include "Fc/HelperFunctionsOC.h"
 #include "Fc/NotImplemented.h"
@@ -28,12 +30,13 @@
 #include "Fc/Resource/Report.h"
 #include "Qor/Math/Epsilon.h"
 
-namespace qor::fc::resource::geometry {
+namespace qor::fc {
+namespace resource::geometry {
 namespace {
 
 using CurveHandle = opencascade::handle<Geom_Curve>;
 
-OcCurve curveOf(const CurveHandle& curve) { return std::make_shared<CurveHandle>(curve); }
+OcCurve curveHandle(const CurveHandle& curve) { return std::make_shared<CurveHandle>(curve); }
 
 /// Degree 1 through the poles, one knot for each.
 Geom_Curve* polygonCurve(const TColgp_Array1OfPnt& poles) {
@@ -73,13 +76,115 @@ double parameterLength(const FcCurve& basis) {
   return line && line->Dir() ? static_cast<double>(line->Dir()->Magnitude()) : 1;
 }
 
-}  // namespace
-
-OcCurve FcCurve::ocCurve(ocMemoizer& /*memoizer*/) const {
-  assertNotImplemented("ocCurve() not implemented for class: ", *this,
-                       "resource::geometry::FcCurve::ocCurve");
-  return {};
+OcCurve curveOf(const FcLine& line) {
+  if (!line.Pnt() || !line.Dir() || !line.Dir()->Orientation()) {
+    report("Missing Pnt or Dir on FcLine", "qor::fc::resource::geometry::FcLine::ocCurve",
+           __LINE__);
+    return {};
+  }
+  const auto& ratios = line.Dir()->Orientation()->DirectionRatios();
+  return guarded<OcCurve>("Could not create OpenCascade line.", [&] {
+    return curveHandle(
+        GC_MakeLine(bspline::pole(line.Pnt()), gp_Dir(ratios[0], ratios[1], ratios[2])).Value());
+  });
 }
+
+// Throws `std::invalid_argument` for a placement that mirrors.
+OcCurve curveOf(const FcCircle& circle) {
+  const math::Matrix placement = circle.Position().transformationGet();
+  if (placement.isMirror()) {
+    throw std::invalid_argument(
+        "incoming placement is mirror: Open Cascade gp_Ax2 does not allow for mirroring");
+  }
+  return guarded<OcCurve>("Could not create OpenCascade circle.", [&] {
+    return curveHandle(new Geom_Circle(toOpenCascadeFrame(placement).Ax2(), circle.Radius()));
+  });
+}
+
+OcCurve curveOf(const FcPolyline& polyline) {
+  const char* const function = "qor::fc::resource::geometry::FcPolyline::ocCurve";
+  if (polyline.Points().size() < 2) {
+    report("FcPolyline should have more than one point", function, __LINE__);
+    return {};
+  }
+  for (const auto& point : polyline.Points()) {
+    if (point) continue;
+    report("FcPolyline::Points had a nullptr", function, __LINE__);
+    return {};
+  }
+  return guarded<OcCurve>("Could not create OpenCascade polyline.", [&] {
+    if (polyline.Points().size() > 2)
+      return curveHandle(polygonCurve(bspline::poles(polyline.Points())));
+    return curveHandle(
+        GC_MakeLine(bspline::pole(polyline.Points()[0]), bspline::pole(polyline.Points()[1]))
+            .Value());
+  });
+}
+
+OcCurve curveOf(const FcBSplineCurveWithKnots& spline) {
+  return guardedBSpline<OcCurve>("Could not create OpenCascade bspline curve.", [&] {
+    return curveHandle(new Geom_BSplineCurve(
+        bspline::poles(spline.ControlPointsList()),
+        bspline::numbers<TColStd_Array1OfReal>(spline.Knots()),
+        bspline::numbers<TColStd_Array1OfInteger>(spline.KnotMultiplicities()),
+        static_cast<int>(spline.Degree())));
+  });
+}
+
+OcCurve curveOf(const FcRationalBSplineCurveWithKnots& spline) {
+  return guardedBSpline<OcCurve>("Could not create OpenCascade rational bspline curve.", [&] {
+    return curveHandle(new Geom_BSplineCurve(
+        bspline::poles(spline.ControlPointsList()),
+        bspline::numbers<TColStd_Array1OfReal>(spline.WeightsData()),
+        bspline::numbers<TColStd_Array1OfReal>(spline.Knots()),
+        bspline::numbers<TColStd_Array1OfInteger>(spline.KnotMultiplicities()),
+        static_cast<int>(spline.Degree())));
+  });
+}
+
+// Null for ends at one place, and for a trim point that isn't on the basis curve.
+OcCurve curveOf(const FcTrimmedCurve& trimmed, ocMemoizer& memoizer) {
+  const char* const function = "qor::fc::resource::geometry::FcTrimmedCurve::ocCurve";
+  if (!trimmed.BasisCurve()) {
+    report("FcTrimmedCurve::BasisCurve missing.", function, __LINE__);
+    return {};
+  }
+  const OcCurve basis = memoizer.getCurve(*trimmed.BasisCurve());
+  if (!basis) return {};
+  return guarded<OcCurve>("Could not create OpenCascade trimmed curve.", [&]() -> OcCurve {
+    const bool preferPoint = trimmed.MasterRepresentation() == FcTrimmingPreference::CARTESIAN;
+    const double unit = parameterLength(*trimmed.BasisCurve());
+    const auto first = trimParameter(trimmed.Trim1(), preferPoint, *basis, unit);
+    const auto second = trimParameter(trimmed.Trim2(), preferPoint, *basis, unit);
+    if (!first || !second) {
+      report("A trim of FcTrimmedCurve is missing or not on its BasisCurve", function, __LINE__);
+      return {};
+    }
+    if (std::abs(*first - *second) <= math::Epsilon::current().general) {
+      report("Cannot use equal parameters", function, __LINE__);
+      return {};
+    }
+    return curveHandle(new Geom_TrimmedCurve(*basis, *first, *second, trimmed.SenseAgreement(), true));
+  });
+}
+
+class CurveForm : public FormOfClass<OcCurve> {
+ public:
+  explicit CurveForm(ocMemoizer& memoizer) : m_memoizer(memoizer) {}
+
+  using FormOfClass::visit;
+  bool visit(const FcLine& curve) override { return give(curveOf(curve)); }
+  bool visit(const FcCircle& curve) override { return give(curveOf(curve)); }
+  bool visit(const FcPolyline& curve) override { return give(curveOf(curve)); }
+  bool visit(const FcBSplineCurveWithKnots& curve) override { return give(curveOf(curve)); }
+  bool visit(const FcRationalBSplineCurveWithKnots& curve) override { return give(curveOf(curve)); }
+  bool visit(const FcTrimmedCurve& curve) override { return give(curveOf(curve, m_memoizer)); }
+
+ private:
+  ocMemoizer& m_memoizer;
+};
+
+}  // namespace
 
 TopoDS_Wire FcCurve::ocDiscretizedCurve(const FcParams& params) const {
   const std::vector<math::Point3d> points = curveGet(params, {}, {}, false);
@@ -89,95 +194,14 @@ TopoDS_Wire FcCurve::ocDiscretizedCurve(const FcParams& params) const {
   return {};
 }
 
-std::vector<TopoDS_Shape> FcCurve::ocRepresentation(const FcParams& params) const {
-  const TopoDS_Wire wire = ocDiscretizedCurve(params);
-  if (wire.IsNull()) return {};
-  return {wire};
+}  // namespace resource::geometry
+
+OcCurve OpenCascadeModeller::curve(const resource::geometry::FcCurve& curve,
+                                   ocMemoizer& memoizer) const {
+  if (auto form = resource::geometry::CurveForm(memoizer).of(curve)) return *std::move(form);
+  assertNotImplemented("ocCurve() not implemented for class: ", curve,
+                       "resource::geometry::FcCurve::ocCurve");
+  return {};
 }
 
-OcCurve FcLine::ocCurve(ocMemoizer& /*memoizer*/) const {
-  if (!Pnt() || !Dir() || !Dir()->Orientation()) {
-    report("Missing Pnt or Dir on FcLine", "qor::fc::resource::geometry::FcLine::ocCurve",
-           __LINE__);
-    return {};
-  }
-  const auto& ratios = Dir()->Orientation()->DirectionRatios();
-  return guarded<OcCurve>("Could not create OpenCascade line.", [&] {
-    return curveOf(
-        GC_MakeLine(bspline::pole(Pnt()), gp_Dir(ratios[0], ratios[1], ratios[2])).Value());
-  });
-}
-
-OcCurve FcCircle::ocCurve(ocMemoizer& /*memoizer*/) const {
-  const math::Matrix placement = Position().transformationGet();
-  if (placement.isMirror()) {
-    throw std::invalid_argument(
-        "incoming placement is mirror: Open Cascade gp_Ax2 does not allow for mirroring");
-  }
-  return guarded<OcCurve>("Could not create OpenCascade circle.", [&] {
-    return curveOf(new Geom_Circle(toOpenCascadeFrame(placement).Ax2(), Radius()));
-  });
-}
-
-OcCurve FcPolyline::ocCurve(ocMemoizer& /*memoizer*/) const {
-  const char* const function = "qor::fc::resource::geometry::FcPolyline::ocCurve";
-  if (Points().size() < 2) {
-    report("FcPolyline should have more than one point", function, __LINE__);
-    return {};
-  }
-  for (const auto& point : Points()) {
-    if (point) continue;
-    report("FcPolyline::Points had a nullptr", function, __LINE__);
-    return {};
-  }
-  return guarded<OcCurve>("Could not create OpenCascade polyline.", [&] {
-    if (Points().size() > 2) return curveOf(polygonCurve(bspline::poles(Points())));
-    return curveOf(GC_MakeLine(bspline::pole(Points()[0]), bspline::pole(Points()[1])).Value());
-  });
-}
-
-OcCurve FcBSplineCurveWithKnots::ocCurve(ocMemoizer& /*memoizer*/) const {
-  return guardedBSpline<OcCurve>("Could not create OpenCascade bspline curve.", [&] {
-    return curveOf(new Geom_BSplineCurve(
-        bspline::poles(ControlPointsList()), bspline::numbers<TColStd_Array1OfReal>(Knots()),
-        bspline::numbers<TColStd_Array1OfInteger>(KnotMultiplicities()),
-        static_cast<int>(Degree())));
-  });
-}
-
-OcCurve FcRationalBSplineCurveWithKnots::ocCurve(ocMemoizer& /*memoizer*/) const {
-  return guardedBSpline<OcCurve>("Could not create OpenCascade rational bspline curve.", [&] {
-    return curveOf(new Geom_BSplineCurve(
-        bspline::poles(ControlPointsList()), bspline::numbers<TColStd_Array1OfReal>(WeightsData()),
-        bspline::numbers<TColStd_Array1OfReal>(Knots()),
-        bspline::numbers<TColStd_Array1OfInteger>(KnotMultiplicities()),
-        static_cast<int>(Degree())));
-  });
-}
-
-OcCurve FcTrimmedCurve::ocCurve(ocMemoizer& memoizer) const {
-  const char* const function = "qor::fc::resource::geometry::FcTrimmedCurve::ocCurve";
-  if (!BasisCurve()) {
-    report("FcTrimmedCurve::BasisCurve missing.", function, __LINE__);
-    return {};
-  }
-  const OcCurve basis = memoizer.getCurve(*BasisCurve());
-  if (!basis) return {};
-  return guarded<OcCurve>("Could not create OpenCascade trimmed curve.", [&]() -> OcCurve {
-    const bool preferPoint = MasterRepresentation() == FcTrimmingPreference::CARTESIAN;
-    const double unit = parameterLength(*BasisCurve());
-    const auto first = trimParameter(Trim1(), preferPoint, *basis, unit);
-    const auto second = trimParameter(Trim2(), preferPoint, *basis, unit);
-    if (!first || !second) {
-      report("A trim of FcTrimmedCurve is missing or not on its BasisCurve", function, __LINE__);
-      return {};
-    }
-    if (std::abs(*first - *second) <= math::Epsilon::current().general) {
-      report("Cannot use equal parameters", function, __LINE__);
-      return {};
-    }
-    return curveOf(new Geom_TrimmedCurve(*basis, *first, *second, SenseAgreement(), true));
-  });
-}
-
-}  // namespace qor::fc::resource::geometry
+}  // namespace qor::fc

@@ -7,8 +7,10 @@
 #include <TopoDS_Vertex.hxx>
 #include <memory>
 
+#include "Fc/ComplexGeometry/Bridge/FormOfClass.h"
 #include "Fc/ComplexGeometry/Bridge/Guarded.h"
-#include "Fc/ComplexGeometry/ocMemoizer.h"
+#include "Fc/ComplexGeometry/Bridge/OpenCascadeModeller.h"
+#include "Fc/ComplexGeometry/Bridge/ocMemoizer.h"
 #include "Fc/HelperFunctionsOC.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
 #include "Fc/Resource/Geometry/FcCurve.h"
@@ -20,7 +22,8 @@
 #include "Fc/Resource/Topology/FcVertexPoint.h"
 #include "Qor/Math/Epsilon.h"
 
-namespace qor::fc::resource::topology {
+namespace qor::fc {
+namespace resource::topology {
 namespace {
 
 using Edge = std::shared_ptr<TopoDS_Edge>;
@@ -56,16 +59,8 @@ Edge made(BRepBuilderAPI_MakeEdge maker, bool forward) {
   return edge;
 }
 
-}  // namespace
-
-Vertex FcVertex::ocVertex(ocMemoizer& /*memoizer*/) const {
-  report("Cannot create point of FcVertex. FcVertexPoint should be used.",
-         "qor::fc::resource::topology::FcVertex::ocVertex", __LINE__);
-  return {};
-}
-
-Vertex FcVertexPoint::ocVertex(ocMemoizer& /*memoizer*/) const {
-  const auto point = fcCast<geometry::FcCartesianPoint>(VertexGeometry());
+Vertex vertexOf(const FcVertexPoint& vertexPoint) {
+  const auto point = fcCast<geometry::FcCartesianPoint>(vertexPoint.VertexGeometry());
   if (!point) {
     report("Missing FcVertexPoint::VertexGeometry",
            "qor::fc::resource::topology::FcVertexPoint::ocVertex", __LINE__);
@@ -80,43 +75,73 @@ Vertex FcVertexPoint::ocVertex(ocMemoizer& /*memoizer*/) const {
   });
 }
 
-Edge FcEdge::ocEdge(ocMemoizer& memoizer) const {
-  const Ends ends = endsOf(*this, memoizer);
+Edge edgeOf(const FcEdge& edge, ocMemoizer& memoizer) {
+  const Ends ends = endsOf(edge, memoizer);
   if (!ends.start) return {};
   return guarded<Edge>(kFailed,
                        [&] { return made(BRepBuilderAPI_MakeEdge(*ends.start, *ends.end), true); });
 }
 
-Edge FcEdgeCurve::ocEdge(ocMemoizer& memoizer) const {
-  const Ends ends = endsOf(*this, memoizer);
+Edge edgeOf(const FcEdgeCurve& edge, ocMemoizer& memoizer) {
+  const Ends ends = endsOf(edge, memoizer);
   if (!ends.start) return {};
-  if (!EdgeGeometry()) {
+  if (!edge.EdgeGeometry()) {
     report("Missing FcEdgeCurve::EdgeGeometry", "qor::fc::resource::topology::FcEdgeCurve::ocEdge",
            __LINE__);
     return {};
   }
-  const OcCurve curve = memoizer.getCurve(*EdgeGeometry());
+  const OcCurve curve = memoizer.getCurve(*edge.EdgeGeometry());
   if (!curve) return {};
   return guarded<Edge>(kFailed, [&]() -> Edge {
-    if (ends.start == ends.end) return made(BRepBuilderAPI_MakeEdge(*curve), SameSense());
+    if (ends.start == ends.end) return made(BRepBuilderAPI_MakeEdge(*curve), edge.SameSense());
     // The vertices stand in the sense of the edge; the modeller takes them in that of the curve.
-    const TopoDS_Vertex& first = SameSense() ? *ends.start : *ends.end;
-    const TopoDS_Vertex& last = SameSense() ? *ends.end : *ends.start;
-    return made(BRepBuilderAPI_MakeEdge(*curve, first, last), SameSense());
+    const TopoDS_Vertex& first = edge.SameSense() ? *ends.start : *ends.end;
+    const TopoDS_Vertex& last = edge.SameSense() ? *ends.end : *ends.start;
+    return made(BRepBuilderAPI_MakeEdge(*curve, first, last), edge.SameSense());
   });
 }
 
-Edge FcOrientedEdge::ocEdge(ocMemoizer& memoizer) const {
-  if (!EdgeElement()) {
+Edge edgeOf(const FcOrientedEdge& oriented, ocMemoizer& memoizer) {
+  if (!oriented.EdgeElement()) {
     report("Missing FcOrientedEdge::EdgeElement",
            "qor::fc::resource::topology::FcOrientedEdge::ocEdge", __LINE__);
     return {};
   }
-  const Edge element = memoizer.getEdge(*EdgeElement());
+  const Edge element = memoizer.getEdge(*oriented.EdgeElement());
   if (!element) return {};
   auto edge = std::make_shared<TopoDS_Edge>(*element);
-  if (!Orientation()) reverse(*edge);
+  if (!oriented.Orientation()) reverse(*edge);
   return edge;
 }
 
-}  // namespace qor::fc::resource::topology
+class EdgeForm : public FormOfClass<Edge> {
+ public:
+  explicit EdgeForm(ocMemoizer& memoizer) : m_memoizer(memoizer) {}
+
+  using FormOfClass::visit;
+  bool visit(const FcEdge& edge) override { return give(edgeOf(edge, m_memoizer)); }
+  bool visit(const FcEdgeCurve& edge) override { return give(edgeOf(edge, m_memoizer)); }
+  bool visit(const FcOrientedEdge& edge) override { return give(edgeOf(edge, m_memoizer)); }
+
+ private:
+  ocMemoizer& m_memoizer;
+};
+
+}  // namespace
+}  // namespace resource::topology
+
+std::shared_ptr<TopoDS_Edge> OpenCascadeModeller::edge(const resource::topology::FcEdge& edge,
+                                                       ocMemoizer& memoizer) const {
+  return resource::topology::EdgeForm(memoizer).of(edge).value_or(nullptr);
+}
+
+std::shared_ptr<TopoDS_Vertex> OpenCascadeModeller::vertex(
+    const resource::topology::FcVertex& vertex, ocMemoizer& /*memoizer*/) const {
+  if (const auto* point = fcCast<resource::topology::FcVertexPoint>(&vertex))
+    return resource::topology::vertexOf(*point);
+  resource::report("Cannot create point of FcVertex. FcVertexPoint should be used.",
+                   "qor::fc::resource::topology::FcVertex::ocVertex", __LINE__);
+  return {};
+}
+
+}  // namespace qor::fc

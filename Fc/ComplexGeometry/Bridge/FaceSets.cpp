@@ -6,10 +6,11 @@
 #include <TopoDS_Wire.hxx>
 #include <utility>
 
+#include "Fc/ComplexGeometry/Bridge/FaceSetsFromShapes.h"
 #include "Fc/ComplexGeometry/Bridge/PlanarFace.h"
 #include "Fc/ComplexGeometry/Bridge/PolyhedronMaker.h"
+#include "Fc/ComplexGeometry/Bridge/ShapesOf.h"
 #include "Fc/ComplexGeometry/Bridge/Solids.h"
-#include "Fc/ComplexGeometry/FaceSetsFromShapes.h"
 #include "Fc/HelperFunctionsOC.h"
 #include "Fc/Resource/GeometricModel/FcPolygonalFaceSet.h"
 #include "Fc/Resource/GeometricModel/FcTriangulatedFaceSet.h"
@@ -57,7 +58,7 @@ TopoDS_Shape sewn(const std::vector<Polygon>& polygons, const char* function) {
   return solidsOfClosedShells(faces.SewedShape());
 }
 
-std::vector<TopoDS_Shape> shapeOf(const std::vector<Polygon>& polygons, const char* function) {
+Shapes shapeOf(const std::vector<Polygon>& polygons, const char* function) {
   return {tryOpenCascadeConstruction<TopoDS_Shape>(
       [&] {
         PolyhedronMaker polyhedron;
@@ -70,16 +71,15 @@ std::vector<TopoDS_Shape> shapeOf(const std::vector<Polygon>& polygons, const ch
 
 }  // namespace
 
-std::vector<TopoDS_Shape> FcPolygonalFaceSet::ocRepresentation(const FcParams& /*params*/) const {
+Shapes shapesOf(const FcPolygonalFaceSet& item, const FcParams& /*params*/) {
   std::vector<Polygon> polygons;
-  forEachPolygon([&](const Polygon& polygon) { polygons.push_back(polygon); });
+  item.forEachPolygon([&](const Polygon& polygon) { polygons.push_back(polygon); });
   return shapeOf(polygons,
                  "qor::fc::resource::geometricmodel::FcPolygonalFaceSet::ocRepresentation");
 }
 
-std::vector<TopoDS_Shape> FcTriangulatedFaceSet::ocRepresentation(
-    const FcParams& /*params*/) const {
-  const auto triangles = createQorTriangulatedFaceSet();
+Shapes shapesOf(const FcTriangulatedFaceSet& item, const FcParams& /*params*/) {
+  const auto triangles = item.createQorTriangulatedFaceSet();
   if (!triangles) return {};
   const std::vector<math::Point3d>& points = triangles->coordinates();
   std::vector<Polygon> polygons;
@@ -90,7 +90,7 @@ std::vector<TopoDS_Shape> FcTriangulatedFaceSet::ocRepresentation(
 }
 
 std::vector<generate::draw::PolygonalFaceSetOpenGL> FcPolygonalFaceSet::getFaceSetsFromShapes(
-    const std::vector<TopoDS_Shape>& shapes, const math::CurveDiscretization& discretization) {
+    const Shapes& shapes, const math::CurveDiscretization& discretization) {
   return faceSetsFromShapes(shapes, discretization);
 }
 

@@ -10,7 +10,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "Fc/ComplexGeometry/PointMerger.h"
+#include "Fc/ComplexGeometry/Bridge/PointMerger.h"
 #include "Qor/Math/Point.h"
 #include "Qor/Math/Vector.h"
 

@@ -9,6 +9,7 @@
 #include <functional>
 #include <string>
 
+#include "Fc/ComplexGeometry/Bridge/ShapesOf.h"
 #include "Fc/HelperFunctionsOC.h"
 #include "Fc/Resource/GeometricModel/FcBlock.h"
 #include "Fc/Resource/GeometricModel/FcBoundingBox.h"
@@ -23,9 +24,8 @@ namespace qor::fc::resource::geometricmodel {
 namespace {
 
 // The one shape of a primitive, moved by its position. `operation` begins both messages.
-std::vector<TopoDS_Shape> primitive(const FcCsgPrimitive3D& item, const std::string& operation,
-                                    const std::string& failure,
-                                    const std::function<TopoDS_Shape()>& make) {
+Shapes primitive(const FcCsgPrimitive3D& item, const std::string& operation,
+                 const std::string& failure, const std::function<TopoDS_Shape()>& make) {
   TopoDS_Shape shape = tryOpenCascadeConstruction<TopoDS_Shape>(
       make, operation + failure, operation + " did not fail, but the resulting shape is Null.");
   if (item.Position()) transformOpenCascadeShape(shape, item.Position()->placementGet());
@@ -40,20 +40,21 @@ constexpr const char* kFailedOrNoSolid = " failed or result is no solid.";
 
 }  // namespace
 
-std::vector<TopoDS_Shape> FcBlock::ocRepresentation(const FcParams& /*params*/) const {
-  if (!ValidXYZLengths()) return {};
-  return primitive(*this, kBox, kFailed,
-                   [this] { return BRepPrimAPI_MakeBox(XLength(), YLength(), ZLength()).Solid(); });
+Shapes shapesOf(const FcBlock& item, const FcParams& /*params*/) {
+  if (!item.ValidXYZLengths()) return {};
+  return primitive(item, kBox, kFailed, [&] {
+    return BRepPrimAPI_MakeBox(item.XLength(), item.YLength(), item.ZLength()).Solid();
+  });
 }
 
-std::vector<TopoDS_Shape> FcBoundingBox::ocRepresentation(const FcParams& params) const {
+Shapes shapesOf(const FcBoundingBox& item, const FcParams& params) {
   FcBlock block;
-  block.setXLength(XDim());
-  block.setYLength(YDim());
-  block.setZLength(ZDim());
-  std::vector<TopoDS_Shape> shapes = block.ocRepresentation(params);
-  if (Corner()) {
-    const math::Point3d corner = Corner()->point();
+  block.setXLength(item.XDim());
+  block.setYLength(item.YDim());
+  block.setZLength(item.ZDim());
+  Shapes shapes = shapesOf(block, params);
+  if (item.Corner()) {
+    const math::Point3d corner = item.Corner()->point();
     for (TopoDS_Shape& shape : shapes)
       transformOpenCascadeShape(shape,
                                 math::Matrix::createTranslation({corner.x, corner.y, corner.z}));
@@ -61,30 +62,30 @@ std::vector<TopoDS_Shape> FcBoundingBox::ocRepresentation(const FcParams& params
   return shapes;
 }
 
-std::vector<TopoDS_Shape> FcRectangularPyramid::ocRepresentation(const FcParams& /*params*/) const {
-  if (!ValidXYLengthsHeight()) return {};
-  return primitive(*this, kWedge, kFailed, [this] {
+Shapes shapesOf(const FcRectangularPyramid& item, const FcParams& /*params*/) {
+  if (!item.ValidXYLengthsHeight()) return {};
+  return primitive(item, kWedge, kFailed, [&] {
     // The wedge rises along its Y axis: it is built lying, and its frame turned upright.
-    const double x = XLength(), y = YLength();
+    const double x = item.XLength(), y = item.YLength();
     const gp_Ax2 upright(gp_Pnt(0, y, 0), gp_Dir(0, -1, 0), gp_Dir(1, 0, 0));
-    return BRepPrimAPI_MakeWedge(upright, x, Height(), y, x / 2, y / 2, x / 2, y / 2).Solid();
+    return BRepPrimAPI_MakeWedge(upright, x, item.Height(), y, x / 2, y / 2, x / 2, y / 2).Solid();
   });
 }
 
-std::vector<TopoDS_Shape> FcRightCircularCone::ocRepresentation(const FcParams& /*params*/) const {
-  return primitive(*this, kRound, kFailedOrNoSolid,
-                   [this] { return BRepPrimAPI_MakeCone(BottomRadius(), 0, Height()).Shape(); });
+Shapes shapesOf(const FcRightCircularCone& item, const FcParams& /*params*/) {
+  return primitive(item, kRound, kFailedOrNoSolid, [&] {
+    return BRepPrimAPI_MakeCone(item.BottomRadius(), 0, item.Height()).Shape();
+  });
 }
 
-std::vector<TopoDS_Shape> FcRightCircularCylinder::ocRepresentation(
-    const FcParams& /*params*/) const {
-  return primitive(*this, kRound, kFailedOrNoSolid,
-                   [this] { return BRepPrimAPI_MakeCylinder(Radius(), Height()).Shape(); });
+Shapes shapesOf(const FcRightCircularCylinder& item, const FcParams& /*params*/) {
+  return primitive(item, kRound, kFailedOrNoSolid,
+                   [&] { return BRepPrimAPI_MakeCylinder(item.Radius(), item.Height()).Shape(); });
 }
 
-std::vector<TopoDS_Shape> FcSphere::ocRepresentation(const FcParams& /*params*/) const {
-  return primitive(*this, kBox, kFailed,
-                   [this] { return BRepPrimAPI_MakeSphere(gp_Pnt(), Radius()).Solid(); });
+Shapes shapesOf(const FcSphere& item, const FcParams& /*params*/) {
+  return primitive(item, kBox, kFailed,
+                   [&] { return BRepPrimAPI_MakeSphere(gp_Pnt(), item.Radius()).Solid(); });
 }
 
 }  // namespace qor::fc::resource::geometricmodel

@@ -8,13 +8,15 @@
 #include <TopoDS_Wire.hxx>
 #include <gp_Circ.hxx>
 
-#include "Fc/ComplexGeometry/Bridge/ConversionGuard.h"
+#include "Fc/ComplexGeometry/Bridge/FormOfClass.h"
 #include "Fc/ComplexGeometry/Bridge/Guarded.h"
+#include "Fc/ComplexGeometry/Bridge/OpenCascadeModeller.h"
 #include "Fc/ComplexGeometry/Bridge/PlanarFace.h"
-#include "Fc/ComplexGeometry/ocMemoizer.h"
+#include "Fc/ComplexGeometry/Bridge/ocMemoizer.h"
 #include "Fc/FcParams.h"
 #include "Fc/HelperFunctionsOC.h"
 #include "Fc/NotImplemented.h"
+#include "Fc/Resource/ConversionGuard.h"
 #include "Fc/Resource/Geometry/FcBoundedCurve.h"
 #include "Fc/Resource/Profile/FcArbitraryOpenProfileDef.h"
 #include "Fc/Resource/Profile/FcArbitraryProfileDefWithVoids.h"
@@ -27,7 +29,8 @@
 #include "Qor/Math/Epsilon.h"
 #include "Qor/Math/PointFactory.h"
 
-namespace qor::fc::resource::profile {
+namespace qor::fc {
+namespace resource::profile {
 namespace {
 
 using Faces = std::vector<TopoDS_Face>;
@@ -84,69 +87,53 @@ TopoDS_Wire outerWire(const FcArbitraryClosedProfileDef& profile, const FcParams
   return wire;
 }
 
-}  // namespace
-
-Faces FcProfileDef::ocProfile(const FcParams& /*params*/) const {
-  assertNotImplemented("ocProfile(const qor::fc::FcParams&) not implemented for class: ", *this,
-                       "resource::profile::FcProfileDef::ocProfile");
-  return {};
-}
-
-OcCurve FcProfileDef::ocCurve(ocMemoizer& /*memoizer*/) const {
-  assertNotImplemented("ocCurve() not implemented for class: ", *this,
-                       "resource::profile::FcProfileDef::ocCurve");
-  return {};
-}
-
-Faces FcArbitraryClosedProfileDef::ocProfile(const FcParams& params) const {
-  const TopoDS_Wire wire = outerWire(*this, params);
+Faces facesOf(const FcArbitraryClosedProfileDef& profile, const FcParams& params) {
+  const TopoDS_Wire wire = outerWire(profile, params);
   if (wire.IsNull()) return {};
   return oneFace([&] { return faceWithin(wire, {}, false); });
 }
 
-OcCurve FcArbitraryClosedProfileDef::ocCurve(ocMemoizer& memoizer) const {
-  return OuterCurve() ? memoizer.getCurve(*OuterCurve()) : nullptr;
+OcCurve curveOf(const FcArbitraryClosedProfileDef& profile, ocMemoizer& memoizer) {
+  return profile.OuterCurve() ? memoizer.getCurve(*profile.OuterCurve()) : nullptr;
 }
 
-OcCurve FcArbitraryOpenProfileDef::ocCurve(ocMemoizer& memoizer) const {
-  return Curve() ? memoizer.getCurve(*Curve()) : nullptr;
+OcCurve curveOf(const FcArbitraryOpenProfileDef& profile, ocMemoizer& memoizer) {
+  return profile.Curve() ? memoizer.getCurve(*profile.Curve()) : nullptr;
 }
 
-Faces FcArbitraryProfileDefWithVoids::ocProfile(const FcParams& params) const {
-  const TopoDS_Wire wire = outerWire(*this, params);
+Faces facesOf(const FcArbitraryProfileDefWithVoids& profile, const FcParams& params) {
+  const TopoDS_Wire wire = outerWire(profile, params);
   if (wire.IsNull()) return {};
   std::vector<TopoDS_Wire> holes;
-  for (const auto& curve : InnerCurves()) {
+  for (const auto& curve : profile.InnerCurves()) {
     const TopoDS_Wire hole = curve ? curve->ocDiscretizedCurve(params) : TopoDS_Wire();
     if (!hole.IsNull()) holes.push_back(hole);
   }
   return oneFace([&] { return faceWithin(wire, holes, false); });
 }
 
-Faces FcCenterLineProfileDef::ocProfile(const FcParams& params) const {
-  return facesOf(closedProfile(params));
-}
-
-Faces FcCircleProfileDef::ocProfile(const FcParams& /*params*/) const {
-  return oneFace(
-      [&] { return BRepBuilderAPI_MakeFace(circle(validPosition(), Radius()), false).Face(); });
-}
-
-Faces FcCircleHollowProfileDef::ocProfile(const FcParams& params) const {
-  const double inner = Radius() - WallThickness();
-  if (inner <= math::Epsilon::current().length) return FcCircleProfileDef::ocProfile(params);
+Faces facesOf(const FcCircleProfileDef& profile) {
   return oneFace([&] {
-    BRepBuilderAPI_MakeFace face(circle(validPosition(), Radius()), false);
-    face.Add(TopoDS::Wire(circle(validPosition(), inner).Reversed()));
+    return BRepBuilderAPI_MakeFace(circle(profile.validPosition(), profile.Radius()), false).Face();
+  });
+}
+
+Faces facesOf(const FcCircleHollowProfileDef& profile) {
+  const double inner = profile.Radius() - profile.WallThickness();
+  if (inner <= math::Epsilon::current().length)
+    return facesOf(static_cast<const FcCircleProfileDef&>(profile));
+  return oneFace([&] {
+    BRepBuilderAPI_MakeFace face(circle(profile.validPosition(), profile.Radius()), false);
+    face.Add(TopoDS::Wire(circle(profile.validPosition(), inner).Reversed()));
     return face.Face();
   });
 }
 
-Faces FcCompositeProfileDef::ocProfile(const FcParams& params) const {
+Faces facesOf(const FcCompositeProfileDef& composite, const FcParams& params) {
   Faces faces;
-  const ConversionGuard guard(this);
+  const ConversionGuard guard(&composite);
   if (!guard.mayEnter()) return faces;
-  for (const auto& profile : Profiles()) {
+  for (const auto& profile : composite.Profiles()) {
     if (!profile) continue;
     const Faces part = profile->ocProfile(params);
     faces.insert(faces.end(), part.begin(), part.end());
@@ -154,12 +141,67 @@ Faces FcCompositeProfileDef::ocProfile(const FcParams& params) const {
   return faces;
 }
 
-Faces FcDerivedProfileDef::ocProfile(const FcParams& params) const {
-  return facesOf(closedProfile(params));
+class FaceForm : public FormOfClass<Faces> {
+ public:
+  explicit FaceForm(const FcParams& params) : m_params(params) {}
+
+  using FormOfClass::visit;
+  bool visit(const FcArbitraryClosedProfileDef& profile) override {
+    return give(facesOf(profile, m_params));
+  }
+  bool visit(const FcArbitraryProfileDefWithVoids& profile) override {
+    return give(facesOf(profile, m_params));
+  }
+  bool visit(const FcCenterLineProfileDef& profile) override { return giveContours(profile); }
+  bool visit(const FcCircleProfileDef& profile) override { return give(facesOf(profile)); }
+  bool visit(const FcCircleHollowProfileDef& profile) override { return give(facesOf(profile)); }
+  bool visit(const FcCompositeProfileDef& profile) override {
+    return give(facesOf(profile, m_params));
+  }
+  bool visit(const FcDerivedProfileDef& profile) override { return giveContours(profile); }
+  bool visit(const FcParameterizedProfileDef& profile) override { return giveContours(profile); }
+
+ private:
+  bool giveContours(const FcProfileDef& profile) {
+    return give(facesOf(profile.closedProfile(m_params)));
+  }
+
+  const FcParams& m_params;
+};
+
+class CurveForm : public FormOfClass<OcCurve> {
+ public:
+  explicit CurveForm(ocMemoizer& memoizer) : m_memoizer(memoizer) {}
+
+  using FormOfClass::visit;
+  bool visit(const FcArbitraryClosedProfileDef& profile) override {
+    return give(curveOf(profile, m_memoizer));
+  }
+  bool visit(const FcArbitraryOpenProfileDef& profile) override {
+    return give(curveOf(profile, m_memoizer));
+  }
+
+ private:
+  ocMemoizer& m_memoizer;
+};
+
+}  // namespace
+}  // namespace resource::profile
+
+std::vector<TopoDS_Face> OpenCascadeModeller::faces(const resource::profile::FcProfileDef& profile,
+                                                    const FcParams& params) const {
+  if (auto form = resource::profile::FaceForm(params).of(profile)) return *std::move(form);
+  assertNotImplemented("ocProfile(const qor::fc::FcParams&) not implemented for class: ", profile,
+                       "resource::profile::FcProfileDef::ocProfile");
+  return {};
 }
 
-Faces FcParameterizedProfileDef::ocProfile(const FcParams& params) const {
-  return facesOf(closedProfile(params));
+OcCurve OpenCascadeModeller::curve(const resource::profile::FcProfileDef& profile,
+                                   ocMemoizer& memoizer) const {
+  if (auto form = resource::profile::CurveForm(memoizer).of(profile)) return *std::move(form);
+  assertNotImplemented("ocCurve() not implemented for class: ", profile,
+                       "resource::profile::FcProfileDef::ocCurve");
+  return {};
 }
 
-}  // namespace qor::fc::resource::profile
+}  // namespace qor::fc

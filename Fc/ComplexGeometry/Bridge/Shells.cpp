@@ -17,8 +17,9 @@
 
 #include "Fc/ComplexGeometry/Bridge/PlanarFace.h"
 #include "Fc/ComplexGeometry/Bridge/PolyhedronMaker.h"
+#include "Fc/ComplexGeometry/Bridge/ShapesOf.h"
 #include "Fc/ComplexGeometry/Bridge/Solids.h"
-#include "Fc/ComplexGeometry/ocMemoizer.h"
+#include "Fc/ComplexGeometry/Bridge/ocMemoizer.h"
 #include "Fc/FcParams.h"
 #include "Fc/HelperFunctionsOC.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
@@ -33,7 +34,6 @@
 #include "Fc/Resource/Topology/FcOpenShell.h"
 #include "Fc/Resource/Topology/FcOrientedEdge.h"
 #include "Fc/Resource/Topology/FcPolyLoop.h"
-#include "Fc/Resource/Topology/FcShell.h"
 #include "Qor/Math/Epsilon.h"
 
 namespace qor::fc::resource::topology {
@@ -200,21 +200,16 @@ TopoDS_Shape sewn(const std::vector<std::shared_ptr<FcFace>>& faces) {
 
 }  // namespace
 
-std::vector<TopoDS_Shape> FcConnectedFaceSet::ocRepresentation(const FcParams& params) const {
+Shapes shapesOf(const FcConnectedFaceSet& item, const FcParams& params) {
   TopoDS_Shape shape;
   guardOpenCascade(
       [&] {
-        shape = polyhedron(CfsFaces(), params);
-        if (shape.IsNull()) shape = sewn(CfsFaces());
+        shape = polyhedron(item.CfsFaces(), params);
+        if (shape.IsNull()) shape = sewn(item.CfsFaces());
       },
       "Something went wrong in construction of a OpenCascade shell.");
   if (shape.IsNull()) return {};
   return {shape};
-}
-
-std::vector<TopoDS_Shape> FcShell::ocRepresentation(const FcParams& params) const {
-  const auto* shell = fcCast<FcConnectedFaceSet>(getEntity());
-  return shell ? shell->ocRepresentation(params) : std::vector<TopoDS_Shape>();
 }
 
 }  // namespace qor::fc::resource::topology

@@ -2,6 +2,7 @@
 
 #include <TopoDS_Shape.hxx>
 
+#include "Fc/ComplexGeometry/Bridge/ShapesOf.h"
 #include "Fc/FcParams.h"
 #include "Fc/Resource/GeometricModel/FcFaceBasedSurfaceModel.h"
 #include "Fc/Resource/GeometricModel/FcManifoldSolidBrep.h"
@@ -12,25 +13,25 @@
 
 namespace qor::fc::resource::geometricmodel {
 
-std::vector<TopoDS_Shape> FcManifoldSolidBrep::ocRepresentation(const FcParams& params) const {
-  if (Outer()) return Outer()->ocRepresentation(params);
+Shapes shapesOf(const FcManifoldSolidBrep& item, const FcParams& params) {
+  if (item.Outer()) return item.Outer()->ocRepresentation(params);
   report("Outer should exist",
          "qor::fc::resource::geometricmodel::FcManifoldSolidBrep::ocRepresentation", __LINE__);
   return {};
 }
 
-std::vector<TopoDS_Shape> FcShellBasedSurfaceModel::ocRepresentation(const FcParams& params) const {
-  std::vector<TopoDS_Shape> shapes;
-  for (const topology::FcShell& shell : SbsmBoundary()) {
+Shapes shapesOf(const FcShellBasedSurfaceModel& item, const FcParams& params) {
+  Shapes shapes;
+  for (const topology::FcShell& shell : item.SbsmBoundary()) {
     const auto more = shell.ocRepresentation(params);
     shapes.insert(shapes.end(), more.begin(), more.end());
   }
   return shapes;
 }
 
-std::vector<TopoDS_Shape> FcFaceBasedSurfaceModel::ocRepresentation(const FcParams& params) const {
-  std::vector<TopoDS_Shape> shapes;
-  for (const auto& faces : FbsmFaces()) {
+Shapes shapesOf(const FcFaceBasedSurfaceModel& item, const FcParams& params) {
+  Shapes shapes;
+  for (const auto& faces : item.FbsmFaces()) {
     if (!faces) continue;
     const auto more = faces->ocRepresentation(params);
     shapes.insert(shapes.end(), more.begin(), more.end());

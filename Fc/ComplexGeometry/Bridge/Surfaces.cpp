@@ -10,8 +10,10 @@
 #include <gp_Ax1.hxx>
 
 #include "Fc/ComplexGeometry/Bridge/BSplineArrays.h"
+#include "Fc/ComplexGeometry/Bridge/FormOfClass.h"
 #include "Fc/ComplexGeometry/Bridge/Guarded.h"
-#include "Fc/ComplexGeometry/ocMemoizer.h"
+#include "Fc/ComplexGeometry/Bridge/OpenCascadeModeller.h"
+#include "Fc/ComplexGeometry/Bridge/ocMemoizer.h"
 #include "Fc/HelperFunctionsOC.h"
 #include "Fc/NotImplemented.h"
 #include "Fc/Resource/Geometry/FcAxis1Placement.h"
@@ -25,12 +27,13 @@
 #include "Fc/Resource/Profile/FcProfileDef.h"
 #include "Fc/Resource/Report.h"
 
-namespace qor::fc::resource::geometry {
+namespace qor::fc {
+namespace resource::geometry {
 namespace {
 
 using SurfaceHandle = opencascade::handle<Geom_Surface>;
 
-OcSurface surfaceOf(Geom_Surface* surface) { return std::make_shared<SurfaceHandle>(surface); }
+OcSurface surfaceHandle(Geom_Surface* surface) { return std::make_shared<SurfaceHandle>(surface); }
 
 math::Vector3d vectorOf(const FcDirection& direction) {
   const auto& ratios = direction.DirectionRatios();
@@ -45,7 +48,7 @@ OcSurface inFrameOf(const FcElementarySurface& surface, const char* function,
     return {};
   }
   return guarded<OcSurface>("Could not create OpenCascade surface.", [&] {
-    return surfaceOf(make(toOpenCascadeFrame(surface.Position()->placementGet())));
+    return surfaceHandle(make(toOpenCascadeFrame(surface.Position()->placementGet())));
   });
 }
 
@@ -66,78 +69,106 @@ ocMemoizer::Curve sweptCurve(const FcSweptSurface& surface, ocMemoizer& memoizer
   return memoizer.getCurve(*surface.SweptCurve());
 }
 
-}  // namespace
-
-OcSurface FcSurface::ocSurface(ocMemoizer& /*memoizer*/) const {
-  assertNotImplemented("ocSurface() not implemented for class: ", *this,
-                       "resource::geometry::FcSurface::ocSurface");
-  return {};
-}
-
-OcSurface FcPlane::ocSurface(ocMemoizer& /*memoizer*/) const {
-  return inFrameOf(*this, "qor::fc::resource::geometry::FcPlane::ocSurface",
+OcSurface surfaceOf(const FcPlane& surface) {
+  return inFrameOf(surface, "qor::fc::resource::geometry::FcPlane::ocSurface",
                    [](const gp_Ax3& frame) { return new Geom_Plane(frame); });
 }
 
-OcSurface FcCylindricalSurface::ocSurface(ocMemoizer& /*memoizer*/) const {
+OcSurface surfaceOf(const FcCylindricalSurface& surface) {
   return inFrameOf(
-      *this, "qor::fc::resource::geometry::FcCylindricalSurface::ocSurface",
-      [this](const gp_Ax3& frame) { return new Geom_CylindricalSurface(frame, Radius()); });
+      surface, "qor::fc::resource::geometry::FcCylindricalSurface::ocSurface",
+      [&](const gp_Ax3& frame) { return new Geom_CylindricalSurface(frame, surface.Radius()); });
 }
 
-OcSurface FcBSplineSurfaceWithKnots::ocSurface(ocMemoizer& /*memoizer*/) const {
+OcSurface surfaceOf(const FcBSplineSurfaceWithKnots& surface) {
   return guardedBSpline<OcSurface>("Could not create OpenCascade bspline surface.", [&] {
-    return surfaceOf(new Geom_BSplineSurface(
-        bspline::poleGrid(ControlPointsList()), bspline::numbers<TColStd_Array1OfReal>(UKnots()),
-        bspline::numbers<TColStd_Array1OfReal>(VKnots()),
-        bspline::numbers<TColStd_Array1OfInteger>(UMultiplicities()),
-        bspline::numbers<TColStd_Array1OfInteger>(VMultiplicities()), static_cast<int>(UDegree()),
-        static_cast<int>(VDegree())));
+    return surfaceHandle(new Geom_BSplineSurface(
+        bspline::poleGrid(surface.ControlPointsList()),
+        bspline::numbers<TColStd_Array1OfReal>(surface.UKnots()),
+        bspline::numbers<TColStd_Array1OfReal>(surface.VKnots()),
+        bspline::numbers<TColStd_Array1OfInteger>(surface.UMultiplicities()),
+        bspline::numbers<TColStd_Array1OfInteger>(surface.VMultiplicities()),
+        static_cast<int>(surface.UDegree()), static_cast<int>(surface.VDegree())));
   });
 }
 
-OcSurface FcRationalBSplineSurfaceWithKnots::ocSurface(ocMemoizer& /*memoizer*/) const {
+OcSurface surfaceOf(const FcRationalBSplineSurfaceWithKnots& surface) {
   return guardedBSpline<OcSurface>("Could not create OpenCascade rational bspline surface.", [&] {
-    return surfaceOf(new Geom_BSplineSurface(
-        bspline::poleGrid(ControlPointsList()), bspline::weightGrid(WeightsData()),
-        bspline::numbers<TColStd_Array1OfReal>(UKnots()),
-        bspline::numbers<TColStd_Array1OfReal>(VKnots()),
-        bspline::numbers<TColStd_Array1OfInteger>(UMultiplicities()),
-        bspline::numbers<TColStd_Array1OfInteger>(VMultiplicities()), static_cast<int>(UDegree()),
-        static_cast<int>(VDegree())));
+    return surfaceHandle(new Geom_BSplineSurface(
+        bspline::poleGrid(surface.ControlPointsList()), bspline::weightGrid(surface.WeightsData()),
+        bspline::numbers<TColStd_Array1OfReal>(surface.UKnots()),
+        bspline::numbers<TColStd_Array1OfReal>(surface.VKnots()),
+        bspline::numbers<TColStd_Array1OfInteger>(surface.UMultiplicities()),
+        bspline::numbers<TColStd_Array1OfInteger>(surface.VMultiplicities()),
+        static_cast<int>(surface.UDegree()), static_cast<int>(surface.VDegree())));
   });
 }
 
-OcSurface FcSurfaceOfLinearExtrusion::ocSurface(ocMemoizer& memoizer) const {
-  const auto curve = sweptCurve(*this, memoizer, "FcSurfaceOfLinearExtrusion");
+OcSurface surfaceOf(const FcSurfaceOfLinearExtrusion& surface, ocMemoizer& memoizer) {
+  const auto curve = sweptCurve(surface, memoizer, "FcSurfaceOfLinearExtrusion");
   if (!curve) return {};
-  if (!ExtrudedDirection()) {
+  if (!surface.ExtrudedDirection()) {
     report("Missing ExtrudedDirection on FcSurfaceOfLinearExtrusion",
            "qor::fc::resource::geometry::FcSurfaceOfLinearExtrusion::ocSurface", __LINE__);
     return {};
   }
   return guarded<OcSurface>("Could not create OpenCascade surface.", [&] {
-    return surfaceOf(new Geom_SurfaceOfLinearExtrusion(
-        *curve, toOpenCascadeDirection(vectorOf(*ExtrudedDirection()))));
+    return surfaceHandle(new Geom_SurfaceOfLinearExtrusion(
+        *curve, toOpenCascadeDirection(vectorOf(*surface.ExtrudedDirection()))));
   });
 }
 
-OcSurface FcSurfaceOfRevolution::ocSurface(ocMemoizer& memoizer) const {
-  const auto curve = sweptCurve(*this, memoizer, "FcSurfaceOfRevolution");
+OcSurface surfaceOf(const FcSurfaceOfRevolution& surface, ocMemoizer& memoizer) {
+  const auto curve = sweptCurve(surface, memoizer, "FcSurfaceOfRevolution");
   if (!curve) return {};
-  const auto location =
-      AxisPosition() ? fcCast<FcCartesianPoint>(AxisPosition()->Location()) : nullptr;
+  const auto location = surface.AxisPosition()
+                            ? fcCast<FcCartesianPoint>(surface.AxisPosition()->Location())
+                            : nullptr;
   if (!location) {
     report("Missing AxisPosition on FcSurfaceOfRevolution",
            "qor::fc::resource::geometry::FcSurfaceOfRevolution::ocSurface", __LINE__);
     return {};
   }
-  const math::Vector3d axis =
-      AxisPosition()->Axis() ? vectorOf(*AxisPosition()->Axis()) : math::Vector3d(0, 0, 1);
+  const math::Vector3d axis = surface.AxisPosition()->Axis()
+                                  ? vectorOf(*surface.AxisPosition()->Axis())
+                                  : math::Vector3d(0, 0, 1);
   return guarded<OcSurface>("Could not create OpenCascade surface.", [&] {
-    return surfaceOf(new Geom_SurfaceOfRevolution(
+    return surfaceHandle(new Geom_SurfaceOfRevolution(
         *curve, gp_Ax1(bspline::pole(location), toOpenCascadeDirection(axis))));
   });
 }
 
-}  // namespace qor::fc::resource::geometry
+class SurfaceForm : public FormOfClass<OcSurface> {
+ public:
+  explicit SurfaceForm(ocMemoizer& memoizer) : m_memoizer(memoizer) {}
+
+  using FormOfClass::visit;
+  bool visit(const FcPlane& surface) override { return give(surfaceOf(surface)); }
+  bool visit(const FcCylindricalSurface& surface) override { return give(surfaceOf(surface)); }
+  bool visit(const FcBSplineSurfaceWithKnots& surface) override { return give(surfaceOf(surface)); }
+  bool visit(const FcRationalBSplineSurfaceWithKnots& surface) override {
+    return give(surfaceOf(surface));
+  }
+  bool visit(const FcSurfaceOfLinearExtrusion& surface) override {
+    return give(surfaceOf(surface, m_memoizer));
+  }
+  bool visit(const FcSurfaceOfRevolution& surface) override {
+    return give(surfaceOf(surface, m_memoizer));
+  }
+
+ private:
+  ocMemoizer& m_memoizer;
+};
+
+}  // namespace
+}  // namespace resource::geometry
+
+OcSurface OpenCascadeModeller::surface(const resource::geometry::FcSurface& surface,
+                                       ocMemoizer& memoizer) const {
+  if (auto form = resource::geometry::SurfaceForm(memoizer).of(surface)) return *std::move(form);
+  assertNotImplemented("ocSurface() not implemented for class: ", surface,
+                       "resource::geometry::FcSurface::ocSurface");
+  return {};
+}
+
+}  // namespace qor::fc

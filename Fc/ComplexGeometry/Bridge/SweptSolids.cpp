@@ -8,6 +8,7 @@
 #include <functional>
 #include <gp_Ax1.hxx>
 
+#include "Fc/ComplexGeometry/Bridge/ShapesOf.h"
 #include "Fc/FcParams.h"
 #include "Fc/HelperFunctionsOC.h"
 #include "Fc/Resource/GeometricModel/FcExtrudedAreaSolid.h"
@@ -24,9 +25,9 @@ namespace qor::fc::resource::geometricmodel {
 namespace {
 
 // A solid for each face, moved by the solid's position; a null shape for one that fails.
-std::vector<TopoDS_Shape> sweptFaces(const FcSweptAreaSolid& solid, const FcParams& params,
-                                     const std::function<TopoDS_Shape(const TopoDS_Face&)>& sweep) {
-  std::vector<TopoDS_Shape> solids;
+Shapes sweptFaces(const FcSweptAreaSolid& solid, const FcParams& params,
+                  const std::function<TopoDS_Shape(const TopoDS_Face&)>& sweep) {
+  Shapes solids;
   for (const TopoDS_Face& face : solid.SweptArea()->ocProfile(params)) {
     if (face.IsNull()) continue;
     TopoDS_Shape swept = tryOpenCascadeConstruction<TopoDS_Shape>(
@@ -46,36 +47,40 @@ bool expect(bool holds, const char* message, const char* function, int line) {
 
 }  // namespace
 
-std::vector<TopoDS_Shape> FcExtrudedAreaSolid::ocRepresentation(const FcParams& params) const {
+Shapes shapesOf(const FcExtrudedAreaSolid& item, const FcParams& params) {
   const char* const function =
       "qor::fc::resource::geometricmodel::FcExtrudedAreaSolid::ocRepresentation";
-  if (!expect(Depth() > math::Epsilon::current().length, "Depth should be a positive distance",
+  if (!expect(item.Depth() > math::Epsilon::current().length, "Depth should be a positive distance",
               function, __LINE__) ||
-      !expect(SweptArea() != nullptr, "Swept area should exist", function, __LINE__) ||
-      !expect(ExtrudedDirection() != nullptr, "Extrude direction should exist", function, __LINE__))
+      !expect(item.SweptArea() != nullptr, "Swept area should exist", function, __LINE__) ||
+      !expect(item.ExtrudedDirection() != nullptr, "Extrude direction should exist", function,
+              __LINE__))
     return {};
-  const gp_Vec extrusion = toOpenCascade(ExtrudedDirection()->vector().normalized() * Depth());
-  return sweptFaces(*this, params, [&](const TopoDS_Face& face) {
+  const gp_Vec extrusion =
+      toOpenCascade(item.ExtrudedDirection()->vector().normalized() * item.Depth());
+  return sweptFaces(item, params, [&](const TopoDS_Face& face) {
     return BRepPrimAPI_MakePrism(face, extrusion, false, true).Shape();
   });
 }
 
-std::vector<TopoDS_Shape> FcRevolvedAreaSolid::ocRepresentation(const FcParams& params) const {
+Shapes shapesOf(const FcRevolvedAreaSolid& item, const FcParams& params) {
   const char* const function =
       "qor::fc::resource::geometricmodel::FcRevolvedAreaSolid::ocRepresentation";
-  const auto location = Axis() ? fcCast<geometry::FcCartesianPoint>(Axis()->Location()) : nullptr;
+  const auto location =
+      item.Axis() ? fcCast<geometry::FcCartesianPoint>(item.Axis()->Location()) : nullptr;
   if (!expect(location != nullptr, "Axis should exist", function, __LINE__)) return {};
   const math::Point3d origin = location->point();
-  const math::Vector3d axis = Axis()->Axis() ? Axis()->Axis()->vector() : math::Vector3d(0, 0, 1);
+  const math::Vector3d axis =
+      item.Axis()->Axis() ? item.Axis()->Axis()->vector() : math::Vector3d(0, 0, 1);
   const double tolerance = math::Epsilon::current().length;
   if (!expect(std::abs(origin.z) <= tolerance, "Axis location must have a Z value of 0", function,
               __LINE__) ||
       !expect(std::abs(axis.z) <= tolerance, "Axis direction must have a Z value of 0", function,
               __LINE__) ||
-      !expect(SweptArea() != nullptr, "Swept area should exist", function, __LINE__))
+      !expect(item.SweptArea() != nullptr, "Swept area should exist", function, __LINE__))
     return {};
-  const double angle = Angle();
-  return sweptFaces(*this, params, [&](const TopoDS_Face& face) {
+  const double angle = item.Angle();
+  return sweptFaces(item, params, [&](const TopoDS_Face& face) {
     const gp_Ax1 turning(toOpenCascade(origin), toOpenCascadeDirection(axis));
     return BRepPrimAPI_MakeRevol(face, turning, angle).Shape();
   });

@@ -18,7 +18,7 @@ using math::_3d::Plane;
 
 namespace {
 
-constexpr const char* kOperation =
+constexpr const char* kDirectrixSweep =
     "qor::fc::resource::geometricmodel::FcFixedReferenceSweptAreaSolid::generateFaceSet";
 
 std::vector<Point3d> withoutRepeatedPoints(const std::vector<Point3d>& path) {
@@ -88,7 +88,7 @@ class PathSweep {
       report(
           "Diretrix is a closed curve with less than three distinct points, or open with less "
           "than two distinct points.",
-          kOperation, __LINE__);
+          kDirectrixSweep, __LINE__);
       return false;
     }
     if (!addRing(Plane(last, last - station), last - station)) return false;
@@ -98,7 +98,7 @@ class PathSweep {
 
   void addTop() {
     if (m_hard.empty())
-      report("hardEdgeFaceset.m_faces is empty", kOperation, __LINE__);
+      report("hardEdgeFaceset.m_faces is empty", kDirectrixSweep, __LINE__);
     else if (!m_closed) {  // a closed path that starts on a straight stretch ends where it began
       const std::size_t offset = m_isSoft ? m_n : m_points.size() - m_n;
       m_hard.push_back(generateTopFace(m_hard.front(), static_cast<std::uint32_t>(offset),
@@ -164,7 +164,7 @@ std::optional<PolygonalFaceSetOpenGL> sweptAlongPath(const Profile2D& profile,
                                                      const std::optional<Matrix>& frame,
                                                      bool closed) {
   if (path.size() < 2) {
-    report("Should have Directrix curve with more than 1 point", kOperation, __LINE__);
+    report("Should have Directrix curve with more than 1 point", kDirectrixSweep, __LINE__);
     return std::nullopt;
   }
   if (profile.empty() || profile.contours().front().empty()) return std::nullopt;
@@ -173,7 +173,7 @@ std::optional<PolygonalFaceSetOpenGL> sweptAlongPath(const Profile2D& profile,
     report(
         "Diretrix is a closed curve with less than three distinct points, or open with less than "
         "two distinct points.",
-        kOperation, __LINE__);
+        kDirectrixSweep, __LINE__);
     return std::nullopt;
   }
   if (!std::all_of(stations.begin(), stations.end(), std::mem_fn(&Point3d::isFinite)))

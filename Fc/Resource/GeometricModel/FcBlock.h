@@ -9,8 +9,6 @@ class QOR_API FcBlock : public FcBlockAttributes {
  public:
   void draw(const FcDrawParams& params) const override;
   std::optional<math::Extent> boundingBox(const FcParams& params) const override;
-  /// Nothing, with an assert, for a length that isn't positive.
-  std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const override;
 
   /// All three lengths are above the general tolerance; an assert for each that isn't.
   bool ValidXYZLengths() const;

@@ -1,7 +1,5 @@
 #include "Fc/Resource/GeometricModel/FcBooleanOperand.h"
 
-#include <TopoDS_Shape.hxx>
-
 #include "Fc/Resource/GeometricModel/FcBooleanResult.h"
 #include "Fc/Resource/GeometricModel/FcCsgPrimitive3D.h"
 #include "Fc/Resource/GeometricModel/FcHalfSpaceSolid.h"
@@ -126,11 +124,6 @@ FcBooleanOperand::asGeometricRepresentationItemNonConst() {
 std::shared_ptr<const geometry::FcGeometricRepresentationItem>
 FcBooleanOperand::asGeometricRepresentationItemAssert() const {
   return FcBooleanOperand(*this).asGeometricRepresentationItemNonConst();
-}
-
-std::vector<TopoDS_Shape> FcBooleanOperand::ocRepresentation(const FcParams& params) const {
-  const auto item = asGeometricRepresentationItemAssert();
-  return item ? item->ocRepresentation(params) : std::vector<TopoDS_Shape>();
 }
 
 std::optional<math::Extent> FcBooleanOperand::boundingBox(const FcParams& params) const {

@@ -2,7 +2,6 @@
 
 #include <vector>
 
-#include "Fc/ComplexGeometry/OpenCascadeTypes.h"
 #include "Fc/Resource/GeometricModel/FcBooleanResultAttributes.h"
 #include "Qor/Math/Extent.h"
 #include "Qor/Math/Matrix.h"
@@ -24,11 +23,6 @@ class QOR_API FcBooleanResult : public FcBooleanResultAttributes {
   /// Of a difference, the box of the first operand; else of both boxes what the operation makes of
   /// the operands. The same checks as below.
   std::optional<math::Extent> boundingBox(const FcParams& params) const override;
-  /// A chain of differences is evaluated as its innermost operand cut by all tools, the outermost
-  /// first. Operands that don't fit are reported, and give nothing. A step that fails is reported
-  /// and gives a null shape, which ends a chain. Throws `std::runtime_error` for an operator that
-  /// is none.
-  std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const override;
   /// Those of the first operand, then its own.
   void forEachPresentationStyle(
       const std::function<void(const presentationappearance::FcPresentationStyle&)>& callback)

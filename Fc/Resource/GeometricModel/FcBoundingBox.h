@@ -13,8 +13,6 @@ class QOR_API FcBoundingBox : public FcBoundingBoxAttributes {
   void transform(const math::Matrix& matrix) override;
   /// Empty without a corner.
   std::optional<math::Extent> boundingBox(const FcParams& params) const override;
-  /// The box as a block.
-  std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const override;
 
  private:
   std::optional<math::Extent> extent() const;

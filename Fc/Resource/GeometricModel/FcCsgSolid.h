@@ -11,7 +11,6 @@ class QOR_API FcCsgSolid : public FcCsgSolidAttributes {
   void draw(const FcDrawParams& params) const override;
   void transform(const math::Matrix& matrix) override;
   std::optional<math::Extent> boundingBox(const FcParams& params) const override;
-  std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const override;
 
   /// The item behind `TreeRootExpression`; null for none.
   std::shared_ptr<geometry::FcRepresentationItem> rootItem() const;

@@ -32,7 +32,7 @@ bool isExactly(const profile::FcProfileDef& profile) {
   return profile.classId() == Class::firstClassId;
 }
 
-constexpr const char* kDraw = "qor::fc::resource::geometricmodel::FcExtrudedAreaSolid::draw";
+constexpr const char* kDrawExtruded = "qor::fc::resource::geometricmodel::FcExtrudedAreaSolid::draw";
 
 }  // namespace
 
@@ -56,7 +56,7 @@ bool FcExtrudedAreaSolid::isReadyToDraw(const char* operation) const {
 }
 
 void FcExtrudedAreaSolid::draw(const FcDrawParams& params) const {
-  if (!isReadyToDraw(kDraw)) return;
+  if (!isReadyToDraw(kDrawExtruded)) return;
   if (auto cylinder = asEquivalentRightCircularCylinder()) {
     params->drawRepresentationItem(std::move(cylinder), params,
                                    generate::draw::SurfaceDrawType::Surface);

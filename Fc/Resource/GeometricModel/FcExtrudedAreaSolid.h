@@ -21,9 +21,6 @@ class QOR_API FcExtrudedAreaSolid : public FcExtrudedAreaSolidAttributes {
   void transform(const math::Matrix& matrix) override;
   /// Around the profile's box at both ends.
   std::optional<math::Extent> boundingBox(const FcParams& params) const override;
-  /// A solid for each area of the profile; a null shape for one that fails, with an assert.
-  /// Nothing, with an assert, without a positive depth, a profile and a direction.
-  std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const override;
 
   /// The body between the profile and where `extrusion` takes it, in the profile's frame. The
   /// profile has a counter-clockwise outer contour and clockwise holes; a downward extrusion turns

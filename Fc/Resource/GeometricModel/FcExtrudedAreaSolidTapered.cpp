@@ -18,7 +18,7 @@ using math::Vector3d;
 
 namespace {
 
-constexpr const char* kDraw = "qor::fc::resource::geometricmodel::FcExtrudedAreaSolidTapered::draw";
+constexpr const char* kDrawExtrudedTapered = "qor::fc::resource::geometricmodel::FcExtrudedAreaSolidTapered::draw";
 
 }  // namespace
 
@@ -33,7 +33,7 @@ bool FcExtrudedAreaSolidTapered::isReadyToDraw(const char* operation) const {
 }
 
 void FcExtrudedAreaSolidTapered::draw(const FcDrawParams& params) const {
-  if (!isReadyToDraw(kDraw)) return;
+  if (!isReadyToDraw(kDrawExtrudedTapered)) return;
   auto profiles = taperedProfiles(*SweptArea(), *EndSweptArea(), FcParams(params));
   if (!profiles) return;
   const generate::draw::TransformationGuard guard(params);
@@ -42,7 +42,7 @@ void FcExtrudedAreaSolidTapered::draw(const FcDrawParams& params) const {
   for (std::size_t i = 0; i < profiles->start.size(); ++i) {
     Profile2D& start = profiles->start[i];
     Profile2D& end = profiles->end[i];
-    if (!profilesPair(start, end, kDraw) || start.empty() || start.contours().front().empty())
+    if (!profilesPair(start, end, kDrawExtrudedTapered) || start.empty() || start.contours().front().empty())
       continue;
     for (PolygonalFaceSetOpenGL& set : faceSetFromExtrudedTapered(start, end, extrusion))
       params->polygonalFaceSet(std::move(set));

@@ -13,8 +13,6 @@ class QOR_API FcFaceBasedSurfaceModel : public FcFaceBasedSurfaceModelAttributes
   void transform(const math::Matrix& matrix) override;
   /// Around all sets that have a box; empty when none has.
   std::optional<math::Extent> boundingBox(const FcParams& params) const override;
-  /// Those of all sets, in order.
-  std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const override;
 };
 
 }  // namespace qor::fc::resource::geometricmodel

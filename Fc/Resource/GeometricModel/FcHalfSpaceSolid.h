@@ -25,12 +25,13 @@ class QOR_API FcHalfSpaceSolid : public FcHalfSpaceSolidAttributes {
   std::optional<math::Extent> boundingBox(const FcParams& params) const override;
   /// An assert, and no change, without `BaseSurface`.
   void transform(const math::Matrix& matrix) override;
-  /// One solid without end; nothing, with an assert, when the base surface isn't a plane.
-  std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const override;
   /// What to cut with out of a body whose box has a diagonal of `diameter`.
-  virtual std::vector<TopoDS_Shape> ocRepresentationForClipping(
+  std::vector<TopoDS_Shape> ocRepresentationForClipping(
       const measure::FcPositiveLengthMeasure& diameter, const FcParams& params) const;
 
+  /// A missing position is reported and taken to be the identity; empty, with an assert, when the
+  /// base surface isn't a plane.
+  std::optional<OcRepresentationData> setupOcRepresentationData() const;
   /// The part of the half-space above or below the whole of `box`, as a prism that reaches a little
   /// beyond it: what to cut with out of a body with that box. An endless solid can't be cut with
   /// safely. Null without a plane with a position, and when the box lies on the other side.
@@ -41,11 +42,6 @@ class QOR_API FcHalfSpaceSolid : public FcHalfSpaceSolidAttributes {
   /// How far into the material the nearest point of the box lies, in metres; 0 for a box that the
   /// plane goes through, and without a plane with a position.
   double distanceTo(const math::Extent& box) const;
-
- protected:
-  /// A missing position is reported and taken to be the identity; empty, with an assert, when the
-  /// base surface isn't a plane.
-  std::optional<OcRepresentationData> setupOcRepresentationData() const;
 
  private:
   std::optional<math::Matrix> materialFrame() const;

@@ -11,8 +11,6 @@ class QOR_API FcManifoldSolidBrep : public FcManifoldSolidBrepAttributes {
   void draw(const FcDrawParams& params) const override;
   void transform(const math::Matrix& matrix) override;
   std::optional<math::Extent> boundingBox(const FcParams& params) const override;
-  /// That of the outer shell, without voids; nothing, with an assert, without one.
-  std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const override;
 
  protected:
   FcManifoldSolidBrep() = default;

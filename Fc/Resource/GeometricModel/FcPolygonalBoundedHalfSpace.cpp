@@ -1,16 +1,8 @@
 #include "Fc/Resource/GeometricModel/FcPolygonalBoundedHalfSpace.h"
 
-#include <BRepBuilderAPI_MakeFace.hxx>
-#include <BRepPrimAPI_MakePrism.hxx>
-#include <TopoDS.hxx>
-#include <TopoDS_Shape.hxx>
-#include <TopoDS_Wire.hxx>
 #include <cmath>
-#include <gp_Pln.hxx>
 
 #include "Fc/FcParams.h"
-#include "Fc/HelperFunctionsOC.h"
-#include "Fc/NotImplemented.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
 #include "Fc/Resource/Geometry/FcBoundedCurve.h"
 #include "Fc/Resource/Geometry/FcSurface.h"
@@ -46,29 +38,6 @@ void FcPolygonalBoundedHalfSpace::transform(const math::Matrix& matrix) {
     PolygonalBoundary()->transform(mirror);
   }
   setPosition(geometry::makePlacement(frame));
-}
-
-std::vector<TopoDS_Shape> FcPolygonalBoundedHalfSpace::ocRepresentation(
-    const FcParams& /*params*/) const {
-  assertNotImplemented(
-      "ocRepresentation(const qor::fc::FcParams&) not implemented for class: ", *this,
-      "resource::geometricmodel::FcPolygonalBoundedHalfSpace::ocRepresentation");
-  return {};
-}
-
-std::vector<TopoDS_Shape> FcPolygonalBoundedHalfSpace::ocRepresentationForClipping(
-    const measure::FcPositiveLengthMeasure& diameter, const FcParams& params) const {
-  if (!(diameter > math::Epsilon::current().length)) {
-    report("Expect to have strictly positive diameter of first operand",
-           "qor::fc::resource::geometricmodel::FcPolygonalBoundedHalfSpace::"
-           "ocRepresentationForClipping",
-           __LINE__);
-    return {};
-  }
-  const TopoDS_Shape prism =
-      ocRepresentationFromBooleanCommonOfHalfSpaceWithFinitePrism(diameter, params);
-  if (prism.IsNull()) return {};
-  return {prism};
 }
 
 math::Matrix FcPolygonalBoundedHalfSpace::validPosition() const {
@@ -111,28 +80,6 @@ std::vector<math::Point3d> FcPolygonalBoundedHalfSpace::polygonOnPlane(
       point = *projected;
   }
   return points;
-}
-
-TopoDS_Shape
-FcPolygonalBoundedHalfSpace::ocRepresentationFromBooleanCommonOfHalfSpaceWithFinitePrism(
-    double depth, const FcParams& params) const {
-  const auto data = setupOcRepresentationData();
-  if (!data) return {};
-  const std::vector<math::Point3d> points = polygonOnPlane(*data, params);
-  if (points.empty()) return {};
-  const TopoDS_Wire wire = getClosedWireFromPoints(points);
-  if (wire.IsNull()) return {};
-  const math::Vector3d extrusion = data->extrusion * (depth * finalSafetyFactorOnExtrusionDepth());
-  return tryOpenCascadeConstruction<TopoDS_Shape>(
-      [&]() -> TopoDS_Shape {
-        const gp_Pln plane(toOpenCascade(data->point), toOpenCascadeDirection(data->vector));
-        BRepBuilderAPI_MakeFace face(plane, wire, true);
-        if (!face.IsDone()) return {};
-        BRepPrimAPI_MakePrism prism(face.Face(), toOpenCascade(extrusion), false, true);
-        return TopoDS::Solid(prism.Shape());
-      },
-      "Extrusion of polygon could not be executed or result is no solid.",
-      "Extrusion of polygon did not fail, but the resulting shape is Null.");
 }
 
 }  // namespace qor::fc::resource::geometricmodel

@@ -18,12 +18,10 @@ class QOR_API FcPolygonalBoundedHalfSpace : public FcPolygonalBoundedHalfSpaceAt
   /// Moves plane and frame; a mirror mirrors the polygon in its frame, which stays right-handed. An
   /// assert, and no change, unless there are a base surface and a polygon.
   void transform(const math::Matrix& matrix) override;
-  /// Nothing, with an assert: it is a tool of differences alone.
-  std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const override;
   /// The prism from the plane on, a tenth longer than `diameter`, in metres. Nothing, with an
   /// assert, when that isn't positive, the prism is parallel to the plane, or there is no polygon.
-  std::vector<TopoDS_Shape> ocRepresentationForClipping(
-      const measure::FcPositiveLengthMeasure& diameter, const FcParams& params) const override;
+  std::vector<TopoDS_Shape> ocPrismForClipping(const measure::FcPositiveLengthMeasure& diameter,
+                                               const FcParams& params) const;
 
  private:
   static constexpr double finalSafetyFactorOnExtrusionDepth() { return 1.1; }

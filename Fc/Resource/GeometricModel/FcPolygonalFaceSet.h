@@ -33,10 +33,6 @@ class QOR_API FcPolygonalFaceSet : public FcPolygonalFaceSetAttributes {
   /// A mirror turns the corners of each face round, so that it keeps facing outward; places on
   /// textures follow.
   void transform(const math::Matrix& matrix) override;
-  /// One shape, null when it can't be made: a solid when the faces close, else a shell, or a
-  /// compound of such. A face off its plane by more than the length tolerance is reported and left
-  /// out.
-  std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const override;
   /// The faces of shapes as sets to draw: a planar face as one polygon, any other as triangles that
   /// leave it by no more than the chord value. Null shapes are passed over.
   static std::vector<generate::draw::PolygonalFaceSetOpenGL> getFaceSetsFromShapes(

@@ -10,8 +10,6 @@ class QOR_API FcRectangularPyramid : public FcRectangularPyramidAttributes {
  public:
   void draw(const FcDrawParams& params) const override;
   std::optional<math::Extent> boundingBox(const FcParams& params) const override;
-  /// Nothing, with an assert, for a length that isn't positive.
-  std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const override;
 
   /// Both lengths and the height are above the general tolerance; an assert for each that isn't.
   bool ValidXYLengthsHeight() const;

@@ -25,7 +25,7 @@ using math::Vector3d;
 
 namespace {
 
-constexpr const char* kDraw = "qor::fc::resource::geometricmodel::FcRevolvedAreaSolid::draw";
+constexpr const char* kDrawRevolved = "qor::fc::resource::geometricmodel::FcRevolvedAreaSolid::draw";
 constexpr const char* kTransform =
     "qor::fc::resource::geometricmodel::FcRevolvedAreaSolid::transform";
 
@@ -58,8 +58,8 @@ bool FcRevolvedAreaSolid::hasAngle(const char* operation) const {
 }
 
 void FcRevolvedAreaSolid::draw(const FcDrawParams& params) const {
-  const auto axis = axisInPlane(kDraw);
-  if (!axis || !hasSweptArea(kDraw) || !hasAngle(kDraw)) return;
+  const auto axis = axisInPlane(kDrawRevolved);
+  if (!axis || !hasSweptArea(kDrawRevolved) || !hasAngle(kDrawRevolved)) return;
   const FcParams evaluation(params);
   const auto profiles = SweptArea()->closedProfileWithEnforcedOrientation(evaluation, true);
   if (profiles.empty()) return;

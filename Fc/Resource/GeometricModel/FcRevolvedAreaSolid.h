@@ -15,9 +15,6 @@ class QOR_API FcRevolvedAreaSolid : public FcRevolvedAreaSolidAttributes {
   /// for other scales.
   void transform(const math::Matrix& matrix) override;
   std::optional<math::Extent> boundingBox(const FcParams& params) const override;
-  /// A solid for each area of the profile; a null shape for one that fails, with an assert.
-  /// Nothing, with an assert, without a profile and an axis in its plane.
-  std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const override;
 
  protected:
   /// `Axis` in the plane of the profile, direction of length 1; asserts where it isn't there or

@@ -17,7 +17,7 @@ using generate::draw::Profile2D;
 
 namespace {
 
-constexpr const char* kDraw = "qor::fc::resource::geometricmodel::FcRevolvedAreaSolidTapered::draw";
+constexpr const char* kDrawRevolvedTapered = "qor::fc::resource::geometricmodel::FcRevolvedAreaSolidTapered::draw";
 
 }  // namespace
 
@@ -35,7 +35,7 @@ std::optional<RevolutionAxis> FcRevolvedAreaSolidTapered::checkedAxis(const char
 }
 
 void FcRevolvedAreaSolidTapered::draw(const FcDrawParams& params) const {
-  const auto axis = checkedAxis(kDraw);
+  const auto axis = checkedAxis(kDrawRevolvedTapered);
   if (!axis) return;
   const FcParams evaluation(params);
   const auto profiles = taperedProfiles(*SweptArea(), *EndSweptArea(), evaluation);
@@ -45,7 +45,7 @@ void FcRevolvedAreaSolidTapered::draw(const FcDrawParams& params) const {
   for (std::size_t i = 0; i < profiles->start.size(); ++i) {
     const Profile2D& start = profiles->start[i];
     const Profile2D& end = profiles->end[i];
-    if (!profilesPair(start, end, kDraw)) continue;
+    if (!profilesPair(start, end, kDrawRevolvedTapered)) continue;
     if (auto set =
             taperedRevolvedFaceSet(start, end, *axis, Angle(), evaluation.curveDiscretization()))
       params->polygonalFaceSet(std::move(*set));

@@ -13,8 +13,6 @@ class QOR_API FcRightCircularCone : public FcRightCircularConeAttributes {
   /// Sizes follow a scaling that is the same in X and Y.
   void transform(const math::Matrix& matrix) override;
   std::optional<math::Extent> boundingBox(const FcParams& params) const override;
-  /// Exact; a null shape, with an assert, for sizes that make no cone.
-  std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const override;
 
  private:
   bool hasValidSizes(const char* function) const;

@@ -13,8 +13,6 @@ class QOR_API FcRightCircularCylinder : public FcRightCircularCylinderAttributes
   /// Moves the frame; sizes stay. A mirror turns the X axis of the frame round.
   void transform(const math::Matrix& matrix) override;
   std::optional<math::Extent> boundingBox(const FcParams& params) const override;
-  /// Exact; a null shape, with an assert, for sizes that make no cylinder.
-  std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const override;
 
   /// In the cylinder's frame, with the coordinates of an image wrapped around it. Empty, with an
   /// assert, for sizes that aren't positive.

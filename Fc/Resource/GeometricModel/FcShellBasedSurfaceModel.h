@@ -15,8 +15,6 @@ class QOR_API FcShellBasedSurfaceModel : public FcShellBasedSurfaceModelAttribut
   void transform(const math::Matrix& matrix) override;
   /// Around all shells that have a box; empty when none has.
   std::optional<math::Extent> boundingBox(const FcParams& params) const override;
-  /// Those of all shells, in order.
-  std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const override;
 
   /// All faces over one list of coordinates, a point object that several share once. Empty when a
   /// bound of some face is no polygon, and where a shell is missing.

@@ -17,8 +17,6 @@ class QOR_API FcSphere : public FcSphereAttributes {
   void transform(const math::Matrix& matrix) override;
   /// Empty for a radius that isn't positive.
   std::optional<math::Extent> boundingBox(const FcParams& params) const override;
-  /// Exact; a null shape, with an assert, for a radius that isn't positive.
-  std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const override;
 
   /// In the sphere's frame, with as many bands of latitude as a full circle has segments. Empty for
   /// a radius that isn't positive.

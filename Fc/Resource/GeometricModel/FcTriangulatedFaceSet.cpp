@@ -31,9 +31,9 @@ using ModelTriangle = std::array<FcPositiveInteger, 3>;
 
 namespace {
 
-constexpr const char* createFunction =
+constexpr const char* kCreateTriangles =
     "qor::fc::resource::geometricmodel::FcTriangulatedFaceSet::createQorTriangulatedFaceSet";
-constexpr const char* splitFunction =
+constexpr const char* kSplitTriangles =
     "qor::fc::resource::geometricmodel::FcTriangulatedFaceSet::createFaceSetsWithMaterials";
 constexpr const char* fromFunction =
     "qor::fc::resource::geometricmodel::FcTriangulatedFaceSet::fromQorPolygonalFaceSet";
@@ -99,7 +99,7 @@ void FcTriangulatedFaceSet::draw(const FcDrawParams& params) const {
 std::optional<TriangulatedFaceSetOpenGL> FcTriangulatedFaceSet::createQorTriangulatedFaceSet()
     const {
   if (!hasCoordinates()) {
-    report("Expect Coordinates() to be set.", createFunction, __LINE__);
+    report("Expect Coordinates() to be set.", kCreateTriangles, __LINE__);
     return std::nullopt;
   }
   TriangulatedFaceSetOpenGL result;
@@ -108,7 +108,7 @@ std::optional<TriangulatedFaceSetOpenGL> FcTriangulatedFaceSet::createQorTriangu
   const CoordinatePositions positions(m_PnIndex, result.coordinates().size());
   Triangle mapped;
   for (const ModelTriangle& triangle : m_CoordIndex)
-    if (mapTriangle(triangle, positions, "Illegal index in face", createFunction, mapped))
+    if (mapTriangle(triangle, positions, "Illegal index in face", kCreateTriangles, mapped))
       result.triangles.push_back(mapped);
   return result;
 }
@@ -127,7 +127,7 @@ std::optional<std::vector<TriangulatedFaceSetWithMaterial>> FcTriangulatedFaceSe
     const FcIndexedColourMap& map) const {
   if (map.ColourIndex().size() != m_CoordIndex.size()) {
     report("Mismatch between number of faces in TriangulatedFaceSetOpenGL and IndexedColourMap",
-           splitFunction, __LINE__);
+           kSplitTriangles, __LINE__);
     return std::nullopt;
   }
   // As one set first: it checks that there is a normal for each point.
@@ -140,11 +140,11 @@ std::optional<std::vector<TriangulatedFaceSetWithMaterial>> FcTriangulatedFaceSe
   for (std::size_t k = 0; k < m_CoordIndex.size(); ++k) {
     const std::uint64_t colour = static_cast<std::uint64_t>(map.ColourIndex()[k].value()) - 1;
     if (colour >= colourCount) {
-      report("Invalid colour index in FcIndexedColourMap.", splitFunction, __LINE__);
+      report("Invalid colour index in FcIndexedColourMap.", kSplitTriangles, __LINE__);
       return std::nullopt;
     }
     if (mapTriangle(m_CoordIndex[k], positions, "Invalid index in FcTriangulatedFaceSet",
-                    splitFunction, triangles[k]))
+                    kSplitTriangles, triangles[k]))
       colours[k] = static_cast<std::uint32_t>(colour);
   }
 

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "Fc/ComplexGeometry/OpenCascadeTypes.h"
 #include "Fc/Resource/GeometricModel/FaceSetWithMaterial.h"
 #include "Fc/Resource/GeometricModel/FcTriangulatedFaceSetAttributes.h"
 
@@ -29,9 +28,6 @@ class QOR_API FcTriangulatedFaceSet : public FcTriangulatedFaceSetAttributes {
   /// A mirror turns the corners of each triangle round, so that it keeps facing outward; normals
   /// move as normals do and have length 1 after.
   void transform(const math::Matrix& matrix) override;
-  /// One shape, null when it can't be made: a solid when the faces close, else a shell, or a
-  /// compound of such. A triangle without area is reported and left out.
-  std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const override;
   std::optional<std::vector<generate::draw::TextureCoordinate>> getTextureCoordinates()
       const override;
 

@@ -17,9 +17,9 @@ using Indices = std::vector<std::uint32_t>;
 
 namespace {
 
-constexpr const char* createFunction =
+constexpr const char* kCreateFaces =
     "qor::fc::resource::geometricmodel::FcPolygonalFaceSet::createQorPolygonalFaceSet";
-constexpr const char* splitFunction =
+constexpr const char* kSplitFaces =
     "qor::fc::resource::geometricmodel::FcPolygonalFaceSet::createFaceSetsWithMaterials";
 
 /// False when a corner lies beyond the coordinates.
@@ -29,7 +29,7 @@ bool mapRing(const Positions& ring, const CoordinatePositions& positions, Indice
   for (const FcPositiveInteger& position : ring) {
     const std::uint32_t index = positions(position);
     if (index == CoordinatePositions::outsidePnIndex) {
-      report("Index pn index mismatch", createFunction, __LINE__);
+      report("Index pn index mismatch", kCreateFaces, __LINE__);
       continue;
     }
     allThere = allThere && index != CoordinatePositions::outsideCoordinates;
@@ -46,7 +46,7 @@ bool mapRingOfColour(const Positions& ring, const CoordinatePositions& positions
     if (index >= CoordinatePositions::outsideCoordinates) {
       report(index == CoordinatePositions::outsidePnIndex ? "Index PnIndex mismatch"
                                                           : "Invalid coordinate index",
-             splitFunction, __LINE__);
+             kSplitFaces, __LINE__);
       return false;
     }
     out.push_back(index);
@@ -75,7 +75,7 @@ std::optional<Face> indexedFace(const FcIndexedPolygonalFace* face,
   if (!face || face->CoordIndex().empty()) {
     report(!face ? "There is a Face which is not set."
                  : "There is a Face which is set but contains no points.",
-           createFunction, __LINE__);
+           kCreateFaces, __LINE__);
     return std::nullopt;
   }
   Face result;
@@ -86,13 +86,13 @@ std::optional<Face> indexedFace(const FcIndexedPolygonalFace* face,
       allThere = mapRing(hole, positions, result.holes.emplace_back()) && allThere;
   }
   if (allThere) return result;
-  report("Illegal index in face", createFunction, __LINE__);
+  report("Illegal index in face", kCreateFaces, __LINE__);
   return std::nullopt;
 }
 
 bool isPolygon(const FcIndexedPolygonalFace* face) {
   if (face && face->CoordIndex().size() >= 3) return true;
-  report(face ? "Face with less than three points" : "Face was nullptr", splitFunction, __LINE__);
+  report(face ? "Face with less than three points" : "Face was nullptr", kSplitFaces, __LINE__);
   return false;
 }
 
@@ -106,7 +106,7 @@ std::optional<Face> indexedFaceOfColour(const FcIndexedPolygonalFace& face,
     Indices indices;
     if (hole.size() < 3)
       report("There is an Void in a FaceWithVoids which contains less than three points.",
-             splitFunction, __LINE__);
+             kSplitFaces, __LINE__);
     else if (mapRingOfColour(hole, positions, indices))
       result.holes.push_back(std::move(indices));
   }

@@ -22,7 +22,7 @@ using Contour = Profile2D::Contour;
 
 namespace {
 
-constexpr const char* kOperation =
+constexpr const char* kRevolve =
     "qor::fc::resource::geometricmodel::FcRevolvedAreaSolid::generateFaceSet";
 
 /// Positive on the left of the axis.
@@ -56,13 +56,13 @@ bool checkAgainstAxis(const RevolutionAxis& axis, const Contour& outer, double r
   if (!std::isfinite(radius)) return false;
   if (radius <= Epsilon::current().length) {
     report("All points of the profile's outer contour seem to lie on the revolution axis",
-           kOperation, __LINE__);
+           kRevolve, __LINE__);
     return false;
   }
   if (axisCrossesAnEdge(axis, outer))
     report(
         "By informal proposition, the AxisLine shall not intersect the interior of the SweptArea",
-        kOperation, __LINE__);
+        kRevolve, __LINE__);
   return true;
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Fc/ComplexGeometry/OpenCascadeTypes.h"
 #include "Fc/Resource/Geometry/FcCircleAttributes.h"
 
 namespace qor::fc::resource::geometry {
@@ -18,8 +17,6 @@ class QOR_API FcCircle : public FcCircleAttributes {
                                                     const Trim& trim2, bool reverse) const override;
   std::vector<math::Point3d> curveGet(const FcParams& params, const Trim& trim1, const Trim& trim2,
                                       bool reverse) const override;
-  /// Throws `std::invalid_argument` for a placement that mirrors.
-  OcCurve ocCurve(ocMemoizer& memoizer) const override;
 
   /// Scales `Radius` too. An assert, and no change, for a matrix that scales differently in
   /// different directions.

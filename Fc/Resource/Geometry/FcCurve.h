@@ -55,8 +55,6 @@ class QOR_API FcCurve : public FcCurveAttributes {
   /// `curveGet` without trims as a ring of straight edges, which closes whether the curve does or
   /// not. A null wire, with an assert, for fewer than two points.
   TopoDS_Wire ocDiscretizedCurve(const FcParams& params) const;
-  /// That ring, or nothing.
-  std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const override;
 
   /// `curveGet` without trims as a polyline.
   void draw(const FcDrawParams& params) const override;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Fc/ComplexGeometry/OpenCascadeTypes.h"
 #include "Fc/Resource/Geometry/FcLineAttributes.h"
 
 namespace qor::fc::resource::geometry {
@@ -16,7 +15,6 @@ class QOR_API FcLine : public FcLineAttributes {
                                                     const Trim& trim2, bool reverse) const override;
   std::vector<math::Point3d> curveGet(const FcParams& params, const Trim& trim1, const Trim& trim2,
                                       bool reverse) const override;
-  OcCurve ocCurve(ocMemoizer& memoizer) const override;
   /// One length of 1.
   std::vector<std::pair<double, ParameterType>> parametricSegments() const override;
 

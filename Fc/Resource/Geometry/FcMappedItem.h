@@ -21,8 +21,6 @@ class QOR_API FcMappedItem : public FcMappedItemAttributes {
   /// That of the map's box times the place, which may be larger than what is drawn; empty unless
   /// there are both.
   std::optional<math::Extent> boundingBox(const FcParams& params) const override;
-  /// Those of the map in place; nothing unless there are both.
-  std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const override;
 
  private:
   void drawMap(const FcDrawParams& params) const;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Fc/ComplexGeometry/OpenCascadeTypes.h"
 #include "Fc/Resource/Geometry/FcPlaneAttributes.h"
 
 namespace qor::fc::resource::geometry {
@@ -8,9 +7,6 @@ namespace qor::fc::resource::geometry {
 /// IfcPlane, Resource.Geometry: the XY plane of its position.
 class QOR_API FcPlane : public FcPlaneAttributes {
  public:
-  /// Without `Position` null.
-  OcSurface ocSurface(ocMemoizer& memoizer) const override;
-
   /// Moves `Position`, of which a missing one is made, with an assert. Under a mirror the X axis is
   /// turned round, so that the frame stays right-handed.
   void transform(const math::Matrix& matrix) override;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Fc/ComplexGeometry/OpenCascadeTypes.h"
 #include "Fc/Resource/Geometry/FcPolylineAttributes.h"
 
 namespace qor::fc::resource::geometry {
@@ -26,7 +25,6 @@ class QOR_API FcPolyline : public FcPolylineAttributes {
                                                     const Trim& trim2, bool reverse) const override;
   std::vector<math::Point3d> curveGet(const FcParams& params, const Trim& trim1, const Trim& trim2,
                                       bool reverse) const override;
-  OcCurve ocCurve(ocMemoizer& memoizer) const override;
   /// One length, that of the whole polyline.
   std::vector<std::pair<double, ParameterType>> parametricSegments() const override;
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Fc/ComplexGeometry/OpenCascadeTypes.h"
 #include "Fc/Resource/Geometry/FcTrimmedCurveAttributes.h"
 
 namespace qor::fc::resource::geometry {
@@ -17,8 +16,6 @@ class QOR_API FcTrimmedCurve : public FcTrimmedCurveAttributes {
                                                     const Trim& trim2, bool reverse) const override;
   std::vector<math::Point3d> curveGet(const FcParams& params, const Trim& trim1, const Trim& trim2,
                                       bool reverse) const override;
-  /// Null for ends at one place, and for a trim point that isn't on the basis curve.
-  OcCurve ocCurve(ocMemoizer& memoizer) const override;
   /// One length of 1.
   std::vector<std::pair<double, ParameterType>> parametricSegments() const override;
 

@@ -13,10 +13,6 @@ class QOR_API FcArbitraryClosedProfileDef : public FcArbitraryClosedProfileDefAt
       const override;
   /// All edges are sharp. Empty for an open curve, one that leaves the plane, and without one.
   std::vector<generate::draw::Profile2D> closedProfile(const FcParams& params) const override;
-  /// Within the points of the curve, whether it closes or not. Nothing, with an assert, without
-  /// one.
-  std::vector<TopoDS_Face> ocProfile(const FcParams& params) const override;
-  OcCurve ocCurve(ocMemoizer& memoizer) const override;
   /// Moves the curve itself.
   void transform2d(const math::Matrix2d& matrix) override;
   /// That of the curve. An assert without one.

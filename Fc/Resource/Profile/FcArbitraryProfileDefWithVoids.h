@@ -13,7 +13,6 @@ class QOR_API FcArbitraryProfileDefWithVoids : public FcArbitraryProfileDefWithV
   /// All edges are sharp. An inner curve that isn't closed is passed over; without a closed outer
   /// one there is an assert and nothing.
   std::vector<generate::draw::Profile2D> closedProfile(const FcParams& params) const override;
-  std::vector<TopoDS_Face> ocProfile(const FcParams& params) const override;
   /// Moves the curves themselves.
   void transform2d(const math::Matrix2d& matrix) override;
 };

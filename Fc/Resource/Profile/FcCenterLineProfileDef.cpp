@@ -14,7 +14,7 @@ using generate::draw::Profile2D;
 
 namespace {
 
-constexpr const char* kClosedProfile =
+constexpr const char* kCenterLineProfile =
     "qor::fc::resource::profile::FcCenterLineProfileDef::closedProfile";
 
 }  // namespace
@@ -22,11 +22,11 @@ constexpr const char* kClosedProfile =
 std::vector<Profile2D> FcCenterLineProfileDef::closedProfile(const FcParams& params) const {
   std::vector<Profile2D> result;
   if (!Curve()) {
-    report("Expected FcCenterLineProfileDef to have a Curve", kClosedProfile, __LINE__);
+    report("Expected FcCenterLineProfileDef to have a Curve", kCenterLineProfile, __LINE__);
     return result;
   }
   if (!(Thickness() > math::Epsilon::current().length)) {
-    report("Expected FcCenterLineProfileDef::Thickness to be a positive number", kClosedProfile,
+    report("Expected FcCenterLineProfileDef::Thickness to be a positive number", kCenterLineProfile,
            __LINE__);
     return result;
   }

@@ -10,7 +10,6 @@ class QOR_API FcCenterLineProfileDef : public FcCenterLineProfileDefAttributes {
  public:
   /// All edges are sharp. Asserts, and nothing, without a curve and without a positive thickness.
   std::vector<generate::draw::Profile2D> closedProfile(const FcParams& params) const override;
-  std::vector<TopoDS_Face> ocProfile(const FcParams& params) const override;
 };
 
 }  // namespace qor::fc::resource::profile

@@ -14,7 +14,7 @@ using generate::draw::Profile2D;
 
 namespace {
 
-void assertThat(bool holds, const char* message, int line) {
+void expectTube(bool holds, const char* message, int line) {
   if (!holds)
     report(message, "qor::fc::resource::profile::FcCircleHollowProfileDef::closedProfile", line);
 }
@@ -23,17 +23,17 @@ void assertThat(bool holds, const char* message, int line) {
 
 std::vector<Profile2D> FcCircleHollowProfileDef::closedProfile(const FcParams& params) const {
   const double inner = Radius() - WallThickness();
-  assertThat(
+  expectTube(
       WallThickness() > math::Epsilon::current().general,
       "By definition of IfcPositiveLengthMeasure, the wall thickness must be strictly positive",
       __LINE__);
-  assertThat(inner > 0,
+  expectTube(inner > 0,
              "By formal proposition, the wall thickness must be strictly smaller than the radius",
              __LINE__);
 
   std::vector<Profile2D> result = FcCircleHollowProfileDefAttributes::closedProfile(params);
   if (!(inner > math::Epsilon::current().length)) return result;
-  assertThat(result.size() == 1, "FcCircleProfileDef should generate one outer polygon", __LINE__);
+  expectTube(result.size() == 1, "FcCircleProfileDef should generate one outer polygon", __LINE__);
   if (result.empty()) return result;
   Profile2D::Contour hole = circleContour(validPosition(), inner, params.curveDiscretization());
   std::reverse(hole.begin(), hole.end());

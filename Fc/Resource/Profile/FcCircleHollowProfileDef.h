@@ -10,8 +10,6 @@ class QOR_API FcCircleHollowProfileDef : public FcCircleHollowProfileDefAttribut
  public:
   /// All edges are soft. A wall that isn't positive or as thick as the radius is reported.
   std::vector<generate::draw::Profile2D> closedProfile(const FcParams& params) const override;
-  /// With exact circles.
-  std::vector<TopoDS_Face> ocProfile(const FcParams& params) const override;
   /// The outer and the inner circle around the profile's own origin.
   std::vector<std::shared_ptr<geometry::FcIndexedPolyCurve>> getAsIndexedPolyCurves()
       const override;

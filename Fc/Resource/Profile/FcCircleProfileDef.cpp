@@ -14,7 +14,7 @@ using generate::draw::Profile2D;
 
 namespace {
 
-constexpr const char* kClosedProfile =
+constexpr const char* kCircleProfile =
     "qor::fc::resource::profile::FcCircleProfileDef::closedProfile";
 
 }  // namespace
@@ -22,7 +22,7 @@ constexpr const char* kClosedProfile =
 std::vector<Profile2D> FcCircleProfileDef::closedProfile(const FcParams& params) const {
   if (!(Radius() > math::Epsilon::current().general))
     report("By definition of IfcPositiveLengthMeasure, the radius must be strictly positive",
-           kClosedProfile, __LINE__);
+           kCircleProfile, __LINE__);
   Profile2D::Contour ring = circleContour(validPosition(), Radius(), params.curveDiscretization());
   std::vector<Profile2D> result;
   if (ring.empty()) return result;
@@ -30,7 +30,7 @@ std::vector<Profile2D> FcCircleProfileDef::closedProfile(const FcParams& params)
     report(
         "Assertion failed: Expect CurveDiscretization::discretizeCircle to return points in "
         "counter-clockwise order",
-        kClosedProfile, __LINE__);
+        kCircleProfile, __LINE__);
   result.emplace_back(std::vector<Profile2D::Contour>{std::move(ring)}, true);
   return result;
 }

@@ -9,8 +9,6 @@ class QOR_API FcCircleProfileDef : public FcCircleProfileDefAttributes {
  public:
   /// All edges are soft. A radius that isn't positive is reported and gives nothing.
   std::vector<generate::draw::Profile2D> closedProfile(const FcParams& params) const override;
-  /// With an exact circle.
-  std::vector<TopoDS_Face> ocProfile(const FcParams& params) const override;
   /// Two half circles around the profile's own origin: `Position` has no effect.
   std::shared_ptr<geometry::FcIndexedPolyCurve> generateIndexedPolycurve() const override;
   /// Also multiplies the radius by the length of the matrix's X row.

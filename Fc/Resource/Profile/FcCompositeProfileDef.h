@@ -10,8 +10,6 @@ class QOR_API FcCompositeProfileDef : public FcCompositeProfileDefAttributes {
  public:
   /// The areas of all members, in order.
   std::vector<generate::draw::Profile2D> closedProfile(const FcParams& params) const override;
-  /// Those of all members, in order.
-  std::vector<TopoDS_Face> ocProfile(const FcParams& params) const override;
   /// Acts on each member.
   void transform2d(const math::Matrix2d& matrix) override;
   /// Around the boxes of all members.

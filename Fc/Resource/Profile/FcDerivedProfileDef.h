@@ -11,7 +11,6 @@ class QOR_API FcDerivedProfileDef : public FcDerivedProfileDefAttributes {
   /// Without an operator those of the parent, without a parent none. A profile that derives from
   /// itself is reported and has none.
   std::vector<generate::draw::Profile2D> closedProfile(const FcParams& params) const override;
-  std::vector<TopoDS_Face> ocProfile(const FcParams& params) const override;
 
  protected:
   /// What `Operator` does to the parent; empty without one.

@@ -20,7 +20,6 @@ class QOR_API FcParameterizedProfileDef : public FcParameterizedProfileDefAttrib
       const override;
   /// The points of that curve, soft along its arcs.
   std::vector<generate::draw::Profile2D> closedProfile(const FcParams& params) const override;
-  std::vector<TopoDS_Face> ocProfile(const FcParams& params) const override;
   /// Acts on `Position`, which is made where it is absent; dimensions stay.
   void transform2d(const math::Matrix2d& matrix) override;
 

@@ -15,7 +15,7 @@ using generate::draw::Profile2D;
 
 namespace {
 
-void assertThat(bool holds, const char* message, int line) {
+void expectHollow(bool holds, const char* message, int line) {
   if (!holds)
     report(message,
            "qor::fc::resource::profile::FcRectangleHollowProfileDef::assertThatProfileDataIsValid",
@@ -42,46 +42,46 @@ void FcRectangleHollowProfileDef::assertThatProfileDataIsValid() const {
   const double wall = WallThickness();
   const double inner = InnerFilletRadius().value_or(0.0);
   const double outer = OuterFilletRadius().value_or(0.0);
-  assertThat(xHalf > tolerance,
+  expectHollow(xHalf > tolerance,
              "By definition of IfcPositiveLengthMeasure, XDim / 2 should be a positive distance",
              __LINE__);
-  assertThat(yHalf > tolerance,
+  expectHollow(yHalf > tolerance,
              "By definition of IfcPositiveLengthMeasure, YDim / 2 should be a positive distance",
              __LINE__);
-  assertThat(
+  expectHollow(
       wall > tolerance,
       "By definition of IfcPositiveLengthMeasure, WallThickness should be a positive distance",
       __LINE__);
-  assertThat(wall < xHalf - tolerance,
+  expectHollow(wall < xHalf - tolerance,
              "By formal proposition, the wall thickness must be strictly smaller than half of XDim",
              __LINE__);
-  assertThat(wall < yHalf - tolerance,
+  expectHollow(wall < yHalf - tolerance,
              "By formal proposition, the wall thickness must be strictly smaller than half of YDim",
              __LINE__);
-  assertThat(
+  expectHollow(
       inner >= 0,
       "By definition of IfcNonNegativeLengthMeasure, InnerFilletRadius should not be negative",
       __LINE__);
-  assertThat(
+  expectHollow(
       outer >= 0,
       "By definition of IfcNonNegativeLengthMeasure, OuterFilletRadius should not be negative",
       __LINE__);
-  assertThat(
+  expectHollow(
       inner <= xHalf - wall + tolerance,
       "By formal proposition, InnerFilletRadius must not be larger than XDim / 2 - WallThickness",
       __LINE__);
-  assertThat(
+  expectHollow(
       inner <= yHalf - wall + tolerance,
       "By formal proposition, InnerFilletRadius must not be larger than YDim / 2 - WallThickness",
       __LINE__);
-  assertThat(outer <= xHalf + tolerance,
+  expectHollow(outer <= xHalf + tolerance,
              "By formal proposition, OuterFilletRadius must not be larger than XDim / 2", __LINE__);
-  assertThat(outer <= yHalf + tolerance,
+  expectHollow(outer <= yHalf + tolerance,
              "By formal proposition, OuterFilletRadius must not be larger than YDim / 2", __LINE__);
 
   // How far both contours stay away, along the diagonal, from the sharp outer corner.
   const double cut = std::numbers::sqrt2 - 1;
-  assertThat(outer * cut < wall * std::numbers::sqrt2 + inner * cut,
+  expectHollow(outer * cut < wall * std::numbers::sqrt2 + inner * cut,
              "The inner fillet intersects with (or touches) the outer contour of the profile",
              __LINE__);
 }

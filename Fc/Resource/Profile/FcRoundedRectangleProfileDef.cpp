@@ -13,7 +13,7 @@ using generate::draw::Profile2D;
 
 namespace {
 
-void assertThat(bool holds, const char* message, int line) {
+void expectRounded(bool holds, const char* message, int line) {
   if (!holds)
     report(message, "qor::fc::resource::profile::FcRoundedRectangleProfileDef::closedProfile",
            line);
@@ -25,13 +25,13 @@ std::vector<Profile2D> FcRoundedRectangleProfileDef::closedProfile(const FcParam
   assertThatDimensionsArePositive();
   const double tolerance = math::Epsilon::current().general;
   const double radius = RoundingRadius();
-  assertThat(
+  expectRounded(
       radius > tolerance,
       "By definition of IfcPositiveLengthMeasure, RoundingRadius should be a positive distance",
       __LINE__);
-  assertThat(radius <= XDim() / 2 + tolerance,
+  expectRounded(radius <= XDim() / 2 + tolerance,
              "By formal proposition, RoundingRadius must not be larger than XDim / 2", __LINE__);
-  assertThat(radius <= YDim() / 2 + tolerance,
+  expectRounded(radius <= YDim() / 2 + tolerance,
              "By formal proposition, RoundingRadius must not be larger than YDim / 2", __LINE__);
 
   FlaggedContour contour =

@@ -18,7 +18,7 @@ using math::Vector2d;
 
 namespace {
 
-void assertThat(bool holds, const char* message, int line) {
+void expectContour(bool holds, const char* message, int line) {
   if (!holds)
     report(message, "qor::fc::resource::profile::FcRectangleProfileDef::contourWithRoundedCorners",
            line);
@@ -30,15 +30,15 @@ bool isUnit(const Vector2d& axis) {
 
 void checkRounding(const Matrix2d& frame, double xHalf, double yHalf, double radius) {
   const double tolerance = Epsilon::current().length;
-  assertThat(radius <= xHalf + tolerance,
+  expectContour(radius <= xHalf + tolerance,
              "Assertion failed: Expect only to be called if roundingRadius <= xDimHalf", __LINE__);
-  assertThat(radius <= yHalf + tolerance,
+  expectContour(radius <= yHalf + tolerance,
              "Assertion failed: Expect only to be called if roundingRadius <= yDimHalf", __LINE__);
-  assertThat(radius > 0, "Assertion failed: Expect only to be called if roundingRadius > 0.0",
+  expectContour(radius > 0, "Assertion failed: Expect only to be called if roundingRadius > 0.0",
              __LINE__);
-  assertThat(isUnit(frame.x()), "Expect only to be called if profile xAxis is normalized",
+  expectContour(isUnit(frame.x()), "Expect only to be called if profile xAxis is normalized",
              __LINE__);
-  assertThat(isUnit(frame.y()), "Expect only to be called if profile yAxis is normalized",
+  expectContour(isUnit(frame.y()), "Expect only to be called if profile yAxis is normalized",
              __LINE__);
 }
 
@@ -47,7 +47,7 @@ FlaggedContour circle(const Matrix2d& frame, double radius, ContourOrientation o
   FlaggedContour result;
   const double start = Vector2d(1, 0).counterClockwiseAngle(frame.x());
   result.points = discretization.discretizeCircle(frame.origin(), radius, start);
-  assertThat(generate::draw::isCounterClockwisePolygon(result.points),
+  expectContour(generate::draw::isCounterClockwisePolygon(result.points),
              "Assertion failed: Expect CurveDiscretization::discretizeCircle to construct points "
              "in counter-clockwise order",
              __LINE__);
@@ -59,11 +59,11 @@ FlaggedContour circle(const Matrix2d& frame, double radius, ContourOrientation o
 
 void checkOrientation(const FlaggedContour& contour, ContourOrientation orientation) {
   if (orientation == ContourOrientation::counterClockwise)
-    assertThat(generate::draw::isCounterClockwisePolygon(contour.points),
+    expectContour(generate::draw::isCounterClockwisePolygon(contour.points),
                "Assertion failed: Expect to have constructed points in counter-clockwise order",
                __LINE__);
   else
-    assertThat(generate::draw::isClockwisePolygon(contour.points),
+    expectContour(generate::draw::isClockwisePolygon(contour.points),
                "Assertion failed: Expect to have constructed points in clockwise order", __LINE__);
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Fc/ComplexGeometry/OpenCascadeTypes.h"
 #include "Fc/Resource/Topology/FcConnectedFaceSetAttributes.h"
 #include "Fc/Resource/Topology/PointIndices.h"
 #include "Qor/Draw/PolygonalFaceSetOpenGL.h"
@@ -17,9 +16,6 @@ class QOR_API FcConnectedFaceSet : public FcConnectedFaceSetAttributes {
   void transform(const math::Matrix& matrix) override;
   /// Around all faces that have a box; empty when none has.
   std::optional<math::Extent> boundingBox(const FcParams& params) const override;
-  /// One shape of all faces: a solid when they close, else a shell, or a compound of such. A face
-  /// that can't be made is reported and left out.
-  std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const override;
 
   /// All faces over one list of coordinates, a point object that several share once. Empty when a
   /// bound of some face is no polygon. Linear in the corners.

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Fc/ComplexGeometry/OpenCascadeTypes.h"
 #include "Fc/Resource/Topology/FcOrientedEdgeAttributes.h"
 
 namespace qor::fc::resource::topology {
@@ -8,7 +7,6 @@ namespace qor::fc::resource::topology {
 /// IfcOrientedEdge, Resource.Topology: an edge in the direction of a loop.
 class QOR_API FcOrientedEdge : public FcOrientedEdgeAttributes {
  public:
-  std::shared_ptr<TopoDS_Edge> ocEdge(ocMemoizer& memoizer) const override;
   /// Those of its element, from last to first where `Orientation` is false.
   bool getPoints2d(std::vector<math::Point2d>& points, const FcParams& params) const override;
   std::vector<math::Point3d> getPoints3d(const FcParams& params) const override;

@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include "Fc/ComplexGeometry/BooleanOperations.h"
+#include "Fc/ComplexGeometry/Bridge/BooleanOperations.h"
 #include "Fc/ComplexGeometry/FcThreadedComplexGeometryProcessor.h"
 #include "Fc/Resource/GeometricModel/FcPolygonalBoundedHalfSpace.h"
 #include "Fc/Resource/Geometry/FcPolyline.h"

@@ -5,8 +5,8 @@
 
 #include <numbers>
 
-#include "Fc/ComplexGeometry/FaceSetsFromShapes.h"
-#include "Fc/ComplexGeometry/ocMemoizer.h"
+#include "Fc/ComplexGeometry/Bridge/FaceSetsFromShapes.h"
+#include "Fc/ComplexGeometry/Bridge/ocMemoizer.h"
 #include "Fc/HelperFunctionsOC.h"
 #include "Tests/Fc/ComplexGeometry/Items.h"
 #include "Tests/Fc/ComplexGeometry/ShapeMeasures.h"

@@ -1,4 +1,4 @@
-#include "Fc/ComplexGeometry/Bridge/ConversionGuard.h"
+#include "Fc/Resource/ConversionGuard.h"
 
 #include <algorithm>
 

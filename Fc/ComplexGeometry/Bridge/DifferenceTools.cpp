@@ -1,10 +1,9 @@
-#include "Fc/ComplexGeometry/DifferenceTools.h"
+#include "Fc/ComplexGeometry/Bridge/DifferenceTools.h"
 
 #include <BRepBndLib.hxx>
 #include <Bnd_Box.hxx>
 #include <algorithm>
 
-#include "Fc/ComplexGeometry/BooleanOperations.h"
 #include "Fc/HelperFunctionsOC.h"
 #include "Fc/Resource/GeometricModel/FcPolygonalBoundedHalfSpace.h"
 #include "Fc/Resource/Geometry/FcRepresentationItem.h"
@@ -32,11 +31,6 @@ math::Extent boxAround(const std::vector<TopoDS_Shape>& shapes) {
 
 }  // namespace
 
-bool isExpensiveTool(const FcBooleanOperand& operand) {
-  const auto* item = fcCast<resource::geometry::FcRepresentationItem>(operand.getEntity());
-  return item && isExpensiveTool(*item);
-}
-
 DifferenceTools::DifferenceTools(const FcBooleanOperand& base,
                                  const std::vector<TopoDS_Shape>& shapes, const FcParams& params)
     : m_params(params), m_box(base.boundingBox(params)) {
@@ -51,7 +45,7 @@ DifferenceTools::Tool DifferenceTools::of(const FcBooleanOperand& operand) const
     if (m_box && m_box->isValid()) {
       tool.isAway = bounded->isAwayFrom(*m_box);
       const double depth = m_box->size().length() + bounded->distanceTo(*m_box);
-      if (!tool.isAway) tool.shapes = bounded->ocRepresentationForClipping(depth, m_params);
+      if (!tool.isAway) tool.shapes = bounded->ocPrismForClipping(depth, m_params);
     }
   } else if (operand.isHalfSpaceSolid()) {
     const auto halfSpace = operand.HalfSpaceSolidAssert();

@@ -11,9 +11,6 @@ namespace qor::fc {
 
 class FcParams;
 
-/// The tool is one whose cut may take long, as `isExpensiveTool` of its item has it.
-bool isExpensiveTool(const resource::geometricmodel::FcBooleanOperand& operand);
-
 /// Makes the shapes that a body is cut with. Half-spaces become prisms that reach round the body.
 class DifferenceTools {
  public:

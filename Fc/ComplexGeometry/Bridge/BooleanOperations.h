@@ -7,14 +7,6 @@
 
 namespace qor::fc {
 
-namespace resource::geometry {
-class FcRepresentationItem;
-}
-
-/// The tool is of a class whose cuts may take long: a tessellated face set or a boundary
-/// representation.
-QOR_API bool isExpensiveTool(const resource::geometry::FcRepresentationItem& item);
-
 // Each reports, by one assert, that Open CASCADE has failed, and gives a null shape then. What is
 // within the fuzzy value, in metres, of each other counts as touching.
 

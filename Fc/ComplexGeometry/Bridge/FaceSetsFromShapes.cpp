@@ -1,4 +1,4 @@
-#include "Fc/ComplexGeometry/FaceSetsFromShapes.h"
+#include "Fc/ComplexGeometry/Bridge/FaceSetsFromShapes.h"
 
 #include <BRepMesh_IncrementalMesh.hxx>
 #include <BRepTools.hxx>
@@ -18,7 +18,7 @@
 #include <optional>
 #include <utility>
 
-#include "Fc/ComplexGeometry/PointMerger.h"
+#include "Fc/ComplexGeometry/Bridge/PointMerger.h"
 #include "Fc/HelperFunctionsOC.h"
 #include "Fc/Resource/Report.h"
 

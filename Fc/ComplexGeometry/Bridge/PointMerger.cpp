@@ -1,4 +1,4 @@
-#include "Fc/ComplexGeometry/PointMerger.h"
+#include "Fc/ComplexGeometry/Bridge/PointMerger.h"
 
 #include <cmath>
 #include <cstddef>

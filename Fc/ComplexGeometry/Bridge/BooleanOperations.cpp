@@ -1,4 +1,4 @@
-#include "Fc/ComplexGeometry/BooleanOperations.h"
+#include "Fc/ComplexGeometry/Bridge/BooleanOperations.h"
 
 #include <BOPAlgo_BOP.hxx>
 #include <BRepAlgoAPI_Common.hxx>
@@ -10,8 +10,6 @@
 #include <string>
 
 #include "Fc/HelperFunctionsOC.h"
-#include "Fc/Resource/GeometricModel/FcManifoldSolidBrep.h"
-#include "Fc/Resource/GeometricModel/FcTessellatedFaceSet.h"
 
 namespace qor::fc {
 namespace {
@@ -34,11 +32,6 @@ TopoDS_Shape guardedBoolean(const std::string& name, const std::function<TopoDS_
 }
 
 }  // namespace
-
-bool isExpensiveTool(const resource::geometry::FcRepresentationItem& item) {
-  return fcCast<resource::geometricmodel::FcTessellatedFaceSet>(&item) ||
-         fcCast<resource::geometricmodel::FcManifoldSolidBrep>(&item);
-}
 
 TopoDS_Shape cutShapes(const std::vector<TopoDS_Shape>& arguments,
                        const std::vector<TopoDS_Shape>& tools, double fuzzyValue) {
