@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/Reflection/MakeEntity.h"
 #include "Fc/Resource/GeometricModel/FcBlock.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList3D.h"

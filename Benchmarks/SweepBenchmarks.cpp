@@ -4,8 +4,8 @@
 #include <memory>
 #include <utility>
 
-#include "Fc/FcDrawInterface.h"
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawInterface.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/Resource/GeometricModel/FcExtrudedAreaSolid.h"
 #include "Fc/Resource/GeometricModel/FcSweptDiskSolid.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"

@@ -6,10 +6,10 @@
 
 #include "Fc/Core/Kernel/FcProject.h"
 #include "Fc/Core/Kernel/FcRoot.h"
+#include "Fc/Drawing/FcGenerateParams.h"
 #include "Fc/Factory.h"
-#include "Fc/FcGenerateParams.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Representation/FcGeometricRepresentationContext.h"
-#include "Qor/Assert/Assert.h"
 
 namespace qor::fc {
 
@@ -18,15 +18,6 @@ using core::kernel::FcRoot;
 using resource::representation::FcGeometricRepresentationContext;
 
 namespace {
-
-void report(std::string message, const char* function, int line) {
-  if (Assert::isEnabled())
-    Assert::addAssert({.kind = 0,
-                       .message = std::move(message),
-                       .function = function,
-                       .source = "Data",
-                       .line = line});
-}
 
 struct ById {
   bool operator()(const std::shared_ptr<FcBase>& a, const std::shared_ptr<FcBase>& b) const {
@@ -69,8 +60,7 @@ void Data::entityAdd(std::shared_ptr<FcBase> entity, bool checkDuplicate) {
     m_project = std::static_pointer_cast<FcProject>(m_entities.back());
   if (id >= FcRoot::firstClassId && id <= FcRoot::lastClassId) {
     m_pendingGuidEntities.push_back(std::static_pointer_cast<FcRoot>(m_entities.back()));
-    if (weak_from_this().expired())
-      report("This should be created with std::make_shared", "qor::fc::Data::entityAdd", __LINE__);
+    if (weak_from_this().expired()) report("This should be created with std::make_shared");
     static_cast<FcRoot&>(added).m_data = weak_from_this();
   } else if (auto* context = fcCast<FcGeometricRepresentationContext>(&added)) {
     context->m_data = weak_from_this();
@@ -123,8 +113,7 @@ void Data::clear() {
 void Data::rebuildEntityList() {
   const std::shared_ptr<FcProject> start = project();
   if (!start) {
-    report("fc::Data::rebuildEntityList can only be used if data contains a project",
-           "qor::fc::Data::rebuildEntityList", __LINE__);
+    report("fc::Data::rebuildEntityList can only be used if data contains a project");
     return;
   }
   const auto reached = getAllReferencedEntitiesNonConst(start);
@@ -200,8 +189,7 @@ void Data::guidUpdate() const {
       kept.push_back(std::move(root));
     } else if (!m_guidEntityMap.emplace(guid, root).second) {
       report("Guid with id '" + guid.toString(false) +
-                 "' already exist in m_guidEntityMap on object '" + root->ifcName() + "'",
-             "qor::fc::Data::guidUpdate", __LINE__);
+             "' already exist in m_guidEntityMap on object '" + root->ifcName() + "'");
     }
   }
   m_pendingGuidEntities = std::move(kept);

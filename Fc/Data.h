@@ -10,8 +10,8 @@
 #include <utility>
 #include <vector>
 
-#include "Fc/EntityRange.h"
 #include "Fc/FcBase.h"
+#include "Fc/Model/EntityRange.h"
 #include "Fc/Reflection/MakeEntity.h"
 #include "Qor/Id/Guid.h"
 #include "Qor/Platform/Export.h"

@@ -5,19 +5,15 @@
 
 #include "Fc/FcBase.h"
 #include "Fc/Reflection/SchemaTables.h"
-#include "Qor/Assert/Assert.h"
+#include "Qor/Assert/Report.h"
 
 namespace qor::fc {
 
 namespace {
 
-void reportUnknown(const char* what, const StringHash& name, const char* function, int line) {
-  if (Assert::isEnabled())
-    Assert::addAssert({.kind = 0,
-                       .message = std::string(what) + " (" + std::string(name.view()) + ")",
-                       .function = function,
-                       .source = "FcFactory",
-                       .line = line});
+void reportUnknown(const char* what, const StringHash& name,
+                   const std::source_location& where = std::source_location::current()) {
+  report(std::string(what) + " (" + std::string(name.view()) + ")", where);
 }
 
 }  // namespace
@@ -25,23 +21,21 @@ void reportUnknown(const char* what, const StringHash& name, const char* functio
 std::shared_ptr<FcBase> Factory::objectFromIfcName(const StringHash& name) {
   const ClassInfo* info = find(name);
   if (info && !info->isAbstract()) return info->create();
-  reportUnknown("Illegal class name or abstract class", name, "qor::fc::Factory::objectFromIfcName",
-                __LINE__);
+  reportUnknown("Illegal class name or abstract class", name);
   return nullptr;
 }
 
 std::optional<std::type_index> Factory::typeInfoFromIfcName(const StringHash& name) {
   const ClassInfo* info = find(name);
   if (info && !info->isAbstract()) return *info->type;
-  reportUnknown("Illegal class name or abstract class", name,
-                "qor::fc::Factory::typeInfoFromIfcName", __LINE__);
+  reportUnknown("Illegal class name or abstract class", name);
   return std::nullopt;
 }
 
 std::optional<std::pair<unsigned int, unsigned int>> Factory::boundFromIfcName(
     const StringHash& name) {
   if (const ClassInfo* info = find(name)) return std::pair(info->classId, info->classIdLast);
-  reportUnknown("Illegal class name", name, "qor::fc::Factory::boundFromIfcName", __LINE__);
+  reportUnknown("Illegal class name", name);
   return std::nullopt;
 }
 

@@ -4,7 +4,8 @@
 #include "Fc/FcCopySettings.h"
 #include "Fc/FcVisitorBase.h"
 #include "Fc/FcVisitorBaseNonConst.h"
-#include "Fc/Localize.h"
+#include "Fc/Model/Localize.h"
+#include "Fc/Model/ValueAttributes.h"
 #include "Fc/Property.h"
 #include "Fc/Reflection/EntityComparison.h"
 #include "Fc/Reflection/EnumInfo.h"
@@ -12,7 +13,6 @@
 #include "Fc/Reflection/Links.h"
 #include "Fc/Reflection/NumberOf.h"
 #include "Fc/Resource/Measure/MeasureQuantities.h"
-#include "Fc/ValueAttributes.h"
 
 namespace qor::fc {
 

@@ -1,6 +1,6 @@
 #include "Fc/FcParams.h"
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
 
 namespace qor::fc {
 

@@ -3,7 +3,7 @@
 #include <charconv>
 #include <string_view>
 
-#include "Qor/Assert/Assert.h"
+#include "Qor/Assert/Report.h"
 
 namespace qor::fc {
 
@@ -15,15 +15,6 @@ std::string_view numberOf(std::string_view text) {
   text.remove_prefix(first == std::string_view::npos ? text.size() : first);
   if (text.size() > 1 && text[0] == '+' && text[1] != '-') text.remove_prefix(1);
   return text;
-}
-
-void reportNotImplemented(const char* function, int line) {
-  if (Assert::isEnabled())
-    Assert::addAssert({.kind = 0,
-                       .message = "Not implemented",
-                       .function = function,
-                       .source = "HelperFunctions",
-                       .line = line});
 }
 
 }  // namespace
@@ -68,12 +59,7 @@ std::optional<std::string> textFromLogical(LogicalValue value) {
     case LogicalValue::Unknown:
       return "unknown";
   }
-  if (Assert::isEnabled())
-    Assert::addAssert({.kind = 0,
-                       .message = "Not implemented for this enum type",
-                       .function = "qor::fc::BaseType<enum qor::LogicalValue>::getAsString",
-                       .source = "BaseType",
-                       .line = __LINE__});
+  report("Not implemented for this enum type");
   return std::nullopt;
 }
 
@@ -90,17 +76,17 @@ bool logicalFromText(const std::string& text, LogicalValue& out) {
 }
 
 std::optional<std::string> getMemberAsStringObject() {
-  reportNotImplemented("qor::fc::getMemberAsStringObject", __LINE__);
+  report("Not implemented");
   return std::nullopt;
 }
 
 bool setMemberFromStringObject() {
-  reportNotImplemented("qor::fc::setMemberFromStringObject", __LINE__);
+  report("Not implemented");
   return false;
 }
 
 bool setMemberFromStringPrimitive() {
-  reportNotImplemented("qor::fc::setMemberFromStringPrimitive", __LINE__);
+  report("Not implemented");
   return false;
 }
 

@@ -14,7 +14,7 @@
 #include <gp_Mat.hxx>
 #include <gp_Trsf.hxx>
 
-#include "Qor/Assert/Assert.h"
+#include "Fc/Model/Report.h"
 
 namespace qor::fc {
 namespace {
@@ -30,13 +30,6 @@ class QuietFloatingPoint {
  private:
   std::fenv_t m_saved;
 };
-
-void report(const std::string& message, const char* function, int line) {
-  if (Assert::isEnabled()) {
-    Assert::addAssert(
-        {.message = message, .function = function, .source = "HelperFunctionsOC", .line = line});
-  }
-}
 
 bool nearlyEqual(double a, double b) { return std::abs(a - b) <= math::Epsilon::current().general; }
 
@@ -96,10 +89,10 @@ Shape tryOpenCascadeConstruction(const std::function<Shape()>& construct,
   try {
     shape = construct();
   } catch (const Standard_Failure&) {
-    report(failureMessage, "qor::fc::tryOpenCascadeConstruction", __LINE__);
+    report(failureMessage);
     return Shape();
   }
-  if (shape.IsNull()) report(nullMessage, "qor::fc::tryOpenCascadeConstruction", __LINE__);
+  if (shape.IsNull()) report(nullMessage);
   return shape;
 }
 
@@ -114,7 +107,7 @@ bool guardOpenCascade(const std::function<void()>& work, const std::string& fail
     work();
     return true;
   } catch (const Standard_Failure&) {
-    report(failureMessage, "qor::fc::guardOpenCascade", __LINE__);
+    report(failureMessage);
     return false;
   }
 }
@@ -138,8 +131,7 @@ TopoDS_Wire getClosedWireFromPoints(const std::vector<math::Point3d>& points) {
         for (std::size_t i = 0, count = ringSize(points); i < count; ++i)
           polygon.Add(toOpenCascade(points[i]));
         if (!polygon.IsDone()) {
-          report("BRepBuilderAPI_MakePolygon was not successful.",
-                 "qor::fc::getClosedWireFromPoints", __LINE__);
+          report("BRepBuilderAPI_MakePolygon was not successful.");
           return;
         }
         polygon.Close();

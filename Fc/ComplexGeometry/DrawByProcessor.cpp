@@ -6,18 +6,17 @@
 #include "Fc/ComplexGeometry/FcComplexGeometryProcessorInterface.h"
 #include "Fc/ComplexGeometry/FcExplicitGeometryTask.h"
 #include "Fc/ComplexGeometry/FcPolygonalFaceSetResult.h"
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcRepresentationItem.h"
-#include "Fc/Resource/Report.h"
 
 namespace qor::fc {
 
 void drawByProcessor(const resource::geometry::FcRepresentationItem& item,
-                     const FcDrawParams& params, const char* function) {
+                     const FcDrawParams& params, const std::source_location& where) {
   const auto* processor = getCurrentComplexGeometryProcessor();
   if (!processor) {
-    resource::report("No FcComplexGeometryProcessorInterface implementation set.", function,
-                     __LINE__);
+    report(item, "No FcComplexGeometryProcessorInterface implementation set.", where);
     return;
   }
   const auto result = processor->processAndCast<FcPolygonalFaceSetResult>(

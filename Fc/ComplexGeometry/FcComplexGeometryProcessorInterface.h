@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "Fc/ComplexGeometry/FcComplexGeometryTaskResult.h"
-#include "Qor/Assert/Assert.h"
+#include "Fc/Model/Report.h"
 #include "Qor/Platform/Export.h"
 
 namespace qor::fc {
@@ -56,12 +56,7 @@ std::unique_ptr<ResultType> FcComplexGeometryProcessorInterface::processAndCast(
     result.release();
     return std::unique_ptr<ResultType>(typed);
   }
-  if (Assert::isEnabled()) {
-    Assert::addAssert({.message = "Unexpected result type",
-                       .function = "qor::fc::FcComplexGeometryProcessorInterface::processAndCast",
-                       .source = "FcComplexGeometryProcessorInterface",
-                       .line = __LINE__});
-  }
+  report("Unexpected result type");
   return nullptr;
 }
 

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "Fc/ComplexGeometry/FcComplexGeometryProcessorQueueContext.h"
+#include "Fc/Model/Report.h"
 
 namespace qor::fc {
 namespace {
@@ -20,14 +21,7 @@ void fulfil(std::promise<std::unique_ptr<FcComplexGeometryTaskResult>>& promise,
   }
 }
 
-void reportFailure(const std::string& what) {
-  if (Assert::isEnabled()) {
-    Assert::addAssert({.message = "A queued task failed: " + what,
-                       .function = "qor::fc::FcThreadedComplexGeometryProcessor::runEntry",
-                       .source = "FcThreadedComplexGeometryProcessor",
-                       .line = __LINE__});
-  }
-}
+void reportFailure(const std::string& what) { report("A queued task failed: " + what); }
 
 }  // namespace
 

@@ -7,16 +7,15 @@
 #include "Fc/ComplexGeometry/FcDoubleResult.h"
 #include "Fc/ComplexGeometry/FcGetSurfacesTask.h"
 #include "Fc/ComplexGeometry/FcSurfacesResult.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcRepresentationItem.h"
-#include "Fc/Resource/Report.h"
 
 namespace qor::fc::resource::geometry {
 namespace {
 
-const FcComplexGeometryProcessorInterface* processorFor(const char* function) {
+const FcComplexGeometryProcessorInterface* processorFor(const FcRepresentationItem& item) {
   const auto* processor = getCurrentComplexGeometryProcessor();
-  if (!processor)
-    report("No FcComplexGeometryProcessorInterface implementation set.", function, __LINE__);
+  if (!processor) report(item, "No FcComplexGeometryProcessorInterface implementation set.");
   return processor;
 }
 
@@ -28,8 +27,7 @@ std::shared_ptr<const FcRepresentationItem> shared(const FcRepresentationItem& i
 
 std::vector<math::_3d::Polygon> FcRepresentationItem::getSurfaces(
     const FcParams& params, const math::Matrix& matrix) const {
-  const auto* processor =
-      processorFor("qor::fc::resource::geometry::FcRepresentationItem::getSurfaces");
+  const auto* processor = processorFor(*this);
   if (!processor) return {};
   const auto result =
       processor->processAndCast<FcSurfacesResult>(FcGetSurfacesTask(params, shared(*this), matrix));
@@ -39,8 +37,7 @@ std::vector<math::_3d::Polygon> FcRepresentationItem::getSurfaces(
 std::optional<double> FcRepresentationItem::getDistanceToOtherItem(
     const FcParams& params, const math::Matrix& thisMatrix, const FcRepresentationItem& other,
     const math::Matrix& otherMatrix) const {
-  const auto* processor =
-      processorFor("qor::fc::resource::geometry::FcRepresentationItem::getDistanceToOtherItem");
+  const auto* processor = processorFor(*this);
   if (!processor) return {};
   const auto result = processor->processAndCast<FcDoubleResult>(
       FcCalculateDistanceTask(params, shared(*this), shared(other), thisMatrix, otherMatrix));

@@ -1,6 +1,6 @@
 #include "Fc/ComplexGeometry/SolidModeller.h"
 
-#include "Fc/Resource/Report.h"
+#include "Fc/Model/Report.h"
 #include "Qor/Platform/SharedLibrary.h"
 
 namespace qor::fc {
@@ -11,8 +11,7 @@ const SolidModeller* openModeller() {
   static SharedLibrary library(QOR_SHARED_LIBRARY_NAME("FcOpenCascade"));
   const auto make = library.find<Maker>("fcOpenCascadeModeller");
   if (make) return make();
-  resource::report("The solid modeller can't be opened: " + library.error(),
-                   "qor::fc::SolidModeller::get", __LINE__);
+  report("The solid modeller can't be opened: " + library.error());
   return nullptr;
 }
 

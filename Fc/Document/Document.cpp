@@ -2,7 +2,7 @@
 
 #include "Fc/Core/Kernel/FcProject.h"
 #include "Fc/Data.h"
-#include "Fc/FcGenerateParams.h"
+#include "Fc/Drawing/FcGenerateParams.h"
 #include "Qor/Math/Epsilon.h"
 
 namespace qor::fc::document {

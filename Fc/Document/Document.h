@@ -4,7 +4,7 @@
 
 #include "Fc/Document/DocumentInterface.h"
 #include "Fc/Document/Object.h"
-#include "Fc/ObjectInterfaceFactory.h"
+#include "Fc/Drawing/ObjectInterfaceFactory.h"
 #include "Fc/Tree/DrawStatus.h"
 
 namespace qor::fc {

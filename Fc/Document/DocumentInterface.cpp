@@ -1,6 +1,6 @@
 #include "Fc/Document/DocumentInterface.h"
 
-#include "Fc/FcDrawInterfaceWrapper.h"
+#include "Fc/Drawing/FcDrawInterfaceWrapper.h"
 
 namespace qor::fc::document {
 

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "Fc/ObjectInterface.h"
+#include "Fc/Drawing/ObjectInterface.h"
 
 namespace qor::fc::document {
 

@@ -15,6 +15,7 @@
 #include "Fc/Core/ProductExtension/FcSpatialZone.h"
 #include "Fc/Data.h"
 #include "Fc/Domain/StructuralElements/FcVoidingFeature.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Representation/FcGeometricRepresentationSubContext.h"
 #include "Fc/Resource/Representation/FcRepresentation.h"
 #include "Qor/Draw/IfcGeometricRepresentationContextEnum.h"
@@ -39,11 +40,7 @@ bool isValidContextIdentifier(const std::string& identifier) {
     if (equalsIgnoreCase(identifier,
                          Texts::sContextIdentifier(static_cast<Texts::ModelContextIdentifier>(i))))
       return true;
-  if (Assert::isEnabled())
-    Assert::addAssert({.message = "Invalid IfcGeometricRepresentationSubContext ContextIdentifier",
-                       .function = "qor::fc::DrawStatus::addProject",
-                       .source = "DrawStatus",
-                       .line = __LINE__});
+  report("Invalid IfcGeometricRepresentationSubContext ContextIdentifier");
   return false;
 }
 

@@ -13,6 +13,7 @@
 #include "Fc/Core/Kernel/FcRoot.h"
 #include "Fc/Data.h"
 #include "Fc/Factory.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Representation/FcGeometricRepresentationContext.h"
 #include "Fc/Tree/DrawStatus.h"
 #include "Qor/Xml/File.h"
@@ -41,16 +42,6 @@ constexpr KeyWords stateWords{"IfcRoot", "IfcContext", "IfcClass"};
 const char* wordOf(State state) {
   return state == State::Transparent ? "Transparent" : "Wireframe";
 }
-
-void report(std::string message, const char* function, int line) {
-  if (Assert::isEnabled())
-    Assert::addAssert({.message = std::move(message),
-                       .function = function,
-                       .source = "DrawStatus",
-                       .line = line});
-}
-constexpr const char* serializing = "qor::fc::DrawStatus::serialize";
-constexpr const char* deserializing = "qor::fc::DrawStatus::deserialize";
 
 /// Appends one element for a key.
 struct KeyWriter {
@@ -89,7 +80,7 @@ class KeyReader {
     if (ending == m_words.root) return readRoot(element);
     if (ending == m_words.context) return readContexts(element);
     if (ending == m_words.type) return readClass(element);
-    report("Unknown element " + element.nodeName(), deserializing, __LINE__);
+    report("Unknown element " + element.nodeName());
     return {};
   }
 
@@ -98,9 +89,9 @@ class KeyReader {
     const auto text = element.attribute("guid");
     Guid guid;
     if (!text)
-      report("Missing attribute guid on DisabledIfcRoot", deserializing, __LINE__);
+      report("Missing attribute guid on DisabledIfcRoot");
     else if (!guid.boSet(*text))
-      report("Invalid guid " + *text, deserializing, __LINE__);
+      report("Invalid guid " + *text);
     else if (const auto root = m_data.entityByGuid(guid))
       return {static_cast<const FcRoot*>(root.get())};
     return {};
@@ -119,7 +110,7 @@ class KeyReader {
   static DrawStatus::StateSet readClass(const xml::Element& element) {
     const auto name = element.attribute("name");
     if (!name) {
-      report("Missing attribute name on DisabledClass", deserializing, __LINE__);
+      report("Missing attribute name on DisabledClass");
       return {};
     }
     for (const auto& [type, className] : Factory::getFcClasses())
@@ -153,7 +144,7 @@ void DrawStatus::serialize(std::ostream& stream) const {
   xml::File file;
   auto root = file.create(rootElement);
   if (!root) {
-    report("Could not create element", serializing, __LINE__);
+    report("Could not create element");
     return;
   }
   xml::Element disabled = root->appendElement(disabledList);
@@ -169,11 +160,11 @@ std::optional<DrawStatus> DrawStatus::deserialize(const Data& data, std::istream
                                                   const std::string& fileName) {
   xml::File file;
   if (!file.parse(stream, fileName)) {
-    report("Could not parse XML file " + fileName, deserializing, __LINE__);
+    report("Could not parse XML file " + fileName);
     return std::nullopt;
   }
   if (file.root()->nodeName() != rootElement) {
-    report("Error in FcDrawStatus xml file", deserializing, __LINE__);
+    report("Error in FcDrawStatus xml file");
     return std::nullopt;
   }
   DrawStatus status;

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "Qor/Assert/Assert.h"
+#include "Fc/Model/Report.h"
 
 namespace qor::fc {
 
@@ -33,12 +33,8 @@ class EventHandlerContainer {
   void remove(HandlerId id) {
     if (const auto found = find(id); m_entries && found != m_entries->end()) {
       m_entries->erase(found);
-    } else if (Assert::isEnabled()) {
-      Assert::addAssert({.message = "Event handler doesn't exist",
-                         .function = "qor::fc::EventHandlerContainer::remove",
-                         .source = "EventHandlerContainer",
-                         .line = __LINE__});
-    }
+    } else
+      report("Event handler doesn't exist");
   }
 
  private:

@@ -6,7 +6,7 @@
 
 #include "Fc/Core/Kernel/FcProject.h"
 #include "Fc/Data.h"
-#include "Qor/Assert/Assert.h"
+#include "Fc/Model/Report.h"
 
 namespace qor::fc::utilities {
 
@@ -96,12 +96,7 @@ void removeHolding(const Holding& holding, const Deleted& deleted) {
 void deleteEntities(Data& data, const std::set<FcBase*>& entities) {
   const std::shared_ptr<FcBase> project = data.project();
   if (!project) {
-    if (Assert::isEnabled())
-      Assert::addAssert({.kind = 0,
-                         .message = "deleteEntities can only be used if data contains a project",
-                         .function = "qor::fc::utilities::deleteEntities",
-                         .source = "DeleteEntities",
-                         .line = __LINE__});
+    report("deleteEntities can only be used if data contains a project");
     return;
   }
   // One deleted entity may hold the last reference to another.

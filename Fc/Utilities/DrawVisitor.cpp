@@ -6,6 +6,7 @@
 #include "Fc/ComplexGeometry/FcExplicitGeometryTask.h"
 #include "Fc/ComplexGeometry/FcPolygonalFaceSetResult.h"
 #include "Fc/FcParams.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Reflection/MakeEntity.h"
 #include "Fc/Resource/GeometricConstraint/FcLocalPlacement.h"
 #include "Fc/Resource/GeometricModel/FcBooleanResult.h"
@@ -17,7 +18,6 @@
 #include "Fc/Resource/Representation/FcRepresentation.h"
 #include "Fc/Utilities/DrawForDebug.h"
 #include "Fc/Utilities/MarkerCone.h"
-#include "Qor/Assert/Assert.h"
 
 namespace qor::fc::utilities {
 
@@ -50,11 +50,7 @@ bool DrawVisitor::visit(const resource::geometry::FcRepresentationItem& item) {
 bool DrawVisitor::visit(const resource::geometricmodel::FcBooleanResult& boolean) {
   const auto* const processor = getCurrentComplexGeometryProcessor();
   if (!processor) {
-    if (Assert::isEnabled())
-      Assert::addAssert({.message = "No current complex geometry processor is set up.",
-                         .function = "DrawVisitor::visit",
-                         .source = "DrawVisitor",
-                         .line = __LINE__});
+    report("No current complex geometry processor is set up.");
     return true;
   }
   const auto item = std::static_pointer_cast<const resource::geometry::FcRepresentationItem>(

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/FcVisitorBase.h"
 #include "Qor/Math/Matrix.h"
 

@@ -1,6 +1,6 @@
 #include "Fc/Utilities/MarkerCone.h"
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/Reflection/MakeEntity.h"
 #include "Fc/Resource/GeometricModel/FcRightCircularCone.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"

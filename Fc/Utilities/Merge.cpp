@@ -5,9 +5,9 @@
 #include "Fc/Core/ProductExtension/FcElementQuantity.h"
 #include "Fc/Data.h"
 #include "Fc/FcCopySettings.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Property/FcProperty.h"
 #include "Fc/Resource/Quantity/FcPhysicalQuantity.h"
-#include "Qor/Assert/Assert.h"
 
 namespace qor::fc::utilities {
 
@@ -59,12 +59,8 @@ void merge(FcObjectDefinition& target, const FcObjectDefinition& source) {
     settings.target = data;
     mergeProperties(target, source, *data, settings);
     mergeQuantities(target, source, *data, settings);
-  } else if (Assert::isEnabled()) {
-    Assert::addAssert({.message = "Cannot merge property sets without FcData",
-                       .function = "qor::fc::utilities::merge",
-                       .source = "Merge",
-                       .line = __LINE__});
-  }
+  } else
+    report("Cannot merge property sets without FcData");
   for (const char* attribute : {"Name", "Description", "ObjectType", "Tag", "PredefinedType"}) {
     const std::string text = textOf(source, attribute);
     if (!text.empty() && textOf(target, attribute).empty())

@@ -13,8 +13,8 @@
 
 #include "Fc/Core/Kernel/FcProduct.h"
 #include "Fc/Document/Document.h"
-#include "Fc/FcDrawInterfaceWrapper.h"
-#include "Fc/FcGenerateParams.h"
+#include "Fc/Drawing/FcDrawInterfaceWrapper.h"
+#include "Fc/Drawing/FcGenerateParams.h"
 #include "Fc/Resource/Geometry/FcRepresentationItem.h"
 #include "Fc/Resource/Geometry/FcRepresentationMap.h"
 #include "Fc/Resource/Representation/FcProductRepresentation.h"

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "Fc/Data.h"
-#include "Fc/GenerateFilters.h"
+#include "Fc/Drawing/GenerateFilters.h"
 
 namespace qor::host::cli {
 

@@ -1,7 +1,7 @@
 #include "Host/Targets/DrawnEntity.h"
 
 #include "Fc/Core/Kernel/FcRoot.h"
-#include "Fc/ObjectInterface.h"
+#include "Fc/Drawing/ObjectInterface.h"
 
 namespace qor::host::targets {
 

@@ -7,7 +7,7 @@
 
 #include "Host/Targets/CleanText.h"
 #include "Host/Targets/DrawnEntity.h"
-#include "Qor/Assert/Assert.h"
+#include "Qor/Assert/Report.h"
 
 namespace qor::host::targets {
 
@@ -19,14 +19,6 @@ using generate::draw::SurfaceDrawType;
 using generate::draw::TriangulatedFaceSetOpenGL;
 using math::Matrix;
 using math::Point3d;
-
-void report(const char* message, int line) {
-  if (Assert::isEnabled())
-    Assert::addAssert({.message = message,
-                       .function = "qor::host::targets::SceneTarget",
-                       .source = "SceneTarget",
-                       .line = line});
-}
 
 bool isNear(const Point3d& p) {
   constexpr double far = SceneTarget::farthest;
@@ -117,7 +109,7 @@ bool SceneTarget::toContent(std::vector<Point3d>& points) {
     point = {none, none, none};
     allNear = false;
   }
-  if (!allNear) report("Coordinates that are no place in a model, left out", __LINE__);
+  if (!allNear) report("Coordinates that are no place in a model, left out");
   return allNear;
 }
 
@@ -161,7 +153,7 @@ void SceneTarget::polygonalFaceSet(PolygonalFaceSetOpenGL&& faceSet) {
     if (isLegal(face.outer) && std::all_of(face.holes.begin(), face.holes.end(), isLegal))
       m_triangulator.triangulate(points, face.outer, face.holes, triangles);
     else
-      report("Illegal index in face", __LINE__);
+      report("Illegal index in face");
   }
   addTriangles(std::move(points), std::move(triangles));
 }
@@ -175,7 +167,7 @@ void SceneTarget::triangulatedFaceSet(TriangulatedFaceSetOpenGL&& faceSet) {
     const auto isIllegal = [&](std::uint32_t i) { return i >= points.size(); };
     const auto isLost = [&](std::uint32_t i) { return !isNear(points[i]); };
     if (std::any_of(triangle.begin(), triangle.end(), isIllegal))
-      report("Illegal index in face", __LINE__);
+      report("Illegal index in face");
     else if (std::none_of(triangle.begin(), triangle.end(), isLost))
       triangles.insert(triangles.end(), triangle.begin(), triangle.end());
   }

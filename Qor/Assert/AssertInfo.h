@@ -16,6 +16,10 @@ struct AssertInfo {
   std::string function{};  ///< qualified name, such as "qor::fc::Factory::objectFromIfcName"
   std::string source{};    ///< name of the source without folder and ending, such as "FcFactory"
   int line = 0;            ///< 1-based; 0 when unknown
+  /// The object that breaks the rule, as the library that reports knows it: an `FcBase` in the
+  /// engine. Null where the rule is nobody's. It lives as long as the report.
+  const void* subject = nullptr;
+  std::string subjectClass{};  ///< "IfcWall"; empty without a subject
 };
 
 }  // namespace qor

@@ -4,7 +4,7 @@
 #include <span>
 #include <utility>
 
-#include "Qor/Assert/Assert.h"
+#include "Qor/Assert/Report.h"
 
 namespace qor::generate::draw {
 
@@ -18,11 +18,7 @@ bool look(std::span<const std::uint32_t> indices, const std::vector<Point3d>& co
   loop.clear();
   for (const std::uint32_t index : indices) {
     if (index >= coordinates.size()) {
-      if (Assert::isEnabled())
-        Assert::addAssert({.message = "Illegal index in face",
-                           .function = "qor::generate::draw::DrawInterfaceBase",
-                           .source = "DrawInterfaceBase",
-                           .line = __LINE__});
+      report("Illegal index in face");
       return false;
     }
     loop.push_back(coordinates[index]);

@@ -3,7 +3,7 @@
 #include <string>
 #include <utility>
 
-#include "Qor/Assert/Assert.h"
+#include "Qor/Assert/Report.h"
 
 namespace qor::generate::draw {
 
@@ -12,12 +12,8 @@ namespace {
 template <class List>
 void dropUnlessFits(std::optional<List>& list, std::size_t points, const char* what) {
   if (!list || list->size() == points) return;
-  if (Assert::isEnabled())
-    Assert::addAssert({.message = std::to_string(list->size()) + " " + what + " for " +
-                                  std::to_string(points) + " points, left out",
-                       .function = "qor::generate::draw::VertexData::setVertexData",
-                       .source = "VertexData",
-                       .line = __LINE__});
+  report(std::to_string(list->size()) + " " + what + " for " + std::to_string(points) +
+         " points, left out");
   list.reset();
 }
 

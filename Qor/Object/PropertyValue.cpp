@@ -1,15 +1,9 @@
 #include "Qor/Object/PropertyValue.h"
 
-#include "Qor/Assert/Assert.h"
+#include "Qor/Assert/Report.h"
 
 namespace qor::object {
 
-void PropertyValue::reportWrongType() {
-  if (Assert::isEnabled())
-    Assert::addAssert({.message = "Property value doesn't hold the given type.",
-                       .function = "qor::object::PropertyValue::get",
-                       .source = "PropertyValue",
-                       .line = __LINE__});
-}
+void PropertyValue::reportWrongType() { report("Property value doesn't hold the given type."); }
 
 }  // namespace qor::object

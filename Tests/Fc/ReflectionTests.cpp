@@ -5,7 +5,7 @@
 #include "Fc/Core/ProductExtension/FcBuildingStorey.h"
 #include "Fc/Core/ProductExtension/FcRelContainedInSpatialStructure.h"
 #include "Fc/Core/ProductExtension/FcRelInterferesElements.h"
-#include "Fc/Localize.h"
+#include "Fc/Model/Localize.h"
 #include "Fc/Property.h"
 #include "Fc/Resource/Actor/FcPerson.h"
 #include "Fc/Resource/GeometricConstraint/FcObjectPlacement.h"

@@ -4,7 +4,7 @@
 #include <stdexcept>
 
 #include "Fc/Core/Kernel/FcRoot.h"
-#include "Fc/ObjectInterface.h"
+#include "Fc/Drawing/ObjectInterface.h"
 
 namespace qor::test {
 

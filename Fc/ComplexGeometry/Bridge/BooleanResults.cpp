@@ -10,10 +10,10 @@
 #include "Fc/ComplexGeometry/Bridge/ShapesOf.h"
 #include "Fc/ComplexGeometry/ExpensiveTool.h"
 #include "Fc/FcParams.h"
-#include "Fc/Resource/ConversionGuard.h"
+#include "Fc/Model/ConversionGuard.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/GeometricModel/BooleanOperators.h"
 #include "Fc/Resource/GeometricModel/FcBooleanResult.h"
-#include "Fc/Resource/Report.h"
 #include "Qor/Math/Epsilon.h"
 
 namespace qor::fc::resource::geometricmodel {
@@ -48,8 +48,7 @@ Chain chainOf(const FcBooleanResult& outermost) {
     if (!inner || inner->Operator() != FcBooleanOperator::DIFFERENCE) return chain;
     result = inner;
   }
-  report("An item is part of itself",
-         "qor::fc::resource::geometricmodel::FcBooleanResult::ocRepresentation", __LINE__);
+  report("An item is part of itself");
   return {};
 }
 
@@ -68,9 +67,7 @@ Shapes difference(const FcBooleanResult& result, const FcParams& params) {
     const DifferenceTools::Tool tool = tools.of(*operand);
     if (tool.isAway) continue;
     if (tool.shapes.empty()) {
-      report("Skipping a ifc clipping operation because the second operand was invalid.",
-             "qor::fc::resource::geometricmodel::FcBooleanResult::ocRepresentationOfDifference",
-             __LINE__);
+      report("Skipping a ifc clipping operation because the second operand was invalid.");
       continue;
     }
     shapes = {cutShapes(shapes, tool.shapes, fuzzyValue)};

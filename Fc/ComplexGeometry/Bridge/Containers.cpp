@@ -6,7 +6,7 @@
 #include "Fc/ComplexGeometry/Bridge/ShapesOf.h"
 #include "Fc/FcParams.h"
 #include "Fc/HelperFunctionsOC.h"
-#include "Fc/Resource/ConversionGuard.h"
+#include "Fc/Model/ConversionGuard.h"
 #include "Fc/Resource/GeometricModel/FcCsgSolid.h"
 #include "Fc/Resource/Geometry/FcCartesianTransformationOperator.h"
 #include "Fc/Resource/Geometry/FcMappedItem.h"

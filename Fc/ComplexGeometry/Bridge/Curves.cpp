@@ -19,7 +19,8 @@
 #include "Fc/ComplexGeometry/Bridge/ocMemoizer.h"
 #include "Fc/FcParams.h"
 #include "Fc/HelperFunctionsOC.h"
-#include "Fc/NotImplemented.h"
+#include "Fc/Model/NotImplemented.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcCircle.h"
 #include "Fc/Resource/Geometry/FcDirection.h"
 #include "Fc/Resource/Geometry/FcLine.h"
@@ -27,7 +28,6 @@
 #include "Fc/Resource/Geometry/FcRationalBSplineCurveWithKnots.h"
 #include "Fc/Resource/Geometry/FcTrimmedCurve.h"
 #include "Fc/Resource/Geometry/FcVector.h"
-#include "Fc/Resource/Report.h"
 #include "Qor/Math/Epsilon.h"
 
 namespace qor::fc {
@@ -78,8 +78,7 @@ double parameterLength(const FcCurve& basis) {
 
 OcCurve curveOf(const FcLine& line) {
   if (!line.Pnt() || !line.Dir() || !line.Dir()->Orientation()) {
-    report("Missing Pnt or Dir on FcLine", "qor::fc::resource::geometry::FcLine::ocCurve",
-           __LINE__);
+    report("Missing Pnt or Dir on FcLine");
     return {};
   }
   const auto& ratios = line.Dir()->Orientation()->DirectionRatios();
@@ -102,14 +101,13 @@ OcCurve curveOf(const FcCircle& circle) {
 }
 
 OcCurve curveOf(const FcPolyline& polyline) {
-  const char* const function = "qor::fc::resource::geometry::FcPolyline::ocCurve";
   if (polyline.Points().size() < 2) {
-    report("FcPolyline should have more than one point", function, __LINE__);
+    report("FcPolyline should have more than one point");
     return {};
   }
   for (const auto& point : polyline.Points()) {
     if (point) continue;
-    report("FcPolyline::Points had a nullptr", function, __LINE__);
+    report("FcPolyline::Points had a nullptr");
     return {};
   }
   return guarded<OcCurve>("Could not create OpenCascade polyline.", [&] {
@@ -144,9 +142,8 @@ OcCurve curveOf(const FcRationalBSplineCurveWithKnots& spline) {
 
 // Null for ends at one place, and for a trim point that isn't on the basis curve.
 OcCurve curveOf(const FcTrimmedCurve& trimmed, ocMemoizer& memoizer) {
-  const char* const function = "qor::fc::resource::geometry::FcTrimmedCurve::ocCurve";
   if (!trimmed.BasisCurve()) {
-    report("FcTrimmedCurve::BasisCurve missing.", function, __LINE__);
+    report("FcTrimmedCurve::BasisCurve missing.");
     return {};
   }
   const OcCurve basis = memoizer.getCurve(*trimmed.BasisCurve());
@@ -157,14 +154,15 @@ OcCurve curveOf(const FcTrimmedCurve& trimmed, ocMemoizer& memoizer) {
     const auto first = trimParameter(trimmed.Trim1(), preferPoint, *basis, unit);
     const auto second = trimParameter(trimmed.Trim2(), preferPoint, *basis, unit);
     if (!first || !second) {
-      report("A trim of FcTrimmedCurve is missing or not on its BasisCurve", function, __LINE__);
+      report("A trim of FcTrimmedCurve is missing or not on its BasisCurve");
       return {};
     }
     if (std::abs(*first - *second) <= math::Epsilon::current().general) {
-      report("Cannot use equal parameters", function, __LINE__);
+      report("Cannot use equal parameters");
       return {};
     }
-    return curveHandle(new Geom_TrimmedCurve(*basis, *first, *second, trimmed.SenseAgreement(), true));
+    return curveHandle(
+        new Geom_TrimmedCurve(*basis, *first, *second, trimmed.SenseAgreement(), true));
   });
 }
 
@@ -189,8 +187,7 @@ class CurveForm : public FormOfClass<OcCurve> {
 TopoDS_Wire FcCurve::ocDiscretizedCurve(const FcParams& params) const {
   const std::vector<math::Point3d> points = curveGet(params, {}, {}, false);
   if (points.size() >= 2) return getClosedWireFromPoints(points);
-  report("Assertion failed: need at least 2 points.",
-         "qor::fc::resource::geometry::FcCurve::ocDiscretizedCurve", __LINE__);
+  report(*this, "Assertion failed: need at least 2 points.");
   return {};
 }
 
@@ -199,8 +196,7 @@ TopoDS_Wire FcCurve::ocDiscretizedCurve(const FcParams& params) const {
 OcCurve OpenCascadeModeller::curve(const resource::geometry::FcCurve& curve,
                                    ocMemoizer& memoizer) const {
   if (auto form = resource::geometry::CurveForm(memoizer).of(curve)) return *std::move(form);
-  assertNotImplemented("ocCurve() not implemented for class: ", curve,
-                       "resource::geometry::FcCurve::ocCurve");
+  assertNotImplemented("ocCurve() not implemented for class: ", curve);
   return {};
 }
 

@@ -12,9 +12,9 @@
 #include "Fc/ComplexGeometry/Bridge/OpenCascadeModeller.h"
 #include "Fc/ComplexGeometry/Bridge/ocMemoizer.h"
 #include "Fc/HelperFunctionsOC.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
 #include "Fc/Resource/Geometry/FcCurve.h"
-#include "Fc/Resource/Report.h"
 #include "Fc/Resource/Topology/FcEdge.h"
 #include "Fc/Resource/Topology/FcEdgeCurve.h"
 #include "Fc/Resource/Topology/FcOrientedEdge.h"
@@ -37,13 +37,12 @@ struct Ends {
 
 // Both or, with an assert where one is missing, none.
 Ends endsOf(const FcEdge& edge, ocMemoizer& memoizer) {
-  const char* const function = "qor::fc::resource::topology::FcEdge::ocEdge";
   if (!edge.EdgeStart()) {
-    report("Missing FcEdge::EdgeStart", function, __LINE__);
+    report("Missing FcEdge::EdgeStart");
     return {};
   }
   if (!edge.EdgeEnd()) {
-    report("Missing FcEdge::EdgeEnd", function, __LINE__);
+    report("Missing FcEdge::EdgeEnd");
     return {};
   }
   Ends ends{memoizer.getVertex(*edge.EdgeStart()), memoizer.getVertex(*edge.EdgeEnd())};
@@ -62,8 +61,7 @@ Edge made(BRepBuilderAPI_MakeEdge maker, bool forward) {
 Vertex vertexOf(const FcVertexPoint& vertexPoint) {
   const auto point = fcCast<geometry::FcCartesianPoint>(vertexPoint.VertexGeometry());
   if (!point) {
-    report("Missing FcVertexPoint::VertexGeometry",
-           "qor::fc::resource::topology::FcVertexPoint::ocVertex", __LINE__);
+    report("Missing FcVertexPoint::VertexGeometry");
     return {};
   }
   return guarded<Vertex>(kFailed, [&] {
@@ -86,8 +84,7 @@ Edge edgeOf(const FcEdgeCurve& edge, ocMemoizer& memoizer) {
   const Ends ends = endsOf(edge, memoizer);
   if (!ends.start) return {};
   if (!edge.EdgeGeometry()) {
-    report("Missing FcEdgeCurve::EdgeGeometry", "qor::fc::resource::topology::FcEdgeCurve::ocEdge",
-           __LINE__);
+    report("Missing FcEdgeCurve::EdgeGeometry");
     return {};
   }
   const OcCurve curve = memoizer.getCurve(*edge.EdgeGeometry());
@@ -103,8 +100,7 @@ Edge edgeOf(const FcEdgeCurve& edge, ocMemoizer& memoizer) {
 
 Edge edgeOf(const FcOrientedEdge& oriented, ocMemoizer& memoizer) {
   if (!oriented.EdgeElement()) {
-    report("Missing FcOrientedEdge::EdgeElement",
-           "qor::fc::resource::topology::FcOrientedEdge::ocEdge", __LINE__);
+    report("Missing FcOrientedEdge::EdgeElement");
     return {};
   }
   const Edge element = memoizer.getEdge(*oriented.EdgeElement());
@@ -139,8 +135,7 @@ std::shared_ptr<TopoDS_Vertex> OpenCascadeModeller::vertex(
     const resource::topology::FcVertex& vertex, ocMemoizer& /*memoizer*/) const {
   if (const auto* point = fcCast<resource::topology::FcVertexPoint>(&vertex))
     return resource::topology::vertexOf(*point);
-  resource::report("Cannot create point of FcVertex. FcVertexPoint should be used.",
-                   "qor::fc::resource::topology::FcVertex::ocVertex", __LINE__);
+  report("Cannot create point of FcVertex. FcVertexPoint should be used.");
   return {};
 }
 

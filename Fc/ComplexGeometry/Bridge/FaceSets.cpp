@@ -12,9 +12,9 @@
 #include "Fc/ComplexGeometry/Bridge/ShapesOf.h"
 #include "Fc/ComplexGeometry/Bridge/Solids.h"
 #include "Fc/HelperFunctionsOC.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/GeometricModel/FcPolygonalFaceSet.h"
 #include "Fc/Resource/GeometricModel/FcTriangulatedFaceSet.h"
-#include "Fc/Resource/Report.h"
 #include "Qor/Draw/TriangulatedFaceSetOpenGL.h"
 #include "Qor/Math/Epsilon.h"
 
@@ -24,22 +24,22 @@ namespace {
 using Ring = std::vector<math::Point3d>;
 using Polygon = std::vector<Ring>;  // an outer ring and its holes
 
-TopoDS_Wire wireOf(const Ring& ring, const char* invalid, const char* function) {
+TopoDS_Wire wireOf(const Ring& ring, const char* invalid) {
   const TopoDS_Wire wire = getClosedWireFromPoints(ring);
   if (wire.IsNull())
-    report(invalid, function, __LINE__);
+    report(invalid);
   else
     raiseTolerance(wire, math::Epsilon::current().length);
   return wire;
 }
 
-void addPolygon(BRepBuilderAPI_Sewing& faces, const Polygon& rings, const char* function) {
+void addPolygon(BRepBuilderAPI_Sewing& faces, const Polygon& rings) {
   if (rings.empty()) return;
-  const TopoDS_Wire outer = wireOf(rings.front(), "Invalid polygon", function);
+  const TopoDS_Wire outer = wireOf(rings.front(), "Invalid polygon");
   if (outer.IsNull()) return;
   std::vector<TopoDS_Wire> holes;
   for (std::size_t i = 1; i < rings.size(); ++i) {
-    const TopoDS_Wire hole = wireOf(rings[i], "Invalid polygon hole", function);
+    const TopoDS_Wire hole = wireOf(rings[i], "Invalid polygon hole");
     if (!hole.IsNull()) holes.push_back(hole);
   }
   const TopoDS_Face face = faceWithin(outer, holes, true);
@@ -47,24 +47,23 @@ void addPolygon(BRepBuilderAPI_Sewing& faces, const Polygon& rings, const char* 
     faces.Add(face);
     return;
   }
-  report("Could not create opencascade face of FcFace. Its points was probably not on a plane.",
-         function, __LINE__);
+  report("Could not create opencascade face of FcFace. Its points was probably not on a plane.");
 }
 
-TopoDS_Shape sewn(const std::vector<Polygon>& polygons, const char* function) {
+TopoDS_Shape sewn(const std::vector<Polygon>& polygons) {
   BRepBuilderAPI_Sewing faces(math::Epsilon::current().general, true, true, true, false);
-  for (const Polygon& polygon : polygons) addPolygon(faces, polygon, function);
+  for (const Polygon& polygon : polygons) addPolygon(faces, polygon);
   faces.Perform();
   return solidsOfClosedShells(faces.SewedShape());
 }
 
-Shapes shapeOf(const std::vector<Polygon>& polygons, const char* function) {
+Shapes shapeOf(const std::vector<Polygon>& polygons) {
   return {tryOpenCascadeConstruction<TopoDS_Shape>(
       [&] {
         PolyhedronMaker polyhedron;
         for (const Polygon& polygon : polygons) polyhedron.addPolygon(polygon);
         const TopoDS_Shape solid = polyhedron.solid();
-        return solid.IsNull() ? sewn(polygons, function) : solid;
+        return solid.IsNull() ? sewn(polygons) : solid;
       },
       "Open Cascade failed in construction of shape.", "Constructed open cascade shape was null.")};
 }
@@ -74,8 +73,7 @@ Shapes shapeOf(const std::vector<Polygon>& polygons, const char* function) {
 Shapes shapesOf(const FcPolygonalFaceSet& item, const FcParams& /*params*/) {
   std::vector<Polygon> polygons;
   item.forEachPolygon([&](const Polygon& polygon) { polygons.push_back(polygon); });
-  return shapeOf(polygons,
-                 "qor::fc::resource::geometricmodel::FcPolygonalFaceSet::ocRepresentation");
+  return shapeOf(polygons);
 }
 
 Shapes shapesOf(const FcTriangulatedFaceSet& item, const FcParams& /*params*/) {
@@ -85,8 +83,7 @@ Shapes shapesOf(const FcTriangulatedFaceSet& item, const FcParams& /*params*/) {
   std::vector<Polygon> polygons;
   for (const auto& [a, b, c] : triangles->triangles)
     polygons.push_back({{points[a], points[b], points[c]}});
-  return shapeOf(polygons,
-                 "qor::fc::resource::geometricmodel::FcTriangulatedFaceSet::ocRepresentation");
+  return shapeOf(polygons);
 }
 
 std::vector<generate::draw::PolygonalFaceSetOpenGL> FcPolygonalFaceSet::getFaceSetsFromShapes(

@@ -20,7 +20,7 @@
 
 #include "Fc/ComplexGeometry/Bridge/PointMerger.h"
 #include "Fc/HelperFunctionsOC.h"
-#include "Fc/Resource/Report.h"
+#include "Fc/Model/Report.h"
 
 namespace qor::fc {
 namespace {
@@ -34,12 +34,6 @@ constexpr double kAngularDeflection = 0.5;  // radians
 double linearDeflection(double chordValue) {
   constexpr double finest = 1e-6, unlimited = 1e6;
   return chordValue > 0 ? std::max(chordValue, finest) : unlimited;
-}
-
-void reportFace(const char* message, int line) {
-  resource::report(message,
-                   "qor::fc::resource::geometricmodel::FcPolygonalFaceSet::getFaceSetsFromShapes",
-                   line);
 }
 
 using Face = PolygonalFaceSetOpenGL::Face;
@@ -80,7 +74,7 @@ template <class AppendEdge>
 std::optional<Face> polygonOf(const TopoDS_Face& face, const AppendEdge& appendEdge) {
   const TopoDS_Wire outer = BRepTools::OuterWire(face);
   if (outer.IsNull()) {
-    reportFace("There is a Face which has no outer Wire.", __LINE__);
+    report("There is a Face which has no outer Wire.");
     return {};
   }
   Face polygon;
@@ -179,7 +173,7 @@ PolygonalFaceSetOpenGL faceSetOfMesh(const TopoDS_Shape& shape) {
       if (auto polygon = polygonOfVertices(face, points))
         set.faces.push_back(std::move(*polygon));
       else
-        reportFace("Face didn't have triangulation.", __LINE__);
+        report("Face didn't have triangulation.");
       continue;
     }
     if (auto polygon = isPlanar(face) ? meshed.polygon() : std::nullopt)

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "Fc/HelperFunctionsOC.h"
-#include "Fc/Resource/Report.h"
+#include "Fc/Model/Report.h"
 
 namespace qor::fc {
 
@@ -22,7 +22,7 @@ Result guardedBSpline(const std::string& message, const Make& make) {
   try {
     return guarded<Result>(message, make);
   } catch (const std::exception&) {
-    resource::report(message, "qor::fc::guardedBSpline", __LINE__);
+    report(message);
     return Result{};
   }
 }

@@ -13,9 +13,9 @@
 #include "Fc/ComplexGeometry/Bridge/ShapesOf.h"
 #include "Fc/FcParams.h"
 #include "Fc/HelperFunctionsOC.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/GeometricModel/FcHalfSpaceSolid.h"
 #include "Fc/Resource/GeometricModel/FcPolygonalBoundedHalfSpace.h"
-#include "Fc/Resource/Report.h"
 #include "Qor/Math/Epsilon.h"
 
 namespace qor::fc::resource::geometricmodel {
@@ -76,10 +76,7 @@ TopoDS_Shape FcHalfSpaceSolid::prismOver(const math::Extent& box) const {
 Shapes FcPolygonalBoundedHalfSpace::ocPrismForClipping(
     const measure::FcPositiveLengthMeasure& diameter, const FcParams& params) const {
   if (!(diameter > math::Epsilon::current().length)) {
-    report("Expect to have strictly positive diameter of first operand",
-           "qor::fc::resource::geometricmodel::FcPolygonalBoundedHalfSpace::"
-           "ocRepresentationForClipping",
-           __LINE__);
+    report(*this, "Expect to have strictly positive diameter of first operand");
     return {};
   }
   const TopoDS_Shape prism =

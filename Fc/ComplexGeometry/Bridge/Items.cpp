@@ -7,7 +7,7 @@
 #include "Fc/ComplexGeometry/Bridge/FormOfClass.h"
 #include "Fc/ComplexGeometry/Bridge/OpenCascadeModeller.h"
 #include "Fc/ComplexGeometry/Bridge/ShapesOf.h"
-#include "Fc/NotImplemented.h"
+#include "Fc/Model/NotImplemented.h"
 #include "Fc/Resource/GeometricModel/FcBlock.h"
 #include "Fc/Resource/GeometricModel/FcBooleanOperand.h"
 #include "Fc/Resource/GeometricModel/FcBooleanResult.h"
@@ -45,9 +45,8 @@ Shapes shapesOf(const FcCurve& curve, const FcParams& params) {
 
 // It is a tool of differences alone.
 Shapes shapesOf(const FcPolygonalBoundedHalfSpace& halfSpace, const FcParams& /*params*/) {
-  assertNotImplemented(
-      "ocRepresentation(const qor::fc::FcParams&) not implemented for class: ", halfSpace,
-      "resource::geometricmodel::FcPolygonalBoundedHalfSpace::ocRepresentation");
+  assertNotImplemented("ocRepresentation(const qor::fc::FcParams&) not implemented for class: ",
+                       halfSpace);
   return {};
 }
 
@@ -94,7 +93,7 @@ class ItemForm : public FormOfClass<Shapes> {
 Shapes OpenCascadeModeller::shapes(const FcRepresentationItem& item, const FcParams& params) const {
   if (auto shapes = ItemForm(params).of(item)) return *std::move(shapes);
   assertNotImplemented("ocRepresentation(const qor::fc::FcParams&) not implemented for class: ",
-                       item, "FcRepresentationItem::ocRepresentation");
+                       item);
   return {};
 }
 

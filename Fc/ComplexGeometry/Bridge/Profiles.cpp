@@ -15,8 +15,9 @@
 #include "Fc/ComplexGeometry/Bridge/ocMemoizer.h"
 #include "Fc/FcParams.h"
 #include "Fc/HelperFunctionsOC.h"
-#include "Fc/NotImplemented.h"
-#include "Fc/Resource/ConversionGuard.h"
+#include "Fc/Model/ConversionGuard.h"
+#include "Fc/Model/NotImplemented.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcBoundedCurve.h"
 #include "Fc/Resource/Profile/FcArbitraryOpenProfileDef.h"
 #include "Fc/Resource/Profile/FcArbitraryProfileDefWithVoids.h"
@@ -25,7 +26,6 @@
 #include "Fc/Resource/Profile/FcCompositeProfileDef.h"
 #include "Fc/Resource/Profile/FcDerivedProfileDef.h"
 #include "Fc/Resource/Profile/FcParameterizedProfileDef.h"
-#include "Fc/Resource/Report.h"
 #include "Qor/Math/Epsilon.h"
 #include "Qor/Math/PointFactory.h"
 
@@ -74,15 +74,13 @@ TopoDS_Wire circle(const math::Matrix2d& frame, double radius) {
 
 // The wire round the outer curve of the profile; null, with an assert, when there is none.
 TopoDS_Wire outerWire(const FcArbitraryClosedProfileDef& profile, const FcParams& params) {
-  const char* const function = "qor::fc::resource::profile::FcArbitraryClosedProfileDef::ocProfile";
   if (!profile.OuterCurve()) {
-    report("Expect OuterCurve() to be set.", function, __LINE__);
+    report("Expect OuterCurve() to be set.");
     return {};
   }
   const TopoDS_Wire wire = profile.OuterCurve()->ocDiscretizedCurve(params);
   if (wire.IsNull()) {
-    report("Expected OuterCurve()->ocDiscretizedCurve() to return a OpenCascade Wire", function,
-           __LINE__);
+    report("Expected OuterCurve()->ocDiscretizedCurve() to return a OpenCascade Wire");
   }
   return wire;
 }
@@ -191,16 +189,14 @@ class CurveForm : public FormOfClass<OcCurve> {
 std::vector<TopoDS_Face> OpenCascadeModeller::faces(const resource::profile::FcProfileDef& profile,
                                                     const FcParams& params) const {
   if (auto form = resource::profile::FaceForm(params).of(profile)) return *std::move(form);
-  assertNotImplemented("ocProfile(const qor::fc::FcParams&) not implemented for class: ", profile,
-                       "resource::profile::FcProfileDef::ocProfile");
+  assertNotImplemented("ocProfile(const qor::fc::FcParams&) not implemented for class: ", profile);
   return {};
 }
 
 OcCurve OpenCascadeModeller::curve(const resource::profile::FcProfileDef& profile,
                                    ocMemoizer& memoizer) const {
   if (auto form = resource::profile::CurveForm(memoizer).of(profile)) return *std::move(form);
-  assertNotImplemented("ocCurve() not implemented for class: ", profile,
-                       "resource::profile::FcProfileDef::ocCurve");
+  assertNotImplemented("ocCurve() not implemented for class: ", profile);
   return {};
 }
 

@@ -22,9 +22,9 @@
 #include "Fc/ComplexGeometry/Bridge/ocMemoizer.h"
 #include "Fc/FcParams.h"
 #include "Fc/HelperFunctionsOC.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
 #include "Fc/Resource/Geometry/FcSurface.h"
-#include "Fc/Resource/Report.h"
 #include "Fc/Resource/Topology/FcClosedShell.h"
 #include "Fc/Resource/Topology/FcConnectedFaceSet.h"
 #include "Fc/Resource/Topology/FcEdgeLoop.h"
@@ -43,18 +43,12 @@ using PolygonRings = std::vector<PolyhedronMaker::Ring>;
 
 constexpr double kFaceTolerance = 1e-7;
 
-void reportFace(const char* message, int line) {
-  report(message, "qor::fc::resource::topology::FcConnectedFaceSet::ocRepresentation", line);
-}
-
 TopoDS_Wire wireOf(const FcEdgeLoop& loop, ocMemoizer& memoizer) {
   BRepBuilderAPI_MakeWire wire;
   for (const auto& oriented : loop.EdgeList()) {
     const auto edge = oriented ? memoizer.getEdge(*oriented) : nullptr;
     if (!edge) {
-      reportFace(
-          "Skipping an unsupported or invalid FcFace. One or more edges could not be created.",
-          __LINE__);
+      report("Skipping an unsupported or invalid FcFace. One or more edges could not be created.");
       return {};
     }
     wire.Add(*edge);
@@ -64,7 +58,7 @@ TopoDS_Wire wireOf(const FcEdgeLoop& loop, ocMemoizer& memoizer) {
 
 TopoDS_Wire wireOf(const FcPolyLoop& loop, ocMemoizer& memoizer) {
   const TopoDS_Wire wire = memoizer.getWire(loop);
-  if (wire.IsNull()) reportFace("Invalid FcPolyLoop", __LINE__);
+  if (wire.IsNull()) report("Invalid FcPolyLoop");
   return wire;
 }
 
@@ -95,12 +89,12 @@ class FaceMaker {
  private:
   TopoDS_Face onItsSurface(const FcFaceSurface& face) {
     if (!face.FaceSurface()) {
-      reportFace("Missing FcFaceSurface::FaceSurface", __LINE__);
+      report("Missing FcFaceSurface::FaceSurface");
       return {};
     }
     const OcSurface surface = m_memoizer.getSurface(*face.FaceSurface());
     if (!surface) {
-      reportFace("Skipping an unsupported or invalid surface in FcFaceSurface.", __LINE__);
+      report("Skipping an unsupported or invalid surface in FcFaceSurface.");
       return {};
     }
     TopoDS_Face result;
@@ -132,7 +126,7 @@ class FaceMaker {
       }
       builder.Add(result, wire);
     }
-    if (result.IsNull()) reportFace("Missing wire plane. Invalid IFC data?", __LINE__);
+    if (result.IsNull()) report("Missing wire plane. Invalid IFC data?");
     return result;
   }
 
@@ -149,7 +143,7 @@ class FaceMaker {
     else if (const auto* points = fcCast<FcPolyLoop>(bound.Bound().get()))
       wire = wireOf(*points, m_memoizer);
     else
-      reportFace("Unsupported IfcEdge type", __LINE__);
+      report("Unsupported IfcEdge type");
     if (!wire.IsNull() && bound.Orientation() == reversedFace) wire.Reverse();
     return wire;
   }

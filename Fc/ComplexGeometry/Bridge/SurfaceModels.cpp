@@ -4,10 +4,10 @@
 
 #include "Fc/ComplexGeometry/Bridge/ShapesOf.h"
 #include "Fc/FcParams.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/GeometricModel/FcFaceBasedSurfaceModel.h"
 #include "Fc/Resource/GeometricModel/FcManifoldSolidBrep.h"
 #include "Fc/Resource/GeometricModel/FcShellBasedSurfaceModel.h"
-#include "Fc/Resource/Report.h"
 #include "Fc/Resource/Topology/FcClosedShell.h"
 #include "Fc/Resource/Topology/FcShell.h"
 
@@ -15,8 +15,7 @@ namespace qor::fc::resource::geometricmodel {
 
 Shapes shapesOf(const FcManifoldSolidBrep& item, const FcParams& params) {
   if (item.Outer()) return item.Outer()->ocRepresentation(params);
-  report("Outer should exist",
-         "qor::fc::resource::geometricmodel::FcManifoldSolidBrep::ocRepresentation", __LINE__);
+  report("Outer should exist");
   return {};
 }
 

@@ -15,7 +15,8 @@
 #include "Fc/ComplexGeometry/Bridge/OpenCascadeModeller.h"
 #include "Fc/ComplexGeometry/Bridge/ocMemoizer.h"
 #include "Fc/HelperFunctionsOC.h"
-#include "Fc/NotImplemented.h"
+#include "Fc/Model/NotImplemented.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcAxis1Placement.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
 #include "Fc/Resource/Geometry/FcCylindricalSurface.h"
@@ -25,7 +26,6 @@
 #include "Fc/Resource/Geometry/FcSurfaceOfLinearExtrusion.h"
 #include "Fc/Resource/Geometry/FcSurfaceOfRevolution.h"
 #include "Fc/Resource/Profile/FcProfileDef.h"
-#include "Fc/Resource/Report.h"
 
 namespace qor::fc {
 namespace resource::geometry {
@@ -41,10 +41,10 @@ math::Vector3d vectorOf(const FcDirection& direction) {
 }
 
 // The frame of a surface; null stands for what a missing one gives.
-OcSurface inFrameOf(const FcElementarySurface& surface, const char* function,
+OcSurface inFrameOf(const FcElementarySurface& surface,
                     const std::function<Geom_Surface*(const gp_Ax3&)>& make) {
   if (!surface.Position()) {
-    report("Missing Position on a surface", function, __LINE__);
+    report("Missing Position on a surface");
     return {};
   }
   return guarded<OcSurface>("Could not create OpenCascade surface.", [&] {
@@ -58,26 +58,24 @@ ocMemoizer::Curve sweptCurve(const FcSweptSurface& surface, ocMemoizer& memoizer
                              const std::string& className) {
   const std::string function = "qor::fc::resource::geometry::" + className + "::ocSurface";
   if (!surface.SweptCurve()) {
-    report("Missing SweptCurve on " + className, function.c_str(), __LINE__);
+    report("Missing SweptCurve on " + className);
     return {};
   }
   if (surface.Position()) {
-    report(className + "::ocSurface does not support explicit Position", function.c_str(),
-           __LINE__);
+    report(className + "::ocSurface does not support explicit Position");
     return {};
   }
   return memoizer.getCurve(*surface.SweptCurve());
 }
 
 OcSurface surfaceOf(const FcPlane& surface) {
-  return inFrameOf(surface, "qor::fc::resource::geometry::FcPlane::ocSurface",
-                   [](const gp_Ax3& frame) { return new Geom_Plane(frame); });
+  return inFrameOf(surface, [](const gp_Ax3& frame) { return new Geom_Plane(frame); });
 }
 
 OcSurface surfaceOf(const FcCylindricalSurface& surface) {
-  return inFrameOf(
-      surface, "qor::fc::resource::geometry::FcCylindricalSurface::ocSurface",
-      [&](const gp_Ax3& frame) { return new Geom_CylindricalSurface(frame, surface.Radius()); });
+  return inFrameOf(surface, [&](const gp_Ax3& frame) {
+    return new Geom_CylindricalSurface(frame, surface.Radius());
+  });
 }
 
 OcSurface surfaceOf(const FcBSplineSurfaceWithKnots& surface) {
@@ -108,8 +106,7 @@ OcSurface surfaceOf(const FcSurfaceOfLinearExtrusion& surface, ocMemoizer& memoi
   const auto curve = sweptCurve(surface, memoizer, "FcSurfaceOfLinearExtrusion");
   if (!curve) return {};
   if (!surface.ExtrudedDirection()) {
-    report("Missing ExtrudedDirection on FcSurfaceOfLinearExtrusion",
-           "qor::fc::resource::geometry::FcSurfaceOfLinearExtrusion::ocSurface", __LINE__);
+    report("Missing ExtrudedDirection on FcSurfaceOfLinearExtrusion");
     return {};
   }
   return guarded<OcSurface>("Could not create OpenCascade surface.", [&] {
@@ -125,8 +122,7 @@ OcSurface surfaceOf(const FcSurfaceOfRevolution& surface, ocMemoizer& memoizer) 
                             ? fcCast<FcCartesianPoint>(surface.AxisPosition()->Location())
                             : nullptr;
   if (!location) {
-    report("Missing AxisPosition on FcSurfaceOfRevolution",
-           "qor::fc::resource::geometry::FcSurfaceOfRevolution::ocSurface", __LINE__);
+    report("Missing AxisPosition on FcSurfaceOfRevolution");
     return {};
   }
   const math::Vector3d axis = surface.AxisPosition()->Axis()
@@ -166,8 +162,7 @@ class SurfaceForm : public FormOfClass<OcSurface> {
 OcSurface OpenCascadeModeller::surface(const resource::geometry::FcSurface& surface,
                                        ocMemoizer& memoizer) const {
   if (auto form = resource::geometry::SurfaceForm(memoizer).of(surface)) return *std::move(form);
-  assertNotImplemented("ocSurface() not implemented for class: ", surface,
-                       "resource::geometry::FcSurface::ocSurface");
+  assertNotImplemented("ocSurface() not implemented for class: ", surface);
   return {};
 }
 

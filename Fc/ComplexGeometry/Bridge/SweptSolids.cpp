@@ -11,6 +11,7 @@
 #include "Fc/ComplexGeometry/Bridge/ShapesOf.h"
 #include "Fc/FcParams.h"
 #include "Fc/HelperFunctionsOC.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/GeometricModel/FcExtrudedAreaSolid.h"
 #include "Fc/Resource/GeometricModel/FcRevolvedAreaSolid.h"
 #include "Fc/Resource/Geometry/FcAxis1Placement.h"
@@ -18,7 +19,6 @@
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
 #include "Fc/Resource/Geometry/FcDirection.h"
 #include "Fc/Resource/Profile/FcProfileDef.h"
-#include "Fc/Resource/Report.h"
 #include "Qor/Math/Epsilon.h"
 
 namespace qor::fc::resource::geometricmodel {
@@ -40,21 +40,13 @@ Shapes sweptFaces(const FcSweptAreaSolid& solid, const FcParams& params,
   return solids;
 }
 
-bool expect(bool holds, const char* message, const char* function, int line) {
-  if (!holds) report(message, function, line);
-  return holds;
-}
-
 }  // namespace
 
 Shapes shapesOf(const FcExtrudedAreaSolid& item, const FcParams& params) {
-  const char* const function =
-      "qor::fc::resource::geometricmodel::FcExtrudedAreaSolid::ocRepresentation";
-  if (!expect(item.Depth() > math::Epsilon::current().length, "Depth should be a positive distance",
-              function, __LINE__) ||
-      !expect(item.SweptArea() != nullptr, "Swept area should exist", function, __LINE__) ||
-      !expect(item.ExtrudedDirection() != nullptr, "Extrude direction should exist", function,
-              __LINE__))
+  if (!requireThat(item, item.Depth() > math::Epsilon::current().length,
+                   "Depth should be a positive distance") ||
+      !requireThat(item, item.SweptArea() != nullptr, "Swept area should exist") ||
+      !requireThat(item, item.ExtrudedDirection() != nullptr, "Extrude direction should exist"))
     return {};
   const gp_Vec extrusion =
       toOpenCascade(item.ExtrudedDirection()->vector().normalized() * item.Depth());
@@ -64,20 +56,18 @@ Shapes shapesOf(const FcExtrudedAreaSolid& item, const FcParams& params) {
 }
 
 Shapes shapesOf(const FcRevolvedAreaSolid& item, const FcParams& params) {
-  const char* const function =
-      "qor::fc::resource::geometricmodel::FcRevolvedAreaSolid::ocRepresentation";
   const auto location =
       item.Axis() ? fcCast<geometry::FcCartesianPoint>(item.Axis()->Location()) : nullptr;
-  if (!expect(location != nullptr, "Axis should exist", function, __LINE__)) return {};
+  if (!requireThat(item, location != nullptr, "Axis should exist")) return {};
   const math::Point3d origin = location->point();
   const math::Vector3d axis =
       item.Axis()->Axis() ? item.Axis()->Axis()->vector() : math::Vector3d(0, 0, 1);
   const double tolerance = math::Epsilon::current().length;
-  if (!expect(std::abs(origin.z) <= tolerance, "Axis location must have a Z value of 0", function,
-              __LINE__) ||
-      !expect(std::abs(axis.z) <= tolerance, "Axis direction must have a Z value of 0", function,
-              __LINE__) ||
-      !expect(item.SweptArea() != nullptr, "Swept area should exist", function, __LINE__))
+  if (!requireThat(item, std::abs(origin.z) <= tolerance,
+                   "Axis location must have a Z value of 0") ||
+      !requireThat(item, std::abs(axis.z) <= tolerance,
+                   "Axis direction must have a Z value of 0") ||
+      !requireThat(item, item.SweptArea() != nullptr, "Swept area should exist"))
     return {};
   const double angle = item.Angle();
   return sweptFaces(item, params, [&](const TopoDS_Face& face) {

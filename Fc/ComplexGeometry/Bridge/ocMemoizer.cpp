@@ -8,11 +8,11 @@
 #include <vector>
 
 #include "Fc/HelperFunctionsOC.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
 #include "Fc/Resource/Geometry/FcCurve.h"
 #include "Fc/Resource/Geometry/FcSurface.h"
 #include "Fc/Resource/Profile/FcProfileDef.h"
-#include "Fc/Resource/Report.h"
 #include "Fc/Resource/Topology/FcEdge.h"
 #include "Fc/Resource/Topology/FcPolyLoop.h"
 #include "Fc/Resource/Topology/FcVertex.h"
@@ -43,10 +43,6 @@ bool hasThreePoints(const Points& points) {
   return false;
 }
 
-void reportLoop(const char* message, int line) {
-  resource::report(message, "qor::fc::ocMemoizer::getWire", line);
-}
-
 }  // namespace
 
 ocMemoizer::Curve ocMemoizer::getCurve(const resource::geometry::FcCurve& curve) {
@@ -72,16 +68,16 @@ std::shared_ptr<TopoDS_Vertex> ocMemoizer::getVertex(const resource::topology::F
 TopoDS_Wire ocMemoizer::getWire(const resource::topology::FcPolyLoop& loop) {
   const auto& points = loop.Polygon();
   if (points.size() < 3) {
-    reportLoop("Not enough points in FcPolyLoop.", __LINE__);
+    report("Not enough points in FcPolyLoop.");
     return {};
   }
   for (const auto& point : points) {
     if (point) continue;
-    reportLoop("Assertion failed: expect valid FcCartesianPoint", __LINE__);
+    report("Assertion failed: expect valid FcCartesianPoint");
     return {};
   }
   if (!hasThreePoints(points)) {
-    reportLoop("Not enough unique points in FcPolyLoop.", __LINE__);
+    report("Not enough unique points in FcPolyLoop.");
     return {};
   }
   BRepLib_MakeWire wire;

@@ -5,6 +5,7 @@
 #include "Fc/Core/Kernel/PropertySetAttachment.h"
 #include "Fc/Core/ProductExtension/FcElementQuantity.h"
 #include "Fc/Data.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement2D.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
 #include "Fc/Resource/Measure/FcDerivedUnit.h"
@@ -12,7 +13,6 @@
 #include "Fc/Resource/Measure/FcNamedUnit.h"
 #include "Fc/Resource/Measure/FcUnitAssignment.h"
 #include "Fc/Resource/Representation/FcGeometricRepresentationSubContext.h"
-#include "Qor/Assert/Assert.h"
 
 namespace qor::fc::core::kernel {
 
@@ -45,13 +45,9 @@ FcGeometricProjectionEnum targetViewFor(FcContext::ContextType type,
   if (wanted != FcGeometricProjectionEnum::NOTDEFINED) return wanted;
   if (type == FcContext::ContextType::Plan) return FcGeometricProjectionEnum::PLAN_VIEW;
   if (type == FcContext::ContextType::Model) return FcGeometricProjectionEnum::MODEL_VIEW;
-  if (Assert::isEnabled())
-    Assert::addAssert(
-        {.message = "FcProject::representationContextGetOrAdd -> TargetView should have been set "
-                    "to something other than NOTDEFINED.",
-         .function = "qor::fc::core::kernel::FcContext::representationContextGetOrAdd",
-         .source = "FcContext",
-         .line = __LINE__});
+  report(
+      "FcProject::representationContextGetOrAdd -> TargetView should have been set "
+      "to something other than NOTDEFINED.");
   return wanted;
 }
 

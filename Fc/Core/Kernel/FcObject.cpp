@@ -7,7 +7,7 @@
 #include "Fc/Core/ProductExtension/FcElementQuantity.h"
 #include "Fc/Data.h"
 #include "Fc/Factory.h"
-#include "Qor/Assert/Assert.h"
+#include "Fc/Model/Report.h"
 
 namespace qor::fc::core::kernel {
 
@@ -18,11 +18,7 @@ std::shared_ptr<FcTypeObject> FcObject::typeSet(
   if (!type) {
     type = makeType();
     if (!type || type->GlobalId() != typeGuid) {
-      if (Assert::isEnabled())
-        Assert::addAssert({.message = "Type not created correctly",
-                           .function = "qor::fc::core::kernel::FcObject::typeSet",
-                           .source = "FcObject",
-                           .line = __LINE__});
+      report(*this, "Type not created correctly");
       return nullptr;
     }
     data.entityAdd(type, true);

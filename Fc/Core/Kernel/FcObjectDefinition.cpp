@@ -11,7 +11,7 @@
 #include "Fc/Core/ProductExtension/Pset_BuildingCommon.h"
 #include "Fc/Data.h"
 #include "Fc/Domain/Electrical/Pset_ElectricalDeviceCommon.h"
-#include "Fc/FcGenerateParams.h"
+#include "Fc/Drawing/FcGenerateParams.h"
 #include "Fc/Shared/BuildingServiceElements/FcDistributionPort.h"
 
 namespace qor::fc::core::kernel {

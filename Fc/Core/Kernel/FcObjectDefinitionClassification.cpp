@@ -7,13 +7,13 @@
 #include "Fc/Core/Kernel/FcRelAssociatesDocument.h"
 #include "Fc/Core/Kernel/FcRelAssociatesLibrary.h"
 #include "Fc/Data.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/ExternalReference/FcClassification.h"
 #include "Fc/Resource/ExternalReference/FcClassificationReference.h"
 #include "Fc/Resource/ExternalReference/FcDocumentInformation.h"
 #include "Fc/Resource/ExternalReference/FcDocumentReference.h"
 #include "Fc/Resource/ExternalReference/FcLibraryInformation.h"
 #include "Fc/Resource/ExternalReference/FcLibraryReference.h"
-#include "Qor/Assert/Assert.h"
 #include "Qor/Classification/ClassificationInterface.h"
 
 // What associates an object definition with something outside the model.
@@ -30,15 +30,6 @@ using resource::externalreference::FcLibraryReference;
 namespace {
 
 constexpr const char* noModel = "Cannot set external reference without FcData";
-
-void report(const char* message, const char* operation, int line) {
-  if (Assert::isEnabled())
-    Assert::addAssert(
-        {.message = message,
-         .function = std::string("qor::fc::core::kernel::FcObjectDefinition::") + operation,
-         .source = "FcObjectDefinition",
-         .line = line});
-}
 
 std::optional<std::string> unlessEmpty(std::string text) {
   return text.empty() ? std::nullopt : std::optional(std::move(text));
@@ -112,12 +103,12 @@ std::shared_ptr<FcClassificationReference> referenceOf(const FcRelAssociates& as
 std::shared_ptr<FcClassification> FcObjectDefinition::classify(
     std::shared_ptr<ClassificationInterface> system, const std::vector<std::string>& codes) {
   if (!system) {
-    report("Need classification interface", "classify", __LINE__);
+    report(*this, "Need classification interface");
     return nullptr;
   }
   const std::shared_ptr<Data> model = data();
   if (!model) {
-    report(noModel, "classify", __LINE__);
+    report(*this, noModel);
     return nullptr;
   }
   auto result = findOrCreate(*model, *system);
@@ -161,7 +152,7 @@ std::shared_ptr<T> FcObjectDefinition::createExternalReference(
     std::string name) {
   const std::shared_ptr<Data> model = data();
   if (!model) {
-    report(noModel, "createExternalReference", __LINE__);
+    report(*this, noModel);
     return nullptr;
   }
   auto reference = model->create<T>();

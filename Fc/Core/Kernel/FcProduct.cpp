@@ -1,10 +1,10 @@
 #include "Fc/Core/Kernel/FcProduct.h"
 
-#include "Fc/FcGenerateParams.h"
-#include "Fc/OpenObject.h"
+#include "Fc/Drawing/FcGenerateParams.h"
+#include "Fc/Drawing/OpenObject.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/GeometricConstraint/FcObjectPlacement.h"
 #include "Fc/Resource/Representation/FcProductRepresentation.h"
-#include "Qor/Assert/Assert.h"
 #include "Qor/Assert/Exception.h"
 
 namespace qor::fc::core::kernel {
@@ -25,13 +25,9 @@ std::optional<math::Matrix> FcProduct::absolutePlacement() const {
   try {
     return ObjectPlacement()->placementGet(false);
   } catch (const qor::exception& problem) {
-    if (Assert::isEnabled())
-      Assert::addAssert({.message = std::string(ifcName()) + " " + GlobalId().toString(false) +
-                                    " has no computable placement (" +
-                                    ObjectPlacement()->ifcName() + "): " + problem.what(),
-                         .function = "qor::fc::core::kernel::FcProduct::absolutePlacement",
-                         .source = "FcProduct",
-                         .line = __LINE__});
+    report(*this, std::string(ifcName()) + " " + GlobalId().toString(false) +
+                      " has no computable placement (" + ObjectPlacement()->ifcName() +
+                      "): " + problem.what());
     return {};
   }
 }

@@ -3,7 +3,7 @@
 #include "Fc/Core/Kernel/FcProjectLibrary.h"
 #include "Fc/Core/Kernel/FcRelDeclares.h"
 #include "Fc/Data.h"
-#include "Fc/FcGenerateParams.h"
+#include "Fc/Drawing/FcGenerateParams.h"
 #include "Fc/Resource/Geometry/FcDirection.h"
 #include "Fc/Resource/Representation/FcGeometricRepresentationSubContext.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Fc/Core/Kernel/FcPropertySetAttributes.h"
-#include "Fc/PropertyInterface.h"
+#include "Fc/Model/PropertyInterface.h"
 
 namespace qor::fc::core::kernel {
 

@@ -1,7 +1,7 @@
 #include "Fc/Core/Kernel/FcRoot.h"
 
+#include "Fc/Drawing/FcGenerateParams.h"
 #include "Fc/FcCopySettings.h"
-#include "Fc/FcGenerateParams.h"
 
 namespace qor::fc::core::kernel {
 

@@ -1,7 +1,7 @@
 #include "Fc/Core/Kernel/FcTypeProduct.h"
 
-#include "Fc/FcGenerateParams.h"
-#include "Fc/OpenObject.h"
+#include "Fc/Drawing/FcGenerateParams.h"
+#include "Fc/Drawing/OpenObject.h"
 #include "Fc/Resource/Geometry/FcRepresentationMap.h"
 #include "Fc/Resource/Representation/FcGeometricRepresentationSubContext.h"
 #include "Fc/Resource/Representation/FcRepresentation.h"

@@ -1,7 +1,7 @@
 #include "Fc/Core/ProductExtension/FcExternalSpatialElement.h"
 
 #include "Fc/Core/ProductExtension/FcRelSpaceBoundary.h"
-#include "Fc/FcGenerateParams.h"
+#include "Fc/Drawing/FcGenerateParams.h"
 
 namespace qor::fc::core::productextension {
 

@@ -1,8 +1,8 @@
 #include "Fc/Core/ProductExtension/FcRelSpaceBoundary.h"
 
 #include "Fc/Core/Kernel/FcProduct.h"
-#include "Fc/FcGenerateParams.h"
-#include "Fc/OpenObject.h"
+#include "Fc/Drawing/FcGenerateParams.h"
+#include "Fc/Drawing/OpenObject.h"
 #include "Fc/Resource/GeometricConstraint/FcConnectionGeometry.h"
 
 namespace qor::fc::core::productextension {

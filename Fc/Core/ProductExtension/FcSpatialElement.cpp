@@ -3,7 +3,7 @@
 #include "Fc/Core/Kernel/FcGroup.h"
 #include "Fc/Core/ProductExtension/FcRelContainedInSpatialStructure.h"
 #include "Fc/Core/ProductExtension/FcRelReferencedInSpatialStructure.h"
-#include "Fc/FcGenerateParams.h"
+#include "Fc/Drawing/FcGenerateParams.h"
 
 namespace qor::fc::core::productextension {
 

@@ -1,7 +1,7 @@
 #include "Fc/Resource/GeometricConstraint/FcConnectionGeometry.h"
 
-#include "Fc/FcDrawParams.h"
-#include "Fc/FcGenerateParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
+#include "Fc/Drawing/FcGenerateParams.h"
 #include "Fc/Resource/GeometricConstraint/FcConnectionCurveGeometry.h"
 #include "Fc/Resource/GeometricConstraint/FcConnectionPointGeometry.h"
 #include "Fc/Resource/GeometricConstraint/FcConnectionSurfaceGeometry.h"

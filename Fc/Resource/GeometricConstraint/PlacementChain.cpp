@@ -3,9 +3,9 @@
 #include <string>
 
 #include "Fc/Core/Kernel/FcProduct.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/GeometricConstraint/FcLinearPlacement.h"
 #include "Fc/Resource/GeometricConstraint/FcLocalPlacement.h"
-#include "Qor/Assert/Assert.h"
 
 namespace qor::fc::resource::geometricconstraint {
 
@@ -44,12 +44,8 @@ std::string placedObject(const FcObjectPlacement& placement) {
 }
 
 void reportCycle(const FcObjectPlacement& start, const FcObjectPlacement& closing) {
-  if (!Assert::isEnabled()) return;
-  Assert::addAssert({.message = "PlacementRelTo of the placement" + placedObject(start) +
-                                " leads in a circle back to the placement" + placedObject(closing),
-                     .function = "qor::fc::resource::geometricconstraint::frameInProject",
-                     .source = "PlacementChain",
-                     .line = __LINE__});
+  report("PlacementRelTo of the placement" + placedObject(start) +
+         " leads in a circle back to the placement" + placedObject(closing));
 }
 
 /// Has a frame of its own in that of the placement that it is relative to.

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "Fc/Resource/Report.h"
+#include "Fc/Model/Report.h"
 
 namespace qor::fc::resource::geometricmodel {
 namespace {
@@ -11,8 +11,7 @@ namespace {
 bool isSupported(bool supported, const std::string& which, const std::string& operation) {
   if (!supported) {
     report(which + " operand of boolean " + operation +
-               " operation has type which is not supported for " + operation + " operations",
-           "qor::fc::resource::geometricmodel::FcBooleanResult::ocRepresentation", __LINE__);
+           " operation has type which is not supported for " + operation + " operations");
   }
   return supported;
 }

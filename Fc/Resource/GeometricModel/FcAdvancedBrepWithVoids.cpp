@@ -1,13 +1,12 @@
 #include "Fc/Resource/GeometricModel/FcAdvancedBrepWithVoids.h"
 
-#include "Fc/Resource/Report.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Topology/FcClosedShell.h"
 
 namespace qor::fc::resource::geometricmodel {
 
 void FcAdvancedBrepWithVoids::draw(const FcDrawParams& params) const {
-  report("Not implemented for FcAdvancedBrepWithVoids, voids will not be drawn",
-         "qor::fc::resource::geometricmodel::FcAdvancedBrepWithVoids::draw", __LINE__);
+  report(*this, "Not implemented for FcAdvancedBrepWithVoids, voids will not be drawn");
   FcAdvancedBrepWithVoidsAttributes::draw(params);
 }
 

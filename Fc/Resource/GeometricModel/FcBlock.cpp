@@ -1,8 +1,8 @@
 #include "Fc/Resource/GeometricModel/FcBlock.h"
 
-#include "Fc/FcDrawParams.h"
-#include "Fc/Resource/GeometricModel/PositiveLength.h"
-#include "Fc/Resource/GeometricModel/PrimitiveFaceSets.h"
+#include "Fc/Drawing/FcDrawParams.h"
+#include "Fc/Model/Report.h"
+#include "Fc/Shapes/PrimitiveFaceSets.h"
 #include "Qor/Draw/TransformationInterface.h"
 
 namespace qor::fc::resource::geometricmodel {
@@ -20,20 +20,19 @@ std::optional<math::Extent> FcBlock::boundingBox(const FcParams& /*params*/) con
 }
 
 bool FcBlock::ValidXYZLengths() const {
-  const PositiveLength check{"qor::fc::resource::geometricmodel::FcBlock::ValidXYZLengths",
-                             math::Epsilon::current().general};
-  const bool x = check(m_XLength,
-                       "Assertion failed in FcBlock::ValidXYZLengths: XLength must be strictly "
-                       "positive",
-                       __LINE__);
-  const bool y = check(m_YLength,
-                       "Assertion failed in FcBlock::ValidXYZLengths: YLength must be strictly "
-                       "positive",
-                       __LINE__);
-  const bool z = check(m_ZLength,
-                       "Assertion failed in FcBlock::ValidXYZLengths: ZLength must be strictly "
-                       "positive",
-                       __LINE__);
+  const double tolerance = math::Epsilon::current().general;
+  const bool x =
+      requireThat(*this, m_XLength > tolerance,
+                  "Assertion failed in FcBlock::ValidXYZLengths: XLength must be strictly "
+                  "positive");
+  const bool y =
+      requireThat(*this, m_YLength > tolerance,
+                  "Assertion failed in FcBlock::ValidXYZLengths: YLength must be strictly "
+                  "positive");
+  const bool z =
+      requireThat(*this, m_ZLength > tolerance,
+                  "Assertion failed in FcBlock::ValidXYZLengths: ZLength must be strictly "
+                  "positive");
   return x && y && z;
 }
 

@@ -1,33 +1,29 @@
 #include "Fc/Resource/GeometricModel/FcBooleanOperand.h"
 
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/GeometricModel/FcBooleanResult.h"
 #include "Fc/Resource/GeometricModel/FcCsgPrimitive3D.h"
 #include "Fc/Resource/GeometricModel/FcHalfSpaceSolid.h"
 #include "Fc/Resource/GeometricModel/FcPolygonalFaceSet.h"
 #include "Fc/Resource/GeometricModel/FcSweptAreaSolid.h"
 #include "Fc/Resource/GeometricModel/FcTriangulatedFaceSet.h"
-#include "Fc/Resource/Report.h"
 
 namespace qor::fc::resource::geometricmodel {
 namespace {
 
 using Types = FcBooleanOperand::Types;
 
-void reportOperand(const char* message, int line) {
-  report(message, "qor::fc::resource::geometricmodel::FcBooleanOperand::asserted", line);
-}
-
 // The item as a `T` when the alternative is the one asked for and there is one.
 template <class T>
 std::shared_ptr<T> asserted(const FcBooleanOperand& operand, Types type, const char* wrongType,
                             const char* missing) {
   if (operand.type() != type) {
-    reportOperand(wrongType, __LINE__);
+    report(wrongType);
     return nullptr;
   }
   auto* item = fcCast<T>(operand.getEntity());
   if (!item) {
-    reportOperand(missing, __LINE__);
+    report(missing);
     return nullptr;
   }
   return std::static_pointer_cast<T>(item->shared_from_this());
@@ -89,12 +85,11 @@ std::shared_ptr<FcTessellatedFaceSet> FcBooleanOperand::TessellatedFaceSetAssert
   if (!faceSet) return nullptr;
   const auto closed = isClosed(*faceSet);
   if (closed && *closed) return faceSet;
-  reportOperand(
+  report(
       closed
           ? "Assertion failed: Tessellated face set must be closed if used in boolean operations"
           : "Assertion failed: Tessellated face set is neither polygonal face set or triangulated "
-            "face set",
-      __LINE__);
+            "face set");
   return nullptr;
 }
 
@@ -114,10 +109,9 @@ FcBooleanOperand::asGeometricRepresentationItemNonConst() {
     case Types::NotSet:
       break;
   }
-  reportOperand(
+  report(
       "Assertion failed: boolean operand not set when requesting as asserted geometric "
-      "representation item",
-      __LINE__);
+      "representation item");
   return nullptr;
 }
 

@@ -2,14 +2,12 @@
 
 #include "Fc/ComplexGeometry/DrawByProcessor.h"
 #include "Fc/FcParams.h"
-#include "Fc/Resource/ConversionGuard.h"
+#include "Fc/Model/ConversionGuard.h"
 #include "Fc/Resource/GeometricModel/BooleanOperators.h"
 
 namespace qor::fc::resource::geometricmodel {
 
-void FcBooleanResult::draw(const FcDrawParams& params) const {
-  drawByProcessor(*this, params, "qor::fc::resource::geometricmodel::FcBooleanResult::draw");
-}
+void FcBooleanResult::draw(const FcDrawParams& params) const { drawByProcessor(*this, params); }
 
 void FcBooleanResult::transform(const math::Matrix& matrix) {
   for (FcBooleanOperand* operand : {&m_FirstOperand, &m_SecondOperand})

@@ -1,6 +1,6 @@
 #include "Fc/Resource/GeometricModel/FcCartesianPointList2D.h"
 
-#include "Qor/Assert/Assert.h"
+#include "Fc/Model/Report.h"
 
 namespace qor::fc::resource::geometricmodel {
 
@@ -29,12 +29,8 @@ void FcCartesianPointList2D::pushBackPoint(const Point2d& point) {
 }
 
 void FcCartesianPointList2D::transform(const math::Matrix& matrix) {
-  if (!matrix.isOnly2dTransformation() && Assert::isEnabled())
-    Assert::addAssert(
-        {.message = "transformation is not purely 2d, may lose information when applying it",
-         .function = "qor::fc::resource::geometricmodel::FcCartesianPointList2D::transform",
-         .source = "FcCartesianPointList2D",
-         .line = __LINE__});
+  if (!matrix.isOnly2dTransformation())
+    report(*this, "transformation is not purely 2d, may lose information when applying it");
   for (std::size_t i = 0; i < size(); ++i) {
     const Point3d moved = FcCartesianPointList2D::point(i) * matrix;
     m_CoordList[i] = {moved.x, moved.y};

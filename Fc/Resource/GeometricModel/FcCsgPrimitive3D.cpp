@@ -1,7 +1,7 @@
 #include "Fc/Resource/GeometricModel/FcCsgPrimitive3D.h"
 
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
-#include "Fc/Resource/Report.h"
 #include "Qor/Draw/TransformationInterface.h"
 
 namespace qor::fc::resource::geometricmodel {
@@ -9,17 +9,15 @@ namespace qor::fc::resource::geometricmodel {
 using math::Matrix;
 
 void FcCsgPrimitive3D::transform(const Matrix& matrix) {
-  if (matrix.isMirror())
-    report("Must fixed implementation if mirror should be allowed",
-           "qor::fc::resource::geometricmodel::FcCsgPrimitive3D::transform", __LINE__);
+  if (matrix.isMirror()) report(*this, "Must fixed implementation if mirror should be allowed");
   setPlacement(placement() * matrix);
 }
 
 Matrix FcCsgPrimitive3D::validPosition() const {
   if (!m_Position)
     report(
-        "Position() of FcCsgPrimitive3D is not given. Will assume standard coordinate system now",
-        "qor::fc::resource::geometricmodel::FcCsgPrimitive3D::validPosition", __LINE__);
+        *this,
+        "Position() of FcCsgPrimitive3D is not given. Will assume standard coordinate system now");
   return placement();
 }
 

@@ -1,6 +1,6 @@
 #include "Fc/Resource/GeometricModel/FcCsgSolid.h"
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/Resource/GeometricModel/FcBooleanResult.h"
 #include "Fc/Resource/GeometricModel/FcCsgPrimitive3D.h"
 

@@ -3,17 +3,17 @@
 #include <cmath>
 #include <utility>
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/FcParams.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Reflection/MakeEntity.h"
-#include "Fc/Resource/Expect.h"
-#include "Fc/Resource/GeometricModel/ExtrudedFaceSet.h"
 #include "Fc/Resource/GeometricModel/FcBlock.h"
 #include "Fc/Resource/GeometricModel/FcRightCircularCylinder.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
 #include "Fc/Resource/Geometry/FcDirection.h"
 #include "Fc/Resource/Profile/FcCircleProfileDef.h"
 #include "Fc/Resource/Profile/FcRectangleProfileDef.h"
+#include "Fc/Shapes/ExtrudedFaceSet.h"
 #include "Qor/Math/Epsilon.h"
 
 namespace qor::fc::resource::geometricmodel {
@@ -32,31 +32,28 @@ bool isExactly(const profile::FcProfileDef& profile) {
   return profile.classId() == Class::firstClassId;
 }
 
-constexpr const char* kDrawExtruded = "qor::fc::resource::geometricmodel::FcExtrudedAreaSolid::draw";
-
 }  // namespace
 
-bool FcExtrudedAreaSolid::hasDepth(const char* message, const char* operation) const {
-  return expectThat(std::isfinite(Depth()) && Depth() > Epsilon::current().length, message,
-                    operation, __LINE__);
+bool FcExtrudedAreaSolid::hasDepth(const char* message) const {
+  return requireThat(*this, std::isfinite(Depth()) && Depth() > Epsilon::current().length, message);
 }
 
-bool FcExtrudedAreaSolid::hasSweptArea(const char* operation) const {
-  return expectThat(SweptArea() != nullptr, "Swept area should exist", operation, __LINE__);
+bool FcExtrudedAreaSolid::hasSweptArea() const {
+  return requireThat(*this, SweptArea() != nullptr, "Swept area should exist");
 }
 
-bool FcExtrudedAreaSolid::hasDirection(const char* operation) const {
-  return expectThat(ExtrudedDirection() && std::isfinite(ExtrudedDirection()->vector().length()),
-                    "Extrude direction should exist", operation, __LINE__);
+bool FcExtrudedAreaSolid::hasDirection() const {
+  return requireThat(*this,
+                     ExtrudedDirection() && std::isfinite(ExtrudedDirection()->vector().length()),
+                     "Extrude direction should exist");
 }
 
-bool FcExtrudedAreaSolid::isReadyToDraw(const char* operation) const {
-  return hasDepth("Depth should be a positive value", operation) && hasSweptArea(operation) &&
-         hasDirection(operation);
+bool FcExtrudedAreaSolid::isReadyToDraw() const {
+  return hasDepth("Depth should be a positive value") && hasSweptArea() && hasDirection();
 }
 
 void FcExtrudedAreaSolid::draw(const FcDrawParams& params) const {
-  if (!isReadyToDraw(kDrawExtruded)) return;
+  if (!isReadyToDraw()) return;
   if (auto cylinder = asEquivalentRightCircularCylinder()) {
     params->drawRepresentationItem(std::move(cylinder), params,
                                    generate::draw::SurfaceDrawType::Surface);
@@ -83,17 +80,13 @@ PolygonalFaceSetOpenGL FcExtrudedAreaSolid::faceSetFromExtruded(Profile2D& profi
 }
 
 Vector3d FcExtrudedAreaSolid::normalizedExtrudedDirection() const {
-  constexpr const char* kOperation =
-      "qor::fc::resource::geometricmodel::FcExtrudedAreaSolid::normalizedExtrudedDirection";
-  if (!expectThat(ExtrudedDirection() != nullptr,
-                  "Assertion failed: expect only to be called if ExtrudedDirection() exists",
-                  kOperation, __LINE__))
+  if (!requireThat(*this, ExtrudedDirection() != nullptr,
+                   "Assertion failed: expect only to be called if ExtrudedDirection() exists"))
     return {};
   const Vector3d direction = ExtrudedDirection()->vector().normalized();
-  expectThat(std::abs(direction.z) > Epsilon::current().length,
+  expectThat(*this, std::abs(direction.z) > Epsilon::current().length,
              "By formal proposition, the extruded direction must not be perpendicular to the local "
-             "Z-Axis",
-             kOperation, __LINE__);
+             "Z-Axis");
   return direction;
 }
 
@@ -103,13 +96,10 @@ bool FcExtrudedAreaSolid::runsAlongZ() const {
 
 std::shared_ptr<FcRightCircularCylinder> FcExtrudedAreaSolid::asEquivalentRightCircularCylinder()
     const {
-  if (!expectThat(
-          SweptArea() && ExtrudedDirection() && Depth() > Epsilon::current().length,
+  if (!requireThat(
+          *this, SweptArea() && ExtrudedDirection() && Depth() > Epsilon::current().length,
           "Assertion failed: expect to be called only for valid SweptArea, ExtrudedDirection and "
-          "Depth",
-          "qor::fc::resource::geometricmodel::FcExtrudedAreaSolid::"
-          "asEquivalentRightCircularCylinder",
-          __LINE__))
+          "Depth"))
     return nullptr;
   if (!isExactly<profile::FcCircleProfileDef>(*SweptArea()) || !runsAlongZ()) return nullptr;
   const auto& circle = static_cast<const profile::FcCircleProfileDef&>(*SweptArea());
@@ -123,11 +113,10 @@ std::shared_ptr<FcRightCircularCylinder> FcExtrudedAreaSolid::asEquivalentRightC
 }
 
 std::shared_ptr<FcBlock> FcExtrudedAreaSolid::asFcBlock() const {
-  if (!expectThat(
-          SweptArea() && ExtrudedDirection() && Depth() > Epsilon::current().length,
+  if (!requireThat(
+          *this, SweptArea() && ExtrudedDirection() && Depth() > Epsilon::current().length,
           "Assertion failed: expect to be called only for valid SweptArea, ExtrudedDirection and "
-          "Depth",
-          "qor::fc::resource::geometricmodel::FcExtrudedAreaSolid::asFcBlock", __LINE__))
+          "Depth"))
     return nullptr;
   if (!isExactly<profile::FcRectangleProfileDef>(*SweptArea()) || !runsAlongZ()) return nullptr;
   const auto& rectangle = static_cast<const profile::FcRectangleProfileDef&>(*SweptArea());
@@ -144,12 +133,10 @@ std::shared_ptr<FcBlock> FcExtrudedAreaSolid::asFcBlock() const {
 }
 
 void FcExtrudedAreaSolid::transform(const Matrix& matrix) {
-  constexpr const char* kOperation =
-      "qor::fc::resource::geometricmodel::FcExtrudedAreaSolid::transform";
-  if (!hasDepth("Depth should be a positive distance", kOperation)) return;
+  if (!hasDepth("Depth should be a positive distance")) return;
   const Matrix position = validPosition() * matrix;
   if (!position.isIdentity()) {
-    expectThat(position.isOrthogonal(), "Matrix must be orthogonal", kOperation, __LINE__);
+    expectThat(*this, position.isOrthogonal(), "Matrix must be orthogonal");
     const double tolerance = Epsilon::current().length;
     const double sx = position.x().length();
     const double sy = position.y().length();
@@ -169,8 +156,7 @@ void FcExtrudedAreaSolid::transform(const Matrix& matrix) {
 }
 
 std::optional<Extent> FcExtrudedAreaSolid::boundingBox(const FcParams& params) const {
-  if (!isReadyToDraw("qor::fc::resource::geometricmodel::FcExtrudedAreaSolid::boundingBox"))
-    return std::nullopt;
+  if (!isReadyToDraw()) return std::nullopt;
   const auto planarBox = SweptArea()->planarBox(params);
   return planarBox ? std::optional(boxOfExtruded(*planarBox)) : std::nullopt;
 }

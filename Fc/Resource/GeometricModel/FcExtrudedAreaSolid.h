@@ -38,14 +38,14 @@ class QOR_API FcExtrudedAreaSolid : public FcExtrudedAreaSolidAttributes {
 
  protected:
   /// Reports the first attribute that is missing or bad.
-  bool hasDepth(const char* message, const char* operation) const;
-  bool hasSweptArea(const char* operation) const;
-  bool hasDirection(const char* operation) const;
+  bool hasDepth(const char* message) const;
+  bool hasSweptArea() const;
+  bool hasDirection() const;
   /// The box around `planarBox` and where the extrusion takes it, in the frame around this solid.
   math::Extent boxOfExtruded(const math::Extent2d& planarBox) const;
 
  private:
-  bool isReadyToDraw(const char* operation) const;
+  bool isReadyToDraw() const;
   bool runsAlongZ() const;
 };
 

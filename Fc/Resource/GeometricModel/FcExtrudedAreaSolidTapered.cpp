@@ -2,13 +2,13 @@
 
 #include <utility>
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/FcParams.h"
-#include "Fc/Resource/GeometricModel/ExtrudedFaceSet.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/GeometricModel/TaperedProfiles.h"
 #include "Fc/Resource/Geometry/FcDirection.h"
 #include "Fc/Resource/Profile/FcProfileDef.h"
-#include "Fc/Resource/Report.h"
+#include "Fc/Shapes/ExtrudedFaceSet.h"
 
 namespace qor::fc::resource::geometricmodel {
 
@@ -16,24 +16,19 @@ using generate::draw::PolygonalFaceSetOpenGL;
 using generate::draw::Profile2D;
 using math::Vector3d;
 
-namespace {
+namespace {}  // namespace
 
-constexpr const char* kDrawExtrudedTapered = "qor::fc::resource::geometricmodel::FcExtrudedAreaSolidTapered::draw";
-
-}  // namespace
-
-bool FcExtrudedAreaSolidTapered::isReadyToDraw(const char* operation) const {
-  if (!hasDepth("Depth should be a positive distance", operation) || !hasSweptArea(operation))
-    return false;
+bool FcExtrudedAreaSolidTapered::isReadyToDraw() const {
+  if (!hasDepth("Depth should be a positive distance") || !hasSweptArea()) return false;
   if (!EndSweptArea()) {
-    report("End swept area should exist", operation, __LINE__);
+    report(*this, "End swept area should exist");
     return false;
   }
-  return hasDirection(operation);
+  return hasDirection();
 }
 
 void FcExtrudedAreaSolidTapered::draw(const FcDrawParams& params) const {
-  if (!isReadyToDraw(kDrawExtrudedTapered)) return;
+  if (!isReadyToDraw()) return;
   auto profiles = taperedProfiles(*SweptArea(), *EndSweptArea(), FcParams(params));
   if (!profiles) return;
   const generate::draw::TransformationGuard guard(params);
@@ -42,8 +37,7 @@ void FcExtrudedAreaSolidTapered::draw(const FcDrawParams& params) const {
   for (std::size_t i = 0; i < profiles->start.size(); ++i) {
     Profile2D& start = profiles->start[i];
     Profile2D& end = profiles->end[i];
-    if (!profilesPair(start, end, kDrawExtrudedTapered) || start.empty() || start.contours().front().empty())
-      continue;
+    if (!profilesPair(start, end) || start.empty() || start.contours().front().empty()) continue;
     for (PolygonalFaceSetOpenGL& set : faceSetFromExtrudedTapered(start, end, extrusion))
       params->polygonalFaceSet(std::move(set));
   }
@@ -55,8 +49,7 @@ std::vector<PolygonalFaceSetOpenGL> FcExtrudedAreaSolidTapered::faceSetFromExtru
 }
 
 std::optional<math::Extent> FcExtrudedAreaSolidTapered::boundingBox(const FcParams& params) const {
-  if (!isReadyToDraw("qor::fc::resource::geometricmodel::FcExtrudedAreaSolidTapered::boundingBox"))
-    return std::nullopt;
+  if (!isReadyToDraw()) return std::nullopt;
   const auto start = SweptArea()->planarBox(params);
   const auto end = EndSweptArea()->planarBox(params);
   if (!start || !end) return std::nullopt;

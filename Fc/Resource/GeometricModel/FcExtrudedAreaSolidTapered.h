@@ -21,7 +21,7 @@ class QOR_API FcExtrudedAreaSolidTapered : public FcExtrudedAreaSolidTaperedAttr
       const math::Vector3d& extrusion);
 
  private:
-  bool isReadyToDraw(const char* operation) const;
+  bool isReadyToDraw() const;
 };
 
 }  // namespace qor::fc::resource::geometricmodel

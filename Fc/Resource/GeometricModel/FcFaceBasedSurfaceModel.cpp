@@ -1,8 +1,8 @@
 #include "Fc/Resource/GeometricModel/FcFaceBasedSurfaceModel.h"
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/BoxUnion.h"
-#include "Fc/Resource/Report.h"
 #include "Fc/Resource/Topology/FcConnectedFaceSet.h"
 #include "Fc/Resource/Topology/MovedPoints.h"
 
@@ -13,8 +13,7 @@ void FcFaceBasedSurfaceModel::draw(const FcDrawParams& params) const {
     if (faces)
       params->drawConstRepresentationItem(faces, params, generate::draw::SurfaceDrawType::Surface);
     else
-      report("Expect to have a valid connected face set",
-             "qor::fc::resource::geometricmodel::FcFaceBasedSurfaceModel::draw", __LINE__);
+      report(*this, "Expect to have a valid connected face set");
   }
 }
 
@@ -24,8 +23,7 @@ void FcFaceBasedSurfaceModel::transform(const math::Matrix& matrix) {
     if (faces)
       faces->transform(matrix);
     else
-      report("Expect to have a valid connected face set",
-             "qor::fc::resource::geometricmodel::FcFaceBasedSurfaceModel::transform", __LINE__);
+      report(*this, "Expect to have a valid connected face set");
   }
 }
 

@@ -1,13 +1,12 @@
 #include "Fc/Resource/GeometricModel/FcFacetedBrepWithVoids.h"
 
-#include "Fc/Resource/Report.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Topology/FcClosedShell.h"
 
 namespace qor::fc::resource::geometricmodel {
 
 void FcFacetedBrepWithVoids::draw(const FcDrawParams& params) const {
-  report("Not implemented for FcFacetedBrepWithVoids, voids will not be drawn",
-         "qor::fc::resource::geometricmodel::FcFacetedBrepWithVoids::draw", __LINE__);
+  report(*this, "Not implemented for FcFacetedBrepWithVoids, voids will not be drawn");
   FcFacetedBrepWithVoidsAttributes::draw(params);
 }
 

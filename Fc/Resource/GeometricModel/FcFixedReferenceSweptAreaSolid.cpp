@@ -4,14 +4,14 @@
 #include <cmath>
 #include <utility>
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/FcParams.h"
-#include "Fc/Resource/Expect.h"
-#include "Fc/Resource/GeometricModel/DirectrixSweep.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
 #include "Fc/Resource/Geometry/FcCurve.h"
 #include "Fc/Resource/Geometry/FcDirection.h"
 #include "Fc/Resource/Profile/FcProfileDef.h"
+#include "Fc/Shapes/DirectrixSweep.h"
 #include "Qor/Math/Epsilon.h"
 
 namespace qor::fc::resource::geometricmodel {
@@ -24,11 +24,6 @@ using math::Point3d;
 using math::Vector3d;
 
 namespace {
-
-constexpr const char* kGenerate =
-    "qor::fc::resource::geometricmodel::FcFixedReferenceSweptAreaSolid::generateFaceSet";
-constexpr const char* kBoundingBox =
-    "qor::fc::resource::geometricmodel::FcFixedReferenceSweptAreaSolid::boundingBox";
 
 /// Around the ends of a leg, each moved by all four or eight offsets that the lists span.
 void includeWithOffsets(Extent& box, const Point3d& p, const Point3d& q, const Vector3d& least,
@@ -57,9 +52,9 @@ void includeLeg(Extent& box, const Point3d& p, const Point3d& q, const Extent2d&
 
 }  // namespace
 
-bool FcFixedReferenceSweptAreaSolid::isReadyToDraw(const char* operation) const {
-  return expectThat(Directrix() != nullptr, "Directrix should exist", operation, __LINE__) &&
-         expectThat(SweptArea() != nullptr, "Swept area should exist", operation, __LINE__);
+bool FcFixedReferenceSweptAreaSolid::isReadyToDraw() const {
+  return requireThat(*this, Directrix() != nullptr, "Directrix should exist") &&
+         requireThat(*this, SweptArea() != nullptr, "Swept area should exist");
 }
 
 Vector3d FcFixedReferenceSweptAreaSolid::reference() const {
@@ -74,9 +69,9 @@ void FcFixedReferenceSweptAreaSolid::draw(const FcDrawParams& params) const {
 std::vector<PolygonalFaceSetOpenGL> FcFixedReferenceSweptAreaSolid::generateFaceSet(
     const FcParams& params) const {
   std::vector<PolygonalFaceSetOpenGL> result;
-  if (!isReadyToDraw(kGenerate)) return result;
-  expectThat(!EndParam().isSet(), "End param not implemented", kGenerate, __LINE__);
-  expectThat(!StartParam().isSet(), "Start param not implemented", kGenerate, __LINE__);
+  if (!isReadyToDraw()) return result;
+  expectThat(*this, !EndParam().isSet(), "End param not implemented");
+  expectThat(*this, !StartParam().isSet(), "Start param not implemented");
   const auto profiles = SweptArea()->closedProfileWithEnforcedOrientation(params, true);
   if (profiles.empty()) return result;
   const std::vector<Point3d> path = Directrix()->curveGet(params, {}, {}, false);
@@ -96,7 +91,7 @@ std::optional<PolygonalFaceSetOpenGL> FcFixedReferenceSweptAreaSolid::generateFa
 }
 
 std::optional<Extent> FcFixedReferenceSweptAreaSolid::boundingBox(const FcParams& params) const {
-  if (!isReadyToDraw(kBoundingBox)) return std::nullopt;
+  if (!isReadyToDraw()) return std::nullopt;
   const auto planarBox = SweptArea()->planarBox(params);
   if (!planarBox) return std::nullopt;
   const std::vector<Point3d> path = Directrix()->curveGet(params, {}, {}, false);

@@ -23,7 +23,7 @@ class QOR_API FcFixedReferenceSweptAreaSolid : public FcFixedReferenceSweptAreaS
       const math::Vector3d& reference, const std::optional<math::Matrix>& frame, bool closed);
 
  private:
-  bool isReadyToDraw(const char* operation) const;
+  bool isReadyToDraw() const;
   /// Of length 1; zero without one.
   math::Vector3d reference() const;
 };

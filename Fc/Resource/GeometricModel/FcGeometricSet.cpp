@@ -1,6 +1,6 @@
 #include "Fc/Resource/GeometricModel/FcGeometricSet.h"
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/Resource/BoxUnion.h"
 #include "Fc/Resource/Geometry/FcGeometricRepresentationItem.h"
 

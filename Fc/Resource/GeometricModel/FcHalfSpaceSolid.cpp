@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <numbers>
 
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
 #include "Fc/Resource/Geometry/FcPlane.h"
-#include "Fc/Resource/Report.h"
 #include "Qor/Math/Bounding.h"
 #include "Qor/Math/Epsilon.h"
 
@@ -26,25 +26,22 @@ std::optional<math::Extent> FcHalfSpaceSolid::boundingBox(const FcParams& /*para
 void FcHalfSpaceSolid::transform(const math::Matrix& matrix) {
   if (matrix.isIdentity()) return;
   if (BaseSurface()) return BaseSurface()->transform(matrix);
-  report("Assertion failed in FcHalfSpaceSolid::transform: expect BaseSurface to be given",
-         "qor::fc::resource::geometricmodel::FcHalfSpaceSolid::transform", __LINE__);
+  report(*this, "Assertion failed in FcHalfSpaceSolid::transform: expect BaseSurface to be given");
 }
 
 std::optional<FcHalfSpaceSolid::OcRepresentationData> FcHalfSpaceSolid::setupOcRepresentationData()
     const {
-  const char* const function =
-      "qor::fc::resource::geometricmodel::FcHalfSpaceSolid::setupOcRepresentationData";
   const auto* plane = fcCast<geometry::FcPlane>(BaseSurface().get());
   if (!plane) {
-    report("Expect BaseSurface to be of type FcPlane.", function, __LINE__);
+    report(*this, "Expect BaseSurface to be of type FcPlane.");
     return {};
   }
   math::Matrix frame;
   if (plane->Position()) {
     frame = plane->Position()->placementGet();
   } else {
-    report("Position() of BaseSurface() is not set. Will assume standard coordinate system now.",
-           function, __LINE__);
+    report(*this,
+           "Position() of BaseSurface() is not set. Will assume standard coordinate system now.");
   }
   return OcRepresentationData{frame.origin(), AgreementFlag() ? frame.z() * -1 : frame.z()};
 }

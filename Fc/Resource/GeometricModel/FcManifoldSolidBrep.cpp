@@ -1,7 +1,7 @@
 #include "Fc/Resource/GeometricModel/FcManifoldSolidBrep.h"
 
-#include "Fc/FcDrawParams.h"
-#include "Fc/Resource/Report.h"
+#include "Fc/Drawing/FcDrawParams.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Topology/FcClosedShell.h"
 #include "Fc/Resource/Topology/MovedPoints.h"
 
@@ -11,16 +11,14 @@ void FcManifoldSolidBrep::draw(const FcDrawParams& params) const {
   if (m_Outer)
     params->drawConstRepresentationItem(m_Outer, params, generate::draw::SurfaceDrawType::Surface);
   else
-    report("Outer should exist", "qor::fc::resource::geometricmodel::FcManifoldSolidBrep::draw",
-           __LINE__);
+    report(*this, "Outer should exist");
 }
 
 void FcManifoldSolidBrep::transform(const math::Matrix& matrix) {
   if (m_Outer)
     m_Outer->transform(matrix);
   else
-    report("Outer should exist",
-           "qor::fc::resource::geometricmodel::FcManifoldSolidBrep::transform", __LINE__);
+    report(*this, "Outer should exist");
 }
 
 void FcManifoldSolidBrep::transformWithVoids(

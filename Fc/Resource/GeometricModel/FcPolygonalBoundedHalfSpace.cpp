@@ -3,31 +3,21 @@
 #include <cmath>
 
 #include "Fc/FcParams.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
 #include "Fc/Resource/Geometry/FcBoundedCurve.h"
 #include "Fc/Resource/Geometry/FcSurface.h"
-#include "Fc/Resource/Report.h"
 #include "Qor/Math/Epsilon.h"
 #include "Qor/Math/Plane.h"
 
 namespace qor::fc::resource::geometricmodel {
-namespace {
-
-void reportPrism(const char* message, int line) {
-  report(message,
-         "qor::fc::resource::geometricmodel::FcPolygonalBoundedHalfSpace::"
-         "ocRepresentationFromBooleanCommonOfHalfSpaceWithFinitePrism",
-         line);
-}
-
-}  // namespace
+namespace {}  // namespace
 
 void FcPolygonalBoundedHalfSpace::transform(const math::Matrix& matrix) {
   if (!BaseSurface() || !PolygonalBoundary()) {
-    report(
-        "Assertion failed in FcBoxedHalfSpace::transform: expect both, BaseSurface and "
-        "PolygonalBoundary to be given",
-        "qor::fc::resource::geometricmodel::FcPolygonalBoundedHalfSpace::transform", __LINE__);
+    report(*this,
+           "Assertion failed in FcBoxedHalfSpace::transform: expect both, BaseSurface and "
+           "PolygonalBoundary to be given");
     return;
   }
   BaseSurface()->transform(matrix);
@@ -42,8 +32,9 @@ void FcPolygonalBoundedHalfSpace::transform(const math::Matrix& matrix) {
 
 math::Matrix FcPolygonalBoundedHalfSpace::validPosition() const {
   if (Position()) return Position()->placementGet();
-  report("Position() of polygonal boundary is not set. Will assume standard coordinate system now.",
-         "qor::fc::resource::geometricmodel::FcPolygonalBoundedHalfSpace::validPosition", __LINE__);
+  report(
+      *this,
+      "Position() of polygonal boundary is not set. Will assume standard coordinate system now.");
   return {};
 }
 
@@ -56,8 +47,7 @@ FcPolygonalBoundedHalfSpace::setupOcRepresentationData() const {
   const double intoMaterial = extrusion.dot(halfSpace->vector);
   const double tolerance = math::Epsilon::current().general;
   if (std::abs(intoMaterial) <= tolerance) {
-    reportPrism("Polygons extrusion direction can't be parallel to the half space surface.",
-                __LINE__);
+    report(*this, "Polygons extrusion direction can't be parallel to the half space surface.");
     return {};
   }
   if (intoMaterial < 0) extrusion = extrusion * -1;
@@ -68,7 +58,7 @@ FcPolygonalBoundedHalfSpace::setupOcRepresentationData() const {
 std::vector<math::Point3d> FcPolygonalBoundedHalfSpace::polygonOnPlane(
     const OcRepresentationData& data, const FcParams& params) const {
   if (!PolygonalBoundary()) {
-    reportPrism("Expect PolygonalBoundary() to be set.", __LINE__);
+    report(*this, "Expect PolygonalBoundary() to be set.");
     return {};
   }
   const auto polygon = PolygonalBoundary()->closedCurve2dGet(params);

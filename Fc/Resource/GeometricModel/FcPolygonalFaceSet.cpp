@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Reflection/MakeEntity.h"
-#include "Fc/Resource/GeometricModel/ColourSplit.h"
 #include "Fc/Resource/GeometricModel/CoordinatePositions.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList3D.h"
 #include "Fc/Resource/GeometricModel/FcIndexedPolygonalFaceWithVoids.h"
@@ -13,7 +13,7 @@
 #include "Fc/Resource/PresentationAppearance/FcColourRgbList.h"
 #include "Fc/Resource/PresentationAppearance/FcIndexedColourMap.h"
 #include "Fc/Resource/PresentationAppearance/FcIndexedPolygonalTextureMap.h"
-#include "Fc/Resource/Report.h"
+#include "Fc/Shapes/ColourSplit.h"
 #include "Qor/Draw/DrawInterface.h"
 
 namespace qor::fc::resource::geometricmodel {
@@ -40,9 +40,7 @@ void FcPolygonalFaceSet::draw(const FcDrawParams& params) const {
 
 std::optional<PolygonalFaceSetOpenGL> FcPolygonalFaceSet::createQorPolygonalFaceSet() const {
   if (!hasCoordinates()) {
-    report("Expect Coordinates() to be set.",
-           "qor::fc::resource::geometricmodel::FcPolygonalFaceSet::createQorPolygonalFaceSet",
-           __LINE__);
+    report(*this, "Expect Coordinates() to be set.");
     return std::nullopt;
   }
   PolygonalFaceSetOpenGL result;
@@ -67,11 +65,9 @@ std::vector<FaceSetWithMaterial> FcPolygonalFaceSet::createFaceSetsWithMaterials
 
 std::optional<std::vector<FaceSetWithMaterial>> FcPolygonalFaceSet::splitByColour(
     const FcIndexedColourMap& map) const {
-  constexpr const char* function =
-      "qor::fc::resource::geometricmodel::FcPolygonalFaceSet::createFaceSetsWithMaterials";
   if (map.ColourIndex().size() != m_Faces.size()) {
-    report("Mismatch between number of faces in PolygonalFaceSetOpenGL and IndexedColourMap",
-           function, __LINE__);
+    report(*this,
+           "Mismatch between number of faces in PolygonalFaceSetOpenGL and IndexedColourMap");
     return std::nullopt;
   }
   const auto& coordinates = m_Coordinates->CoordList();
@@ -83,7 +79,7 @@ std::optional<std::vector<FaceSetWithMaterial>> FcPolygonalFaceSet::splitByColou
     if (!isPolygon(m_Faces[k].get())) continue;
     const std::uint64_t colour = static_cast<std::uint64_t>(map.ColourIndex()[k].value()) - 1;
     if (colour >= colourCount) {
-      report("Invalid colour index in FcIndexedColourMap.", function, __LINE__);
+      report(*this, "Invalid colour index in FcIndexedColourMap.");
       return std::nullopt;
     }
     if (auto face = indexedFaceOfColour(*m_Faces[k], positions)) {
@@ -135,8 +131,7 @@ void FcPolygonalFaceSet::forEachPolygon(const std::function<void(const Polygon&)
     if (const auto* withVoids = fcCast<FcIndexedPolygonalFaceWithVoids>(face.get())) {
       for (const auto& hole : withVoids->InnerCoordIndices()) {
         if (hole.empty()) {
-          report("There is a Void in a Face With Voids which contains no points.",
-                 "qor::fc::resource::geometricmodel::FcPolygonalFaceSet::forEachPolygon", __LINE__);
+          report(*this, "There is a Void in a Face With Voids which contains no points.");
           continue;
         }
         polygon.emplace_back();
@@ -178,8 +173,7 @@ FcPositiveInteger FcPolygonalFaceSet::addPoint(const math::Point3d& point) {
 
 void FcPolygonalFaceSet::transform(const math::Matrix& matrix) {
   if (!m_Coordinates) {
-    report("Expect Coordinates() to be set.",
-           "qor::fc::resource::geometricmodel::FcPolygonalFaceSet::transform", __LINE__);
+    report(*this, "Expect Coordinates() to be set.");
     return;
   }
   m_Coordinates->transform(matrix);

@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "Fc/ComplexGeometry/OpenCascadeTypes.h"
-#include "Fc/Resource/GeometricModel/FaceSetWithMaterial.h"
 #include "Fc/Resource/GeometricModel/FcPolygonalFaceSetAttributes.h"
-#include "Fc/Resource/GeometricModel/SweepFaces.h"
+#include "Fc/Shapes/FaceSetWithMaterial.h"
+#include "Fc/Shapes/SweepFaces.h"
 
 namespace qor::math {
 class CurveDiscretization;

@@ -1,8 +1,8 @@
 #include "Fc/Resource/GeometricModel/FcRectangularPyramid.h"
 
-#include "Fc/FcDrawParams.h"
-#include "Fc/Resource/GeometricModel/PositiveLength.h"
-#include "Fc/Resource/GeometricModel/PrimitiveFaceSets.h"
+#include "Fc/Drawing/FcDrawParams.h"
+#include "Fc/Model/Report.h"
+#include "Fc/Shapes/PrimitiveFaceSets.h"
 #include "Qor/Draw/TransformationInterface.h"
 
 namespace qor::fc::resource::geometricmodel {
@@ -20,21 +20,18 @@ std::optional<math::Extent> FcRectangularPyramid::boundingBox(const FcParams& /*
 }
 
 bool FcRectangularPyramid::ValidXYLengthsHeight() const {
-  const PositiveLength check{
-      "qor::fc::resource::geometricmodel::FcRectangularPyramid::ValidXYLengthsHeight",
-      math::Epsilon::current().general};
-  const bool x = check(m_XLength,
-                       "Assertion failed in FcRectangularPyramid::ValidXYLengthsHeight: XLength "
-                       "must be strictly positive",
-                       __LINE__);
-  const bool y = check(m_YLength,
-                       "Assertion failed in FcRectangularPyramid::ValidXYLengthsHeight: YLength "
-                       "must be strictly positive",
-                       __LINE__);
-  const bool height = check(m_Height,
-                            "Assertion failed in FcRectangularPyramid::ValidXYLengthsHeight: "
-                            "Height must be strictly positive",
-                            __LINE__);
+  const double tolerance = math::Epsilon::current().general;
+  const bool x =
+      requireThat(*this, m_XLength > tolerance,
+                  "Assertion failed in FcRectangularPyramid::ValidXYLengthsHeight: XLength "
+                  "must be strictly positive");
+  const bool y =
+      requireThat(*this, m_YLength > tolerance,
+                  "Assertion failed in FcRectangularPyramid::ValidXYLengthsHeight: YLength "
+                  "must be strictly positive");
+  const bool height = requireThat(*this, m_Height > tolerance,
+                                  "Assertion failed in FcRectangularPyramid::ValidXYLengthsHeight: "
+                                  "Height must be strictly positive");
   return x && y && height;
 }
 

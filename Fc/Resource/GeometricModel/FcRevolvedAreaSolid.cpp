@@ -5,9 +5,9 @@
 #include <numbers>
 #include <utility>
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/FcParams.h"
-#include "Fc/Resource/Expect.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcAxis1Placement.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
@@ -23,43 +23,38 @@ using math::Matrix;
 using math::Point3d;
 using math::Vector3d;
 
-namespace {
+namespace {}  // namespace
 
-constexpr const char* kDrawRevolved = "qor::fc::resource::geometricmodel::FcRevolvedAreaSolid::draw";
-constexpr const char* kTransform =
-    "qor::fc::resource::geometricmodel::FcRevolvedAreaSolid::transform";
-
-}  // namespace
-
-std::optional<RevolutionAxis> FcRevolvedAreaSolid::axisInPlane(const char* operation) const {
+std::optional<RevolutionAxis> FcRevolvedAreaSolid::axisInPlane() const {
   const double tolerance = Epsilon::current().general;
-  if (!expectThat(Axis() != nullptr, "Axis should exist", operation, __LINE__)) return std::nullopt;
+  if (!requireThat(*this, Axis() != nullptr, "Axis should exist")) return std::nullopt;
   const auto point = fcCast<geometry::FcCartesianPoint>(Axis()->Location());
   const Point3d location = point ? point->point() : Point3d();
-  if (!expectThat(std::abs(location.z) <= tolerance, "Axis location must have a Z value of 0",
-                  operation, __LINE__) ||
-      !expectThat(Axis()->Axis() != nullptr, "Axis direction must exist", operation, __LINE__))
+  if (!requireThat(*this, std::abs(location.z) <= tolerance,
+                   "Axis location must have a Z value of 0") ||
+      !requireThat(*this, Axis()->Axis() != nullptr, "Axis direction must exist"))
     return std::nullopt;
   const Vector3d direction = Axis()->Axis()->vector().normalized();
-  if (!expectThat(std::abs(direction.z) <= tolerance, "Axis direction must have a Z value of 0",
-                  operation, __LINE__))
+  if (!requireThat(*this, std::abs(direction.z) <= tolerance,
+                   "Axis direction must have a Z value of 0"))
     return std::nullopt;
   return RevolutionAxis{{location.x, location.y},
                         math::Vector2d(direction.x, direction.y).normalized()};
 }
 
-bool FcRevolvedAreaSolid::hasSweptArea(const char* operation) const {
-  return expectThat(SweptArea() != nullptr, "Swept area should exist", operation, __LINE__);
+bool FcRevolvedAreaSolid::hasSweptArea() const {
+  return requireThat(*this, SweptArea() != nullptr, "Swept area should exist");
 }
 
-bool FcRevolvedAreaSolid::hasAngle(const char* operation) const {
-  return expectThat(Angle() >= 0.0 && Angle() <= 2 * std::numbers::pi + Epsilon::current().angle,
-                    "Angle should be between 0 and 2pi (or 360 deg)", operation, __LINE__);
+bool FcRevolvedAreaSolid::hasAngle() const {
+  return requireThat(*this,
+                     Angle() >= 0.0 && Angle() <= 2 * std::numbers::pi + Epsilon::current().angle,
+                     "Angle should be between 0 and 2pi (or 360 deg)");
 }
 
 void FcRevolvedAreaSolid::draw(const FcDrawParams& params) const {
-  const auto axis = axisInPlane(kDrawRevolved);
-  if (!axis || !hasSweptArea(kDrawRevolved) || !hasAngle(kDrawRevolved)) return;
+  const auto axis = axisInPlane();
+  if (!axis || !hasSweptArea() || !hasAngle()) return;
   const FcParams evaluation(params);
   const auto profiles = SweptArea()->closedProfileWithEnforcedOrientation(evaluation, true);
   if (profiles.empty()) return;
@@ -72,28 +67,28 @@ void FcRevolvedAreaSolid::draw(const FcDrawParams& params) const {
 
 void FcRevolvedAreaSolid::transform(const Matrix& matrix) {
   if (matrix.isIdentity()) return;
-  if (!expectThat(!matrix.isMirror(), "Must fixed implementation if mirror should be allowed",
-                  kTransform, __LINE__))
+  if (!requireThat(*this, !matrix.isMirror(),
+                   "Must fixed implementation if mirror should be allowed"))
     return;
-  expectThat(matrix.isOrthogonal(), "Matrix must be orthogonal", kTransform, __LINE__);
+  expectThat(*this, matrix.isOrthogonal(), "Matrix must be orthogonal");
   const double factor = matrix.x().length();
   const double tolerance = Epsilon::current().length;
-  if (!expectThat(std::abs(matrix.y().length() - factor) <= tolerance &&
-                      std::abs(matrix.z().length() - factor) <= tolerance,
-                  "Non uniform scaling is not implemented", kTransform, __LINE__))
+  if (!requireThat(*this,
+                   std::abs(matrix.y().length() - factor) <= tolerance &&
+                       std::abs(matrix.z().length() - factor) <= tolerance,
+                   "Non uniform scaling is not implemented"))
     return;
-  if (std::abs(factor - 1) > tolerance && !scale(factor, kTransform)) return;
+  if (std::abs(factor - 1) > tolerance && !scale(factor)) return;
   if (Position())
     Position()->transform(matrix);
   else
     setPosition(geometry::makePlacement(matrix));
 }
 
-bool FcRevolvedAreaSolid::scale(double factor, const char* operation) {
-  if (!expectThat(SweptArea() != nullptr, "FcRevolvedAreaSolid must have SweptArea before scaling",
-                  operation, __LINE__) ||
-      !expectThat(Axis() != nullptr, "FcRevolvedAreaSolid must have Axis before scaling", operation,
-                  __LINE__))
+bool FcRevolvedAreaSolid::scale(double factor) {
+  if (!requireThat(*this, SweptArea() != nullptr,
+                   "FcRevolvedAreaSolid must have SweptArea before scaling") ||
+      !requireThat(*this, Axis() != nullptr, "FcRevolvedAreaSolid must have Axis before scaling"))
     return false;
   transformProfiles(math::Matrix2d::createScale(factor, factor));
   Axis()->transform(Matrix::createScale(factor, factor, 1));
@@ -101,13 +96,10 @@ bool FcRevolvedAreaSolid::scale(double factor, const char* operation) {
 }
 
 std::optional<Extent> FcRevolvedAreaSolid::boundingBox(const FcParams& params) const {
-  constexpr const char* kOperation =
-      "qor::fc::resource::geometricmodel::FcRevolvedAreaSolid::boundingBox";
-  const auto axis = axisInPlane(kOperation);
-  if (!axis || !hasSweptArea(kOperation) || !hasAngle(kOperation)) return std::nullopt;
+  const auto axis = axisInPlane();
+  if (!axis || !hasSweptArea() || !hasAngle()) return std::nullopt;
   const auto planarBox = SweptArea()->planarBox(params);
-  if (!expectThat(planarBox.has_value(), "No planar box", kOperation, __LINE__))
-    return std::nullopt;
+  if (!requireThat(*this, planarBox.has_value(), "No planar box")) return std::nullopt;
   return boundingBoxFromProfileExtent(*planarBox, *axis);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Fc/Resource/GeometricModel/FcRevolvedAreaSolidAttributes.h"
-#include "Fc/Resource/GeometricModel/RevolvedFaceSet.h"
+#include "Fc/Shapes/RevolvedFaceSet.h"
 
 namespace qor::fc::resource::geometricmodel {
 
@@ -19,16 +19,16 @@ class QOR_API FcRevolvedAreaSolid : public FcRevolvedAreaSolidAttributes {
  protected:
   /// `Axis` in the plane of the profile, direction of length 1; asserts where it isn't there or
   /// leaves the plane.
-  std::optional<RevolutionAxis> axisInPlane(const char* operation) const;
-  bool hasSweptArea(const char* operation) const;
+  std::optional<RevolutionAxis> axisInPlane() const;
+  bool hasSweptArea() const;
   /// The box, in the frame around this solid, around `planarBox` turned in quarters up to the
   /// angle.
   math::Extent boundingBoxFromProfileExtent(const math::Extent2d& planarBox,
                                             const RevolutionAxis& axis) const;
 
  private:
-  bool hasAngle(const char* operation) const;
-  bool scale(double factor, const char* operation);
+  bool hasAngle() const;
+  bool scale(double factor);
 };
 
 }  // namespace qor::fc::resource::geometricmodel

@@ -15,7 +15,7 @@ class QOR_API FcRevolvedAreaSolidTapered : public FcRevolvedAreaSolidTaperedAttr
 
  private:
   /// The axis when all attributes are sound; reports the first that isn't.
-  std::optional<RevolutionAxis> checkedAxis(const char* operation) const;
+  std::optional<RevolutionAxis> checkedAxis() const;
 };
 
 }  // namespace qor::fc::resource::geometricmodel

@@ -15,7 +15,7 @@ class QOR_API FcRightCircularCone : public FcRightCircularConeAttributes {
   std::optional<math::Extent> boundingBox(const FcParams& params) const override;
 
  private:
-  bool hasValidSizes(const char* function) const;
+  bool hasValidSizes() const;
 };
 
 }  // namespace qor::fc::resource::geometricmodel

@@ -2,10 +2,10 @@
 
 #include <utility>
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/FcParams.h"
-#include "Fc/Resource/GeometricModel/PositiveLength.h"
-#include "Fc/Resource/GeometricModel/PrimitiveFaceSets.h"
+#include "Fc/Model/Report.h"
+#include "Fc/Shapes/PrimitiveFaceSets.h"
 #include "Qor/Draw/PolygonOrientation.h"
 #include "Qor/Draw/TransformationInterface.h"
 
@@ -14,14 +14,14 @@ namespace qor::fc::resource::geometricmodel {
 using generate::draw::PolygonalFaceSetOpenGL;
 using math::Matrix;
 
-bool FcRightCircularCylinder::hasValidSizes(const char* function) const {
-  const PositiveLength check{function, math::Epsilon::current().length};
-  return check(m_Height,
-               "By definition of IfcPositiveLengthMeasure, the height must be strictly positive",
-               __LINE__) &&
-         check(m_Radius,
-               "By definition of IfcPositiveLengthMeasure, the radius must be strictly positive",
-               __LINE__);
+bool FcRightCircularCylinder::hasValidSizes() const {
+  const double tolerance = math::Epsilon::current().length;
+  return requireThat(
+             *this, m_Height > tolerance,
+             "By definition of IfcPositiveLengthMeasure, the height must be strictly positive") &&
+         requireThat(
+             *this, m_Radius > tolerance,
+             "By definition of IfcPositiveLengthMeasure, the radius must be strictly positive");
 }
 
 void FcRightCircularCylinder::draw(const FcDrawParams& params) const {
@@ -34,24 +34,20 @@ void FcRightCircularCylinder::draw(const FcDrawParams& params) const {
 
 std::optional<PolygonalFaceSetOpenGL> FcRightCircularCylinder::buildFaceSet(
     const FcParams& params) const {
-  constexpr const char* function =
-      "qor::fc::resource::geometricmodel::FcRightCircularCylinder::buildFaceSet";
-  if (!hasValidSizes(function)) return std::nullopt;
+  if (!hasValidSizes()) return std::nullopt;
   std::vector<math::Point2d> ring =
       params.curveDiscretization().discretizeCircle(math::Point2d(), m_Radius, 0);
   if (!generate::draw::isCounterClockwisePolygon(ring)) {
-    report(
-        "Assertion failed: Expect CurveDiscretization::discretizeCircle to return points in "
-        "counter-clockwise order",
-        function, __LINE__);
+    report(*this,
+           "Assertion failed: Expect CurveDiscretization::discretizeCircle to return points in "
+           "counter-clockwise order");
     return std::nullopt;
   }
   return cylinderFaceSet(std::move(ring), m_Height);
 }
 
 std::optional<math::Extent> FcRightCircularCylinder::boundingBox(const FcParams& /*params*/) const {
-  if (!hasValidSizes("qor::fc::resource::geometricmodel::FcRightCircularCylinder::boundingBox"))
-    return std::nullopt;
+  if (!hasValidSizes()) return std::nullopt;
   const double r = m_Radius;
   return placedBox({{-r, -r, 0}, {r, r, m_Height}});
 }

@@ -19,7 +19,7 @@ class QOR_API FcRightCircularCylinder : public FcRightCircularCylinderAttributes
   std::optional<generate::draw::PolygonalFaceSetOpenGL> buildFaceSet(const FcParams& params) const;
 
  private:
-  bool hasValidSizes(const char* function) const;
+  bool hasValidSizes() const;
 };
 
 }  // namespace qor::fc::resource::geometricmodel

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/Resource/BoxUnion.h"
 #include "Fc/Resource/Topology/FcConnectedFaceSet.h"
 #include "Fc/Resource/Topology/MovedPoints.h"

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "Fc/FcDrawParams.h"
-#include "Fc/Resource/GeometricModel/PrimitiveFaceSets.h"
-#include "Fc/Resource/Report.h"
+#include "Fc/Drawing/FcDrawParams.h"
+#include "Fc/Model/Report.h"
+#include "Fc/Shapes/PrimitiveFaceSets.h"
 #include "Qor/Draw/TransformationInterface.h"
 #include "Qor/Math/CurveDiscretization.h"
 
@@ -34,7 +34,7 @@ void FcSphere::transform(const Matrix& matrix) {
   const Matrix product = placement() * matrix;
   const double x = product.x().length(), y = product.y().length(), z = product.z().length();
   if (std::max({x, y, z}) - std::min({x, y, z}) > math::Epsilon::current().general) {
-    report("Non uniform scale", "qor::fc::resource::geometricmodel::FcSphere::transform", __LINE__);
+    report(*this, "Non uniform scale");
     return;
   }
   if (!product.isIdentity()) m_Radius = m_Radius * x;

@@ -1,6 +1,6 @@
 #include "Fc/Resource/GeometricModel/FcSweptAreaSolid.h"
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
 #include "Fc/Resource/Profile/FcProfileDef.h"
 

@@ -4,11 +4,11 @@
 #include <cmath>
 #include <utility>
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/FcParams.h"
-#include "Fc/Resource/Expect.h"
-#include "Fc/Resource/GeometricModel/DirectrixSweep.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcCurve.h"
+#include "Fc/Shapes/DirectrixSweep.h"
 #include "Qor/Math/Epsilon.h"
 
 namespace qor::fc::resource::geometricmodel {
@@ -35,20 +35,18 @@ Profile2D section(double radius, std::optional<double> innerRadius,
 
 }  // namespace
 
-bool FcSweptDiskSolid::isReadyToDraw(const char* operation) const {
-  return expectThat(Directrix() != nullptr, "FcSweptDiskSolid need Directrix", operation,
-                    __LINE__) &&
-         expectThat(isPositive(Radius()), "FcSweptDiskSolid should have positive Radius", operation,
-                    __LINE__) &&
-         expectThat(!InnerRadius() || isPositive(*InnerRadius()),
-                    "FcSweptDiskSolid should have positive InnerRadius or no inner radius at all",
-                    operation, __LINE__) &&
-         expectThat(!InnerRadius() || isPositive(Radius() - *InnerRadius()),
-                    "FcSweptDiskSolid InnerRadius should be less than Radius", operation, __LINE__);
+bool FcSweptDiskSolid::isReadyToDraw() const {
+  return requireThat(*this, Directrix() != nullptr, "FcSweptDiskSolid need Directrix") &&
+         requireThat(*this, isPositive(Radius()), "FcSweptDiskSolid should have positive Radius") &&
+         requireThat(
+             *this, !InnerRadius() || isPositive(*InnerRadius()),
+             "FcSweptDiskSolid should have positive InnerRadius or no inner radius at all") &&
+         requireThat(*this, !InnerRadius() || isPositive(Radius() - *InnerRadius()),
+                     "FcSweptDiskSolid InnerRadius should be less than Radius");
 }
 
 void FcSweptDiskSolid::draw(const FcDrawParams& params) const {
-  if (!isReadyToDraw("qor::fc::resource::geometricmodel::FcSweptDiskSolid::draw")) return;
+  if (!isReadyToDraw()) return;
   const FcParams evaluation(params);
   const Profile2D disk =
       section(Radius(), InnerRadius() ? std::optional<double>(*InnerRadius()) : std::nullopt,
@@ -63,8 +61,7 @@ void FcSweptDiskSolid::transform(const math::Matrix& matrix) {
 }
 
 std::optional<math::Extent> FcSweptDiskSolid::boundingBox(const FcParams& params) const {
-  if (!isReadyToDraw("qor::fc::resource::geometricmodel::FcSweptDiskSolid::boundingBox"))
-    return std::nullopt;
+  if (!isReadyToDraw()) return std::nullopt;
   const auto box = math::Extent::ofPoints(Directrix()->curveGet(params, {}, {}, false));
   if (!box.isValid()) return std::nullopt;
   const Vector3d reach{Radius(), Radius(), Radius()};

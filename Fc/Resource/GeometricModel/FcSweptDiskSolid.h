@@ -21,7 +21,7 @@ class QOR_API FcSweptDiskSolid : public FcSweptDiskSolidAttributes {
   virtual std::vector<math::Point3d> getSweptDiskCurve(const FcParams& params) const;
 
  private:
-  bool isReadyToDraw(const char* operation) const;
+  bool isReadyToDraw() const;
 };
 
 }  // namespace qor::fc::resource::geometricmodel

@@ -6,8 +6,8 @@
 #include "Fc/FcParams.h"
 #include "Fc/Reflection/MakeEntity.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList3D.h"
-#include "Fc/Resource/GeometricModel/FilletedPath.h"
 #include "Fc/Resource/Geometry/FcIndexedPolyCurve.h"
+#include "Fc/Shapes/FilletedPath.h"
 #include "Qor/Math/Epsilon.h"
 
 namespace qor::fc::resource::geometricmodel {

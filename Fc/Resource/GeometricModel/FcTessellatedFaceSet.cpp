@@ -1,10 +1,10 @@
 #include "Fc/Resource/GeometricModel/FcTessellatedFaceSet.h"
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList3D.h"
 #include "Fc/Resource/PresentationAppearance/FcColourRgbList.h"
 #include "Fc/Resource/PresentationAppearance/FcIndexedColourMap.h"
-#include "Fc/Resource/Report.h"
 #include "Qor/Draw/DrawInterface.h"
 
 namespace qor::fc::resource::geometricmodel {
@@ -14,19 +14,17 @@ using generate::draw::Material;
 using presentationappearance::FcIndexedColourMap;
 
 std::optional<math::Extent> FcTessellatedFaceSet::boundingBox(const FcParams& /*params*/) const {
-  constexpr const char* function =
-      "qor::fc::resource::geometricmodel::FcTessellatedFaceSet::boundingBox";
   if (!m_Coordinates) {
-    report("Assertion failed in FcTessellatedFaceSet::boundingBox: expect to have Coordinates()",
-           function, __LINE__);
+    report(*this,
+           "Assertion failed in FcTessellatedFaceSet::boundingBox: expect to have Coordinates()");
     return std::nullopt;
   }
   math::Extent box;
   for (const auto& coordinate : m_Coordinates->CoordList())
     box.include({coordinate[0], coordinate[1], coordinate[2]});
   if (box.isValid()) return box;
-  report("in FcTessellatedFaceSet::boundingBox: could not create valid extent from *Coordinates()",
-         function, __LINE__);
+  report(*this,
+         "in FcTessellatedFaceSet::boundingBox: could not create valid extent from *Coordinates()");
   return std::nullopt;
 }
 

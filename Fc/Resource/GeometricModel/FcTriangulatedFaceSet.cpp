@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Reflection/MakeEntity.h"
-#include "Fc/Resource/GeometricModel/ColourSplit.h"
 #include "Fc/Resource/GeometricModel/CoordinatePositions.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList3D.h"
 #include "Fc/Resource/GeometricModel/TextureCoordinates.h"
@@ -12,7 +12,7 @@
 #include "Fc/Resource/PresentationAppearance/FcIndexedColourMap.h"
 #include "Fc/Resource/PresentationAppearance/FcIndexedTriangleTextureMap.h"
 #include "Fc/Resource/PresentationAppearance/FcTextureVertexList.h"
-#include "Fc/Resource/Report.h"
+#include "Fc/Shapes/ColourSplit.h"
 #include "Qor/Draw/DrawInterface.h"
 
 namespace qor::fc::resource::geometricmodel {
@@ -31,21 +31,13 @@ using ModelTriangle = std::array<FcPositiveInteger, 3>;
 
 namespace {
 
-constexpr const char* kCreateTriangles =
-    "qor::fc::resource::geometricmodel::FcTriangulatedFaceSet::createQorTriangulatedFaceSet";
-constexpr const char* kSplitTriangles =
-    "qor::fc::resource::geometricmodel::FcTriangulatedFaceSet::createFaceSetsWithMaterials";
-constexpr const char* fromFunction =
-    "qor::fc::resource::geometricmodel::FcTriangulatedFaceSet::fromQorPolygonalFaceSet";
-
 /// False, with an assert, when a corner can't be found.
 bool mapTriangle(const ModelTriangle& triangle, const CoordinatePositions& positions,
-                 const char* illegalIndex, const char* function, Triangle& out) {
+                 const char* illegalIndex, Triangle& out) {
   out = {positions(triangle[0]), positions(triangle[1]), positions(triangle[2])};
   const std::uint32_t highest = std::max({out[0], out[1], out[2]});
   if (highest < CoordinatePositions::outsideCoordinates) return true;
-  report(highest == CoordinatePositions::outsidePnIndex ? "Index pn index mismatch" : illegalIndex,
-         function, __LINE__);
+  report(highest == CoordinatePositions::outsidePnIndex ? "Index pn index mismatch" : illegalIndex);
   return false;
 }
 
@@ -99,7 +91,7 @@ void FcTriangulatedFaceSet::draw(const FcDrawParams& params) const {
 std::optional<TriangulatedFaceSetOpenGL> FcTriangulatedFaceSet::createQorTriangulatedFaceSet()
     const {
   if (!hasCoordinates()) {
-    report("Expect Coordinates() to be set.", kCreateTriangles, __LINE__);
+    report(*this, "Expect Coordinates() to be set.");
     return std::nullopt;
   }
   TriangulatedFaceSetOpenGL result;
@@ -108,7 +100,7 @@ std::optional<TriangulatedFaceSetOpenGL> FcTriangulatedFaceSet::createQorTriangu
   const CoordinatePositions positions(m_PnIndex, result.coordinates().size());
   Triangle mapped;
   for (const ModelTriangle& triangle : m_CoordIndex)
-    if (mapTriangle(triangle, positions, "Illegal index in face", kCreateTriangles, mapped))
+    if (mapTriangle(triangle, positions, "Illegal index in face", mapped))
       result.triangles.push_back(mapped);
   return result;
 }
@@ -126,8 +118,8 @@ std::vector<TriangulatedFaceSetWithMaterial> FcTriangulatedFaceSet::createFaceSe
 std::optional<std::vector<TriangulatedFaceSetWithMaterial>> FcTriangulatedFaceSet::splitByColour(
     const FcIndexedColourMap& map) const {
   if (map.ColourIndex().size() != m_CoordIndex.size()) {
-    report("Mismatch between number of faces in TriangulatedFaceSetOpenGL and IndexedColourMap",
-           kSplitTriangles, __LINE__);
+    report(*this,
+           "Mismatch between number of faces in TriangulatedFaceSetOpenGL and IndexedColourMap");
     return std::nullopt;
   }
   // As one set first: it checks that there is a normal for each point.
@@ -140,11 +132,11 @@ std::optional<std::vector<TriangulatedFaceSetWithMaterial>> FcTriangulatedFaceSe
   for (std::size_t k = 0; k < m_CoordIndex.size(); ++k) {
     const std::uint64_t colour = static_cast<std::uint64_t>(map.ColourIndex()[k].value()) - 1;
     if (colour >= colourCount) {
-      report("Invalid colour index in FcIndexedColourMap.", kSplitTriangles, __LINE__);
+      report(*this, "Invalid colour index in FcIndexedColourMap.");
       return std::nullopt;
     }
     if (mapTriangle(m_CoordIndex[k], positions, "Invalid index in FcTriangulatedFaceSet",
-                    kSplitTriangles, triangles[k]))
+                    triangles[k]))
       colours[k] = static_cast<std::uint32_t>(colour);
   }
 
@@ -209,7 +201,7 @@ FcTriangulatedFaceSet::WithTextureMap FcTriangulatedFaceSet::fromQorPolygonalFac
     if (isTriangle(face))
       triangles.push_back(modelTriangle(face.outer[0], face.outer[1], face.outer[2]));
     else
-      report("There is a face which is no triangle", fromFunction, __LINE__);
+      report("There is a face which is no triangle");
   }
   return modelSet(faceSet.coordinates, std::move(triangles), faceSet.textureCoordinates);
 }
@@ -220,8 +212,7 @@ bool FcTriangulatedFaceSet::containsTriangularFace(const PolygonalFaceSetOpenGL&
 
 void FcTriangulatedFaceSet::transform(const math::Matrix& matrix) {
   if (!m_Coordinates) {
-    report("Expect Coordinates() to be set.",
-           "qor::fc::resource::geometricmodel::FcTriangulatedFaceSet::transform", __LINE__);
+    report(*this, "Expect Coordinates() to be set.");
     return;
   }
   m_Coordinates->transform(matrix);

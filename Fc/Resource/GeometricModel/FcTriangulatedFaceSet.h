@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "Fc/Resource/GeometricModel/FaceSetWithMaterial.h"
 #include "Fc/Resource/GeometricModel/FcTriangulatedFaceSetAttributes.h"
+#include "Fc/Shapes/FaceSetWithMaterial.h"
 
 namespace qor::fc::resource::presentationappearance {
 class FcIndexedTriangleTextureMap;

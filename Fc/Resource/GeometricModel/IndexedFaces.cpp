@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
+#include "Fc/Model/Report.h"
 #include "Fc/Reflection/MakeEntity.h"
 #include "Fc/Resource/GeometricModel/FcIndexedPolygonalFaceWithVoids.h"
 #include "Fc/Resource/PresentationAppearance/FcTextureCoordinateIndicesWithVoids.h"
-#include "Fc/Resource/Report.h"
 
 namespace qor::fc::resource::geometricmodel {
 
@@ -17,11 +17,6 @@ using Indices = std::vector<std::uint32_t>;
 
 namespace {
 
-constexpr const char* kCreateFaces =
-    "qor::fc::resource::geometricmodel::FcPolygonalFaceSet::createQorPolygonalFaceSet";
-constexpr const char* kSplitFaces =
-    "qor::fc::resource::geometricmodel::FcPolygonalFaceSet::createFaceSetsWithMaterials";
-
 /// False when a corner lies beyond the coordinates.
 bool mapRing(const Positions& ring, const CoordinatePositions& positions, Indices& out) {
   bool allThere = true;
@@ -29,7 +24,7 @@ bool mapRing(const Positions& ring, const CoordinatePositions& positions, Indice
   for (const FcPositiveInteger& position : ring) {
     const std::uint32_t index = positions(position);
     if (index == CoordinatePositions::outsidePnIndex) {
-      report("Index pn index mismatch", kCreateFaces, __LINE__);
+      report("Index pn index mismatch");
       continue;
     }
     allThere = allThere && index != CoordinatePositions::outsideCoordinates;
@@ -45,8 +40,7 @@ bool mapRingOfColour(const Positions& ring, const CoordinatePositions& positions
     const std::uint32_t index = positions(position);
     if (index >= CoordinatePositions::outsideCoordinates) {
       report(index == CoordinatePositions::outsidePnIndex ? "Index PnIndex mismatch"
-                                                          : "Invalid coordinate index",
-             kSplitFaces, __LINE__);
+                                                          : "Invalid coordinate index");
       return false;
     }
     out.push_back(index);
@@ -74,8 +68,7 @@ std::optional<Face> indexedFace(const FcIndexedPolygonalFace* face,
                                 const CoordinatePositions& positions) {
   if (!face || face->CoordIndex().empty()) {
     report(!face ? "There is a Face which is not set."
-                 : "There is a Face which is set but contains no points.",
-           kCreateFaces, __LINE__);
+                 : "There is a Face which is set but contains no points.");
     return std::nullopt;
   }
   Face result;
@@ -86,13 +79,13 @@ std::optional<Face> indexedFace(const FcIndexedPolygonalFace* face,
       allThere = mapRing(hole, positions, result.holes.emplace_back()) && allThere;
   }
   if (allThere) return result;
-  report("Illegal index in face", kCreateFaces, __LINE__);
+  report("Illegal index in face");
   return std::nullopt;
 }
 
 bool isPolygon(const FcIndexedPolygonalFace* face) {
   if (face && face->CoordIndex().size() >= 3) return true;
-  report(face ? "Face with less than three points" : "Face was nullptr", kSplitFaces, __LINE__);
+  report(face ? "Face with less than three points" : "Face was nullptr");
   return false;
 }
 
@@ -105,8 +98,7 @@ std::optional<Face> indexedFaceOfColour(const FcIndexedPolygonalFace& face,
   for (const Positions& hole : withVoids->InnerCoordIndices()) {
     Indices indices;
     if (hole.size() < 3)
-      report("There is an Void in a FaceWithVoids which contains less than three points.",
-             kSplitFaces, __LINE__);
+      report("There is an Void in a FaceWithVoids which contains less than three points.");
     else if (mapRingOfColour(hole, positions, indices))
       result.holes.push_back(std::move(indices));
   }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "Fc/Model/Report.h"
 #include "Fc/Reflection/MakeEntity.h"
 #include "Fc/Resource/GeometricModel/FcIndexedPolygonalFaceWithVoids.h"
 #include "Fc/Resource/GeometricModel/FcPolygonalFaceSet.h"
@@ -10,7 +11,6 @@
 #include "Fc/Resource/PresentationAppearance/FcIndexedTriangleTextureMap.h"
 #include "Fc/Resource/PresentationAppearance/FcTextureCoordinateIndicesWithVoids.h"
 #include "Fc/Resource/PresentationAppearance/FcTextureVertexList.h"
-#include "Fc/Resource/Report.h"
 
 namespace qor::fc::resource::geometricmodel {
 
@@ -46,9 +46,7 @@ class CornersOverPoints {
 
   std::vector<TextureCoordinate> take() {
     if (!m_allFound)
-      report("A corner of a texture map has no place in its list or no point in its face set",
-             "qor::fc::resource::geometricmodel::FcTessellatedFaceSet::getTextureCoordinates",
-             __LINE__);
+      report("A corner of a texture map has no place in its list or no point in its face set");
     return std::move(m_result);
   }
 

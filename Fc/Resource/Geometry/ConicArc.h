@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "Fc/Resource/Expect.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
 #include "Fc/Resource/Geometry/FcCurve.h"
 #include "Qor/Math/Angle.h"
@@ -31,9 +31,7 @@ std::optional<double> trimAngle(const FcCurve::Trim& trim, AngleOfPoint&& angleO
   if (trim->type() == FcTrimmingSelect::Types::ParameterValue)
     return math::Angle(trim->ParameterValue()).calculateModulusTwoTimesPI();
   const auto& point = trim->CartesianPoint();
-  if (!expectThat(point != nullptr, "FcTrimmingSelect::CartesianPoint is required",
-                  "qor::fc::resource::geometry::FcConic::curveGet", __LINE__))
-    return {};
+  if (!requireThat(point != nullptr, "FcTrimmingSelect::CartesianPoint is required")) return {};
   return math::Angle(angleOfPoint(point->point())).calculateModulusTwoTimesPI();
 }
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <vector>
 
-#include "Fc/NotImplemented.h"
+#include "Fc/Model/NotImplemented.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcCurve.h"
-#include "Fc/Resource/Report.h"
 
 namespace qor::fc::resource::geometry {
 
@@ -28,8 +28,7 @@ CurveNesting::CurveNesting(const FcCurve& curve) {
     curves.push_back(&curve);
   else
     report((again ? "Circular dependency in " : "Too many curves within each other, at ") +
-               runTimeTypeName(curve),
-           "CurveNesting::CurveNesting", __LINE__);
+           runTimeTypeName(curve));
 }
 
 CurveNesting::~CurveNesting() {

@@ -2,8 +2,8 @@
 
 #include <string>
 
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcCurve.h"
-#include "Fc/Resource/Report.h"
 
 namespace qor::fc::resource::geometry {
 
@@ -13,8 +13,7 @@ namespace qor::fc::resource::geometry {
 inline bool expectWhole(const FcCurve::Trim& trim1, const FcCurve::Trim& trim2, bool reverse,
                         const char* operation) {
   const auto refuse = [&](const char* what) {
-    const std::string function = std::string("qor::fc::resource::geometry::") + operation;
-    report(std::string(operation) + " not implemented for " + what, function.c_str(), __LINE__);
+    report(std::string(operation) + " not implemented for " + what);
   };
   if (trim1 || trim2) refuse("trimming");
   if (reverse) refuse("reverse");

@@ -1,7 +1,7 @@
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
 
+#include "Fc/Model/Report.h"
 #include "Fc/Reflection/MakeEntity.h"
-#include "Fc/Resource/Expect.h"
 #include "Fc/Resource/Geometry/FcDirection.h"
 
 namespace qor::fc::resource::geometry {
@@ -12,28 +12,25 @@ using math::Vector3d;
 namespace {
 
 /// Both directions lie in space, or are left out.
-bool expectThreeDimensional(const FcDirection* direction, int line) {
-  return expectThat(!direction || direction->dimension() == 3,
-                    "Assertion failed: by formal propositions Axis must reference a "
-                    "three-dimensional direction",
-                    "qor::fc::resource::geometry::FcAxis2Placement3D::placementGet", line);
+void expectThreeDimensional(const FcAxis2Placement3D& placement, const FcDirection* direction,
+                            const std::source_location& where = std::source_location::current()) {
+  expectThat(placement, !direction || direction->dimension() == 3,
+             "Assertion failed: by formal propositions Axis must reference a three-dimensional "
+             "direction",
+             where);
 }
 
 /// The part of the reference direction at right angles to the Z axis, of length 1.
 Vector3d refDirectionAdjustedToBeOrthonormalTo(const Vector3d& z, const FcDirection& reference) {
-  static constexpr char operation[] =
-      "qor::fc::resource::geometry::FcAxis2Placement3D::refDirectionAdjustedToBeOrthonormalTo";
   const Vector3d r = reference.vector().normalized();
-  expectThat(!z.isNear({}), "Expect zAxis not to be Null Vector.", operation, __LINE__);
-  expectThat(!r.isNear({}), "Expect RefDirection() not to be Null Vector.", operation, __LINE__);
-  expectThat(!z.isParallel(r), "RefDirection() must not to be parallel to Axis()", operation,
-             __LINE__);
+  expectThat(!z.isNear({}), "Expect zAxis not to be Null Vector.");
+  expectThat(!r.isNear({}), "Expect RefDirection() not to be Null Vector.");
+  expectThat(!z.isParallel(r), "RefDirection() must not to be parallel to Axis()");
   const Vector3d x = z.cross(r).cross(z).normalized();
   expectThat(!x.isNear({}),
              "Direction orthogonal to RefDirection() and zAxis is Null vector: this contradicts "
              "formal propositions (cross product of Axis() and RefDirection() must not be Null "
-             "vector)",
-             operation, __LINE__);
+             "vector)");
   return x;
 }
 
@@ -56,45 +53,37 @@ void overwrite(std::shared_ptr<FcDirection>& direction, const Vector3d& value) {
 FcAxis2Placement3D::FcAxis2Placement3D(const Matrix& matrix) {
   expectThat(!matrix.isMirror(),
              "Assertion failed in Constructor FcAxis2Placement3D: by formal propositions, "
-             "placements must not allow mirroring",
-             "qor::fc::resource::geometry::FcAxis2Placement3D::FcAxis2Placement3D", __LINE__);
+             "placements must not allow mirroring");
   setPlacement(matrix);
 }
 
 Matrix FcAxis2Placement3D::placementGet() const {
-  static constexpr char operation[] =
-      "qor::fc::resource::geometry::FcAxis2Placement3D::placementGet";
-  expectThat(!Axis() == !RefDirection(),
+  expectThat(*this, !Axis() == !RefDirection(),
              "Assertion failed: by formal propositions either both, Axis and RefDirection must be "
-             "given, or neither of them.",
-             operation, __LINE__);
+             "given, or neither of them.");
   if (!Axis() && !RefDirection()) return Matrix::createTranslation(location() - math::Point3d());
-  expectThreeDimensional(Axis().get(), __LINE__);
+  expectThreeDimensional(*this, Axis().get());
   const Vector3d z = Axis() ? Axis()->vector().normalized() : Vector3d(0, 0, 1);
   if (z.isNear({})) return {};
-  expectThreeDimensional(RefDirection().get(), __LINE__);
+  expectThreeDimensional(*this, RefDirection().get());
   const Vector3d x =
       RefDirection() ? refDirectionAdjustedToBeOrthonormalTo(z, *RefDirection()) : defaultXAxis(z);
-  if (!expectThat(x.isPerpendicular(z), "xAxis and zAxis should be perpendicular", operation,
-                  __LINE__))
+  if (!requireThat(*this, x.isPerpendicular(z), "xAxis and zAxis should be perpendicular"))
     return Matrix::createTranslation(location() - math::Point3d());
   const Matrix frame(location(), x, z);
-  expectThat(!frame.isMirror(),
+  expectThat(*this, !frame.isMirror(),
              "Assertion failed in placementGet: by formal propositions, placements must define "
-             "right-handed systems and must not allow mirroring",
-             operation, __LINE__);
+             "right-handed systems and must not allow mirroring");
   return frame;
 }
 
 void FcAxis2Placement3D::setPlacement(const Matrix& matrix) {
-  expectThat(!matrix.isMirror(),
+  expectThat(*this, !matrix.isMirror(),
              "Assertion failed in vPlacementSet: by formal propositions, placements must not allow "
-             "mirroring",
-             "qor::fc::resource::geometry::FcAxis2Placement3D::setPlacement", __LINE__);
-  expectThat(!matrix.z().normalized().cross(matrix.x().normalized()).isNear({}),
+             "mirroring");
+  expectThat(*this, !matrix.z().normalized().cross(matrix.x().normalized()).isNear({}),
              "Assertion failed in vPlacementSet: by formal propositions, cross product of Axis() "
-             "and RefDirection() must not be Null vector",
-             "qor::fc::resource::geometry::FcAxis2Placement3D::setPlacement", __LINE__);
+             "and RefDirection() must not be Null vector");
   writeLocation(matrix.origin());
   if (matrix.x().isNear({1, 0, 0}) && matrix.z().isNear({0, 0, 1})) {
     clearAxis();
@@ -106,10 +95,9 @@ void FcAxis2Placement3D::setPlacement(const Matrix& matrix) {
 }
 
 void FcAxis2Placement3D::transform(const Matrix& matrix) {
-  expectThat(!matrix.isMirror(),
+  expectThat(*this, !matrix.isMirror(),
              "Assertion failed in transform: by formal propositions, placements must not allow "
-             "mirroring",
-             "qor::fc::resource::geometry::FcAxis2Placement3D::transform", __LINE__);
+             "mirroring");
   if (!matrix.isIdentity()) setPlacement(placementGet() * matrix);
 }
 

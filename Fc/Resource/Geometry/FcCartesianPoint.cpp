@@ -1,6 +1,6 @@
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/Reflection/MakeEntity.h"
 
 namespace qor::fc::resource::geometry {

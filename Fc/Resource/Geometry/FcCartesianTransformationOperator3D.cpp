@@ -1,6 +1,6 @@
 #include "Fc/Resource/Geometry/FcCartesianTransformationOperator3D.h"
 
-#include "Fc/Resource/Expect.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
 #include "Fc/Resource/Geometry/FcDirection.h"
 
@@ -40,10 +40,10 @@ void FcCartesianTransformationOperator3D::transform(const Matrix& matrix) {
   const double tolerance = math::Epsilon::current().general;
   const auto differ = [&](double a, double b) { return std::abs(a - b) > tolerance; };
   expectThat(
+      *this,
       !differ(scales.x, scales.y) && !differ(scales.x, scales.z) && !differ(scales.y, scales.z),
       "FcCartesianTransformationOperator3D can only be uniform. You can use "
-      "FcCartesianTransformationOperator3DNonUniform",
-      "qor::fc::resource::geometry::FcCartesianTransformationOperator3D::transform", __LINE__);
+      "FcCartesianTransformationOperator3DNonUniform");
 }
 
 }  // namespace qor::fc::resource::geometry

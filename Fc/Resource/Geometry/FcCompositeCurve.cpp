@@ -1,6 +1,6 @@
 #include "Fc/Resource/Geometry/FcCompositeCurve.h"
 
-#include "Fc/Resource/Expect.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/CurveNesting.h"
 #include "Fc/Resource/Geometry/CurveTrimming.h"
 #include "Fc/Resource/Geometry/FcSegment.h"
@@ -27,11 +27,9 @@ template <typename Point>
 void join(std::vector<Point>& points, const std::vector<Point>& segment) {
   auto first = segment.begin();
   if (!points.empty() && !segment.empty()) {
-    const bool joins =
-        expectThat(points.back().isNear(*first),
-                   "By informal proposition: when traversed in the direction "
-                   "indicated by SameSense, the segments shall join end-to-end",
-                   "qor::fc::resource::geometry::FcCompositeCurve::curvePrivate", __LINE__);
+    const bool joins = requireThat(points.back().isNear(*first),
+                                   "By informal proposition: when traversed in the direction "
+                                   "indicated by SameSense, the segments shall join end-to-end");
     if (joins) ++first;
   }
   points.insert(points.end(), first, segment.end());
@@ -40,19 +38,17 @@ void join(std::vector<Point>& points, const std::vector<Point>& segment) {
 template <typename Point>
 std::vector<Point> curvePrivate(const FcCompositeCurve& curve, const FcParams& params,
                                 bool omitLastPoint) {
-  static constexpr char operation[] = "qor::fc::resource::geometry::FcCompositeCurve::curvePrivate";
   std::vector<Point> points;
   const CurveNesting nesting(curve);
   if (!nesting) return points;
   for (const auto& segment : curve.Segments())
-    if (expectThat(segment != nullptr, missingSegment, operation, __LINE__))
+    if (requireThat(segment != nullptr, missingSegment))
       join(points, pointsOf<Point>(*segment, params));
   if (omitLastPoint && !points.empty()) {
     const Point last = points.back();
     points.pop_back();
     expectThat(!points.empty() && last.isNear(points.front()),
-               "end of last segment does not join with very first point in over-all curve",
-               operation, __LINE__);
+               "end of last segment does not join with very first point in over-all curve");
   }
   return points;
 }
@@ -60,18 +56,15 @@ std::vector<Point> curvePrivate(const FcCompositeCurve& curve, const FcParams& p
 }  // namespace
 
 bool FcCompositeCurve::isClosed(const FcParams& params) const {
-  static constexpr char operation[] = "qor::fc::resource::geometry::FcCompositeCurve::isClosed";
   if (Segments().empty()) return false;
   for (std::size_t i = 0; i + 1 < Segments().size(); ++i) {
     const auto& segment = Segments()[i];
-    if (!expectThat(segment != nullptr, missingSegment, operation, __LINE__)) continue;
-    expectThat(segment->Transition() != FcTransitionCode::DISCONTINUOUS,
+    if (!requireThat(*this, segment != nullptr, missingSegment)) continue;
+    expectThat(*this, segment->Transition() != FcTransitionCode::DISCONTINUOUS,
                "By formal proposition, no transition code of a Segment should be DISCONTINUOUS "
-               "(except for the last segment of an open curve)",
-               operation, __LINE__);
+               "(except for the last segment of an open curve)");
   }
-  if (!expectThat(Segments().back() != nullptr, "The last Segment is not set.", operation,
-                  __LINE__) ||
+  if (!requireThat(*this, Segments().back() != nullptr, "The last Segment is not set.") ||
       !Segments().front())
     return false;
   const CurveNesting nesting(*this);
@@ -85,11 +78,9 @@ bool FcCompositeCurve::is2d() const {
   const CurveNesting nesting(*this);
   if (!nesting) return false;
   for (const auto& segment : Segments()) {
-    if (!expectThat(segment != nullptr, missingSegment,
-                    "qor::fc::resource::geometry::FcCompositeCurve::is2d", __LINE__) ||
-        !expectThat(segment->parentCurve() != nullptr,
-                    "There is a Segment for which its ParentCurve is not set.",
-                    "qor::fc::resource::geometry::FcCompositeCurve::is2d", __LINE__) ||
+    if (!requireThat(*this, segment != nullptr, missingSegment) ||
+        !requireThat(*this, segment->parentCurve() != nullptr,
+                     "There is a Segment for which its ParentCurve is not set.") ||
         !segment->is2d())
       return false;
   }

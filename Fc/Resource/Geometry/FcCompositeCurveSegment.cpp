@@ -2,14 +2,13 @@
 
 #include <algorithm>
 
-#include "Fc/Resource/Expect.h"
+#include "Fc/Model/Report.h"
 
 namespace qor::fc::resource::geometry {
 
 std::vector<math::Point3d> FcCompositeCurveSegment::curve(const FcParams& params) const {
-  if (!expectThat(ParentCurve() != nullptr,
-                  "Assertion failed: Expect to have ParentCurve set when requesting curve()",
-                  "qor::fc::resource::geometry::FcCompositeCurveSegment::curve", __LINE__))
+  if (!requireThat(*this, ParentCurve() != nullptr,
+                   "Assertion failed: Expect to have ParentCurve set when requesting curve()"))
     return {};
   auto points = ParentCurve()->curveGet(params, {}, {}, false);
   if (!SameSense()) std::reverse(points.begin(), points.end());
@@ -18,9 +17,8 @@ std::vector<math::Point3d> FcCompositeCurveSegment::curve(const FcParams& params
 
 std::optional<std::vector<math::Point2d>> FcCompositeCurveSegment::curve2d(
     const FcParams& params) const {
-  if (!expectThat(ParentCurve() != nullptr,
-                  "Assertion failed: Expect to have ParentCurve set when requesting curve2d()",
-                  "qor::fc::resource::geometry::FcCompositeCurveSegment::curve2d", __LINE__))
+  if (!requireThat(*this, ParentCurve() != nullptr,
+                   "Assertion failed: Expect to have ParentCurve set when requesting curve2d()"))
     return {};
   auto points = ParentCurve()->curve2d(params, {}, {}, false);
   if (points && !SameSense()) std::reverse(points->begin(), points->end());

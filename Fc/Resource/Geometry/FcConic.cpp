@@ -2,7 +2,7 @@
 
 #include <numbers>
 
-#include "Fc/Resource/Expect.h"
+#include "Fc/Model/Report.h"
 
 namespace qor::fc::resource::geometry {
 
@@ -16,8 +16,7 @@ void FcConic::transform(const math::Matrix& matrix) {
     return std::abs(row.length() - 1) <= tolerance;
   };
   const bool rigid = keepsLength(matrix.x()) && keepsLength(matrix.y()) && keepsLength(matrix.z());
-  if (expectThat(rigid, "Can't use scale or mirroring",
-                 "qor::fc::resource::geometry::FcConic::transform", __LINE__))
+  if (requireThat(*this, rigid, "Can't use scale or mirroring"))
     m_Position.setTransformation(m_Position.transformationGet() * matrix);
 }
 

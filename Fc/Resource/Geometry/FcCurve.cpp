@@ -1,8 +1,8 @@
 #include "Fc/Resource/Geometry/FcCurve.h"
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/FcParams.h"
-#include "Fc/NotImplemented.h"
+#include "Fc/Model/NotImplemented.h"
 #include "Fc/Resource/Geometry/FcIndexedPolyCurve.h"
 
 namespace qor::fc::resource::geometry {
@@ -53,38 +53,37 @@ double stored(const std::pair<double, FcCurve::ParameterType>& segment, double f
 }  // namespace
 
 bool FcCurve::isClosed(const FcParams& /*params*/) const {
-  assertNotImplemented("isClosed() not implemented for class: ", *this, "FcCurve::isClosed");
+  assertNotImplemented("isClosed() not implemented for class: ", *this);
   return false;
 }
 
 bool FcCurve::is2d() const {
-  assertNotImplemented("is2d() not implemented for class: ", *this, "FcCurve::is2d");
+  assertNotImplemented("is2d() not implemented for class: ", *this);
   return false;
 }
 
 std::shared_ptr<FcIndexedPolyCurve> FcCurve::getAsIndexedPolyCurve(
     const FcParams& /*params*/) const {
-  assertNotImplemented("asIndexedPolyCurve() not implemented for class: ", *this,
-                       "FcCurve::getAsIndexedPolyCurve");
+  assertNotImplemented("asIndexedPolyCurve() not implemented for class: ", *this);
   return nullptr;
 }
 
 std::optional<std::vector<Point2d>> FcCurve::closedCurve2dGet(const FcParams& /*params*/) const {
   assertNotImplemented("closedCurve2dGet(const qor::fc::FcParams&) not implemented for class: ",
-                       *this, "FcCurve::closedCurve2dGet");
+                       *this);
   return {};
 }
 
 std::optional<std::vector<Point2d>> FcCurve::curve2d(const FcParams& /*params*/,
                                                      const Trim& /*trim1*/, const Trim& /*trim2*/,
                                                      bool /*reverse*/) const {
-  assertNotImplemented("curve2d not implemented for class: ", *this, "FcCurve::curve2d");
+  assertNotImplemented("curve2d not implemented for class: ", *this);
   return {};
 }
 
 std::vector<Point3d> FcCurve::curveGet(const FcParams& /*params*/, const Trim& /*trim1*/,
                                        const Trim& /*trim2*/, bool /*reverse*/) const {
-  assertNotImplemented("curveGet not implemented for class: ", *this, "FcCurve::curveGet");
+  assertNotImplemented("curveGet not implemented for class: ", *this);
   return {};
 }
 

@@ -1,11 +1,11 @@
 #include "Fc/Resource/Geometry/FcCurveBoundedPlane.h"
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/FcParams.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
 #include "Fc/Resource/Geometry/FcCurve.h"
 #include "Fc/Resource/Geometry/FcPlane.h"
-#include "Fc/Resource/Report.h"
 
 namespace qor::fc::resource::geometry {
 
@@ -28,7 +28,7 @@ std::vector<std::vector<math::Point3d>> FcCurveBoundedPlane::rings(const FcParam
                             ? "Invalid FcCurveBoundedPlane. Missing surface position."
                             : nullptr;
   if (missing) {
-    report(missing, "qor::fc::resource::geometry::FcCurveBoundedPlane::draw", __LINE__);
+    report(*this, missing);
     return {};
   }
   const math::Matrix frame = m_BasisSurface->Position()->placementGet();

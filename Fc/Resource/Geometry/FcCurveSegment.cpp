@@ -8,7 +8,7 @@
 #include "Fc/Resource/Geometry/FcLine.h"
 #include "Fc/Resource/Geometry/FcPlacement.h"
 #include "Fc/Resource/Geometry/FcVector.h"
-#include "Fc/Resource/Geometry/TurningPath.h"
+#include "Fc/Shapes/TurningPath.h"
 
 namespace qor::fc::resource::geometry {
 

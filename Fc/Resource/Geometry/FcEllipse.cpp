@@ -1,7 +1,7 @@
 #include "Fc/Resource/Geometry/FcEllipse.h"
 
 #include "Fc/FcParams.h"
-#include "Fc/Resource/Expect.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/ConicArc.h"
 #include "Qor/Math/Ellipse.h"
 
@@ -18,12 +18,9 @@ bool FcEllipse::is2d() const { return Position().transformationGet().isOnly2dTra
 /// The points in the frame of `Position`.
 std::vector<Point2d> FcEllipse::localPoints(const FcParams& params, const Trim& trim1,
                                             const Trim& trim2, bool reverse) const {
-  static constexpr char operation[] = "qor::fc::resource::geometry::FcEllipse::curveGet";
   const double tolerance = math::Epsilon::current().length;
-  if (!expectThat(SemiAxis1() > tolerance, "Ellipse should have positive SemiAxis1", operation,
-                  __LINE__) ||
-      !expectThat(SemiAxis2() > tolerance, "Ellipse should have positive SemiAxis2", operation,
-                  __LINE__))
+  if (!requireThat(*this, SemiAxis1() > tolerance, "Ellipse should have positive SemiAxis1") ||
+      !requireThat(*this, SemiAxis2() > tolerance, "Ellipse should have positive SemiAxis2"))
     return {};
   const Ellipse ellipse(SemiAxis1(), SemiAxis2());
   const Matrix toLocal = Position().transformationGet().inverse();
@@ -33,10 +30,9 @@ std::vector<Point2d> FcEllipse::localPoints(const FcParams& params, const Trim& 
   };
   const auto from = trimAngle(trim1, angleOfPoint), to = trimAngle(trim2, angleOfPoint);
   if (!from || !to) return {};
-  if (!expectThat(!trim1 || !(std::abs(*from - *to) <= math::Epsilon::current().angle),
-                  "By formal proposition on IfcTrimmedCurve, trimming points/parameters for a "
-                  "FcCircle should not be equal.",
-                  operation, __LINE__))
+  if (!requireThat(*this, !trim1 || !(std::abs(*from - *to) <= math::Epsilon::current().angle),
+                   "By formal proposition on IfcTrimmedCurve, trimming points/parameters for a "
+                   "FcCircle should not be equal."))
     return {};
   const ConicArc arc = ConicArc::between(*from, *to, reverse);
   return ellipse.pointsGet(params.curveDiscretization(), arc.start, arc.sweep);
@@ -44,9 +40,7 @@ std::vector<Point2d> FcEllipse::localPoints(const FcParams& params, const Trim& 
 
 std::optional<std::vector<Point2d>> FcEllipse::curve2d(const FcParams& params, const Trim& trim1,
                                                        const Trim& trim2, bool reverse) const {
-  if (!expectThat(is2d(), "Curve has 3d points", "qor::fc::resource::geometry::FcEllipse::curve2d",
-                  __LINE__))
-    return {};
+  if (!requireThat(*this, is2d(), "Curve has 3d points")) return {};
   auto points = localPoints(params, trim1, trim2, reverse);
   if (points.empty()) return {};
   const math::Matrix2d position = Position().transformationGet().toMatrix2d();
@@ -60,8 +54,8 @@ std::vector<Point3d> FcEllipse::curveGet(const FcParams& params, const Trim& tri
 }
 
 void FcEllipse::transform(const Matrix& matrix) {
-  if (!expectThat(!matrix.isMirror(), "Must fixed implementation if mirror should be allowed",
-                  "qor::fc::resource::geometry::FcEllipse::transform", __LINE__))
+  if (!requireThat(*this, !matrix.isMirror(),
+                   "Must fixed implementation if mirror should be allowed"))
     return;
   const Matrix moved = Position().transformationGet() * matrix;
   m_Position.setTransformation(moved);

@@ -1,13 +1,12 @@
 #include "Fc/Resource/Geometry/FcGeometricRepresentationItem.h"
 
-#include "Fc/NotImplemented.h"
+#include "Fc/Model/NotImplemented.h"
 
 namespace qor::fc::resource::geometry {
 
 std::optional<math::Extent2d> FcGeometricRepresentationItem::planarBox(
     const FcParams& /*params*/) const {
-  assertNotImplemented("planarBox(const qor::fc::FcParams&) not implemented for class: ", *this,
-                       "FcGeometricRepresentationItem::planarBox");
+  assertNotImplemented("planarBox(const qor::fc::FcParams&) not implemented for class: ", *this);
   return {};
 }
 

@@ -1,11 +1,11 @@
 #include "Fc/Resource/Geometry/FcGradientCurve.h"
 
-#include "Fc/Resource/Expect.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/CurveNesting.h"
 #include "Fc/Resource/Geometry/CurveTrimming.h"
 #include "Fc/Resource/Geometry/FcBoundedCurve.h"
 #include "Fc/Resource/Geometry/FcCurveSegment.h"
-#include "Fc/Resource/Geometry/GradientPath.h"
+#include "Fc/Shapes/GradientPath.h"
 
 namespace qor::fc::resource::geometry {
 
@@ -40,8 +40,8 @@ std::vector<Point3d> FcGradientCurve::curveGet(const FcParams& params, const Tri
   if (!expectWhole(trim1, trim2, reverse, "FcCompositeCurve::curveGet")) return {};
   const auto heights = FcCompositeCurve::curveGet(params, {}, {}, false);
   const CurveNesting nesting(*this);
-  if (!nesting || !expectThat(BaseCurve() != nullptr, "FcGradientCurve::BaseCurve is required",
-                              "qor::fc::resource::geometry::FcGradientCurve::curveGet", __LINE__))
+  if (!nesting ||
+      !requireThat(*this, BaseCurve() != nullptr, "FcGradientCurve::BaseCurve is required"))
     return {};
   const auto path = BaseCurve()->curveGet(params, {}, {}, false);
   return gradientPath(path, lengthOf(*BaseCurve(), path), heights);
@@ -51,8 +51,8 @@ std::optional<std::vector<Point2d>> FcGradientCurve::curve2d(const FcParams& par
                                                              const Trim& trim1, const Trim& trim2,
                                                              bool reverse) const {
   const CurveNesting nesting(*this);
-  if (!nesting || !expectThat(BaseCurve() != nullptr, "FcGradientCurve::BaseCurve is required",
-                              "qor::fc::resource::geometry::FcGradientCurve::curve2d", __LINE__))
+  if (!nesting ||
+      !requireThat(*this, BaseCurve() != nullptr, "FcGradientCurve::BaseCurve is required"))
     return {};
   return BaseCurve()->curve2d(params, trim1, trim2, reverse);
 }

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/FcParams.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Reflection/MakeEntity.h"
-#include "Fc/Resource/Expect.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList2D.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList3D.h"
 #include "Fc/Resource/Geometry/CurveTrimming.h"
@@ -25,9 +25,8 @@ using SegmentTypes = FcSegmentIndexSelect::Types;
 
 namespace {
 
-bool hasList(const FcIndexedPolyCurve& curve, const char* operation) {
-  return expectThat(curve.Points() != nullptr, "There is not point list defined.", operation,
-                    __LINE__);
+bool hasList(const FcIndexedPolyCurve& curve) {
+  return requireThat(curve.Points() != nullptr, "There is not point list defined.");
 }
 
 bool areEqualNeighbours(const std::vector<Point3d>& points) {
@@ -35,22 +34,18 @@ bool areEqualNeighbours(const std::vector<Point3d>& points) {
 }
 
 void drawPolylineOrPolygonFromPoints(std::vector<Point3d> points, const FcDrawParams& params) {
-  static constexpr char operation[] =
-      "qor::fc::resource::geometry::FcIndexedPolyCurve::drawPolylineOrPolygonFromPoints";
-  if (!expectThat(points.size() >= 2,
-                  "There are less than two points: cannot draw a (closed or open) polygonal curve",
-                  operation, __LINE__))
+  if (!requireThat(
+          points.size() >= 2,
+          "There are less than two points: cannot draw a (closed or open) polygonal curve"))
     return;
   const bool closed = points.front() == points.back();
-  if (!expectThat(!closed || points.size() >= 4,
-                  "For a closed polygonal curve, there must at least be 3 points (excluding the "
-                  "duplicated start/end point",
-                  operation, __LINE__))
+  if (!requireThat(!closed || points.size() >= 4,
+                   "For a closed polygonal curve, there must at least be 3 points (excluding the "
+                   "duplicated start/end point"))
     return;
   expectThat(!areEqualNeighbours(points),
              "By informal proposition of IfcIndexedPolyCurve, there must not be consecutive points "
-             "which are equal",
-             operation, __LINE__);
+             "which are equal");
   if (closed) {
     points.pop_back();
     params->vPolygon({std::move(points)});
@@ -96,7 +91,7 @@ bool FcIndexedPolyCurve::is2d() const {
 }
 
 bool FcIndexedPolyCurve::isClosed() const {
-  if (!hasList(*this, "qor::fc::resource::geometry::FcIndexedPolyCurve::isClosed")) return false;
+  if (!hasList(*this)) return false;
   if (Segments()) {
     if (Segments()->empty()) return false;
     const auto first = IndexedCurvePoints<Point3d>::firstIndex(Segments()->front());
@@ -122,12 +117,10 @@ std::optional<std::vector<Point2d>> FcIndexedPolyCurve::planarPoints() const {
 
 std::optional<Profile2D> FcIndexedPolyCurve::closed2dCurveWithEdgeInformation(
     const FcParams& params, const Trim& trim1, const Trim& trim2, bool reverse) const {
-  if (!expectWhole(trim1, trim2, reverse, "FcIndexedPolyCurve::curve2d") ||
-      !hasList(*this, "qor::fc::resource::geometry::FcIndexedPolyCurve::curve2d"))
+  if (!expectWhole(trim1, trim2, reverse, "FcIndexedPolyCurve::curve2d") || !hasList(*this))
     return {};
   auto points = planarPoints();
-  if (!points || !expectThat(!points->empty(), "There is not point list defined.",
-                             "qor::fc::resource::geometry::FcIndexedPolyCurve::curve2d", __LINE__))
+  if (!points || !requireThat(*this, !points->empty(), "There is not point list defined."))
     return {};
   if (!Segments()) return Profile2D({std::move(*points)});
   IndexedCurvePoints<Point2d> walk(*points, *Segments(), params.curveDiscretization());
@@ -162,16 +155,14 @@ std::vector<Point3d> FcIndexedPolyCurve::computedPoints(const FcParams& params) 
 
 std::vector<Point3d> FcIndexedPolyCurve::curveGet(const FcParams& params, const Trim& trim1,
                                                   const Trim& trim2, bool reverse) const {
-  if (!expectWhole(trim1, trim2, reverse, "FcIndexedPolyCurve::curveGet") ||
-      !hasList(*this, "qor::fc::resource::geometry::FcIndexedPolyCurve::curveGet"))
+  if (!expectWhole(trim1, trim2, reverse, "FcIndexedPolyCurve::curveGet") || !hasList(*this))
     return {};
   return computedPoints(params);
 }
 
 std::vector<std::pair<double, FcCurve::ParameterType>> FcIndexedPolyCurve::parametricSegments()
     const {
-  if (!hasList(*this, "qor::fc::resource::geometry::FcIndexedPolyCurve::parametricSegments"))
-    return {};
+  if (!hasList(*this)) return {};
   std::vector<std::pair<double, ParameterType>> result;
   if (!Segments()) {
     const auto count = static_cast<double>(Points()->size());
@@ -179,18 +170,14 @@ std::vector<std::pair<double, FcCurve::ParameterType>> FcIndexedPolyCurve::param
   }
   for (const FcSegmentIndexSelect& segment : *Segments()) {
     const auto extent = parametricSegment(*Points(), segment);
-    if (!expectThat(extent.has_value(), "Invalid IfcIndexedPolyCurve",
-                    "qor::fc::resource::geometry::FcIndexedPolyCurve::parametricSegments",
-                    __LINE__))
-      return {};
+    if (!requireThat(*this, extent.has_value(), "Invalid IfcIndexedPolyCurve")) return {};
     result.push_back(*extent);
   }
   return result;
 }
 
 void FcIndexedPolyCurve::draw(const FcDrawParams& params) const {
-  if (hasList(*this, "qor::fc::resource::geometry::FcIndexedPolyCurve::draw"))
-    drawPolylineOrPolygonFromPoints(computedPoints(FcParams(params)), params);
+  if (hasList(*this)) drawPolylineOrPolygonFromPoints(computedPoints(FcParams(params)), params);
 }
 
 void FcIndexedPolyCurve::transform(const Matrix& matrix) {

@@ -1,12 +1,12 @@
 // The building operations of indexed curves.
 #include <numbers>
 
+#include "Fc/Model/Report.h"
 #include "Fc/Reflection/MakeEntity.h"
-#include "Fc/Resource/Expect.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList2D.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList3D.h"
 #include "Fc/Resource/Geometry/FcIndexedPolyCurve.h"
-#include "Fc/Resource/Geometry/RoundedPath.h"
+#include "Fc/Shapes/RoundedPath.h"
 #include "Qor/Math/Arc.h"
 
 namespace qor::fc::resource::geometry {
@@ -24,12 +24,11 @@ using math::_2d::ArcType;
 namespace {
 
 /// The list that a path grows; null, with an assert, before a path was begun.
-FcCartesianPointList2D* pathOf(FcIndexedPolyCurve& curve, const char* operation) {
+FcCartesianPointList2D* pathOf(FcIndexedPolyCurve& curve) {
   auto* list = fcCast<FcCartesianPointList2D>(static_cast<FcBase*>(curve.Points().get()));
   const bool begun = list && list->size() > 0;
   expectThat(begun,
-             "This function should only be called after a sequence of beginAt, lineTo and arcTo",
-             operation, __LINE__);
+             "This function should only be called after a sequence of beginAt, lineTo and arcTo");
   return begun ? list : nullptr;
 }
 
@@ -79,15 +78,14 @@ bool FcIndexedPolyCurve::appendArcPoint(const Point2d& end, double radius, bool 
 }
 
 void FcIndexedPolyCurve::startAt(const Point2d& point) {
-  expectThat(Points() == nullptr, "Point list not should exist",
-             "qor::fc::resource::geometry::FcIndexedPolyCurve::startAt", __LINE__);
+  expectThat(*this, Points() == nullptr, "Point list not should exist");
   auto list = makeEntity<FcCartesianPointList2D>();
   list->pushBackPoint(point);
   setPoints(std::move(list));
 }
 
 void FcIndexedPolyCurve::lineTo(const Vector2d& move) {
-  auto* list = pathOf(*this, "qor::fc::resource::geometry::FcIndexedPolyCurve::lineTo");
+  auto* list = pathOf(*this);
   if (!list) return;
   const std::int64_t from = lastIndex();
   list->pushBackPoint(list->point2d(list->size() - 1) + move);
@@ -95,7 +93,7 @@ void FcIndexedPolyCurve::lineTo(const Vector2d& move) {
 }
 
 void FcIndexedPolyCurve::arcTo(const Vector2d& move, double radius, bool counterClockwise) {
-  auto* list = pathOf(*this, "qor::fc::resource::geometry::FcIndexedPolyCurve::arcTo");
+  auto* list = pathOf(*this);
   if (!list) return;
   const std::int64_t from = lastIndex();
   const Point2d end = list->point2d(list->size() - 1) + move;
@@ -108,7 +106,7 @@ void FcIndexedPolyCurve::arcTo(const Vector2d& move, double radius, bool counter
 }
 
 void FcIndexedPolyCurve::closeWithLine() {
-  auto* list = pathOf(*this, "qor::fc::resource::geometry::FcIndexedPolyCurve::closeWithLine");
+  auto* list = pathOf(*this);
   if (!list) return;
   if (m_Segments)
     appendIndexToLine(lastIndex(), 1);
@@ -117,7 +115,7 @@ void FcIndexedPolyCurve::closeWithLine() {
 }
 
 void FcIndexedPolyCurve::closeWithArc(double radius, bool counterClockwise) {
-  auto* list = pathOf(*this, "qor::fc::resource::geometry::FcIndexedPolyCurve::closeWithArc");
+  auto* list = pathOf(*this);
   if (!list) return;
   const std::int64_t from = lastIndex();
   if (appendArcPoint(list->point2d(0), radius, counterClockwise))

@@ -1,8 +1,8 @@
 #include "Fc/Resource/Geometry/FcLine.h"
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/FcParams.h"
-#include "Fc/Resource/Expect.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
 #include "Fc/Resource/Geometry/FcDirection.h"
 #include "Fc/Resource/Geometry/FcVector.h"
@@ -16,11 +16,10 @@ using math::Vector3d;
 
 namespace {
 
-bool isComplete(const FcLine& line, const char* operation) {
-  return expectThat(line.Pnt() != nullptr, "FcLine::Pnt is required", operation, __LINE__) &&
-         expectThat(line.Dir() != nullptr, "FcLine::Dir is required", operation, __LINE__) &&
-         expectThat(line.Dir()->Orientation() != nullptr, "FcVector::Orientation is required",
-                    operation, __LINE__);
+bool isComplete(const FcLine& line) {
+  return requireThat(line.Pnt() != nullptr, "FcLine::Pnt is required") &&
+         requireThat(line.Dir() != nullptr, "FcLine::Dir is required") &&
+         requireThat(line.Dir()->Orientation() != nullptr, "FcVector::Orientation is required");
 }
 
 /// Where a trim cuts the line; empty for a trim by a point that is missing.
@@ -28,9 +27,7 @@ std::optional<Point3d> trimPoint(const FcLine& line, const FcTrimmingSelect& tri
   if (trim.type() == FcTrimmingSelect::Types::ParameterValue)
     return line.Pnt()->point() + line.Dir()->vector() * trim.ParameterValue();
   const auto& point = trim.CartesianPoint();
-  if (!expectThat(point != nullptr, "FcTrimmingSelect::CartesianPoint is required",
-                  "qor::fc::resource::geometry::FcLine::curveGet", __LINE__))
-    return {};
+  if (!requireThat(point != nullptr, "FcTrimmingSelect::CartesianPoint is required")) return {};
   return point->point();
 }
 
@@ -46,7 +43,7 @@ bool FcLine::is2d() const {
 
 std::vector<Point3d> FcLine::curveGet(const FcParams& /*params*/, const Trim& trim1,
                                       const Trim& trim2, bool reverse) const {
-  if (!isComplete(*this, "qor::fc::resource::geometry::FcLine::curveGet")) return {};
+  if (!isComplete(*this)) return {};
   const auto start = trim1 ? trimPoint(*this, *trim1) : Pnt()->point();
   const auto end = trim2 ? trimPoint(*this, *trim2) : Pnt()->point() + Dir()->vector();
   if (!start || !end) return {};
@@ -67,14 +64,13 @@ std::vector<std::pair<double, FcCurve::ParameterType>> FcLine::parametricSegment
 void FcLine::draw(const FcDrawParams& params) const {
   const auto points = curveGet(FcParams(params), {}, {}, false);
   if (points.empty()) return;
-  expectThat(Pnt()->dimension() == Dir()->Orientation()->dimension(),
-             "Dimension of point and vector must be equal.",
-             "qor::fc::resource::geometry::FcLine::draw", __LINE__);
+  expectThat(*this, Pnt()->dimension() == Dir()->Orientation()->dimension(),
+             "Dimension of point and vector must be equal.");
   params->vPolyline(points);
 }
 
 void FcLine::transform(const math::Matrix& matrix) {
-  if (!isComplete(*this, "qor::fc::resource::geometry::FcLine::transform")) return;
+  if (!isComplete(*this)) return;
   const Point3d point = Pnt()->point() * matrix;
   const Vector3d vector = Dir()->vector() * matrix;
   const bool planar = vanishes(point.z) && vanishes(vector.z);

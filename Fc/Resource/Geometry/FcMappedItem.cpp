@@ -3,11 +3,11 @@
 #include <cstdint>
 #include <string>
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcCartesianTransformationOperator.h"
 #include "Fc/Resource/Geometry/FcRepresentationMap.h"
 #include "Fc/Resource/Geometry/MapNesting.h"
-#include "Qor/Assert/Assert.h"
 
 namespace qor::fc::resource::geometry {
 
@@ -17,13 +17,7 @@ using math::MatrixMultiplyOrder;
 
 namespace {
 
-void assertCircular(const char* operation) {
-  if (Assert::isEnabled())
-    Assert::addAssert({.message = "Circular dependency in mapped item",
-                       .function = operation,
-                       .source = "FcMappedItem",
-                       .line = __LINE__});
-}
+void assertCircular() { report("Circular dependency in mapped item"); }
 
 class OpenBlock {
  public:
@@ -60,11 +54,10 @@ class Raised {
 
 void FcMappedItem::draw(const FcDrawParams& params) const {
   const Raised drawing(m_drawing);
-  if (drawing.wasUp()) return assertCircular("qor::fc::resource::geometry::FcMappedItem::draw");
+  if (drawing.wasUp()) return assertCircular();
   if (!MappingSource()) return;
   const MapNesting nesting(*MappingSource());
-  if (!nesting.isAllowed())
-    return assertCircular("qor::fc::resource::geometry::FcMappedItem::draw");
+  if (!nesting.isAllowed()) return assertCircular();
   if (!MappingTarget()) return drawMap(params);
   FcDrawInterface& target = params;
   const TransformationGuard guard(target);
@@ -88,7 +81,7 @@ std::optional<math::Extent> FcMappedItem::boundingBox(const FcParams& params) co
   if (!MappingSource() || !MappingTarget()) return {};
   const MapNesting nesting(*MappingSource());
   if (!nesting.isAllowed()) {
-    assertCircular("qor::fc::resource::geometry::FcMappedItem::boundingBox");
+    assertCircular();
     return {};
   }
   const auto box = MappingSource()->boundingBox(params);

@@ -1,7 +1,7 @@
 #include "Fc/Resource/Geometry/FcPlacement.h"
 
+#include "Fc/Model/Report.h"
 #include "Fc/Reflection/MakeEntity.h"
-#include "Fc/Resource/Expect.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
 
 namespace qor::fc::resource::geometry {
@@ -30,23 +30,17 @@ void FcPlacement::writeLocation(const Point2d& point) { ownedLocation().setPoint
 
 Matrix2d FcPlacement::transformation2dGet() const {
   const FcCartesianPoint* point = locationPoint();
-  if (!expectThat(point, "Should have location",
-                  "qor::fc::resource::geometry::FcPlacement::transformation2dGet", __LINE__))
-    return {};
+  if (!requireThat(*this, point, "Should have location")) return {};
   const bool planar =
       point->dimension() == 2 || std::abs(point->point().z) <= math::Epsilon::current().length;
-  expectThat(planar, "Should have two dimension",
-             "qor::fc::resource::geometry::FcPlacement::transformation2dGet", __LINE__);
+  expectThat(*this, planar, "Should have two dimension");
   return Matrix2d::createTranslation(point->point2d() - Point2d());
 }
 
 Matrix FcPlacement::transformationGet() const {
   const FcCartesianPoint* point = locationPoint();
-  if (!expectThat(point, "Should have location",
-                  "qor::fc::resource::geometry::FcPlacement::transformationGet", __LINE__))
-    return {};
-  expectThat(point->dimension() == 3, "Should have two dimension",
-             "qor::fc::resource::geometry::FcPlacement::transformationGet", __LINE__);
+  if (!requireThat(*this, point, "Should have location")) return {};
+  expectThat(*this, point->dimension() == 3, "Should have two dimension");
   return Matrix::createTranslation(point->point() - Point3d());
 }
 

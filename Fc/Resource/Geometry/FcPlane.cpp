@@ -1,6 +1,6 @@
 #include "Fc/Resource/Geometry/FcPlane.h"
 
-#include "Fc/Resource/Expect.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
 
 namespace qor::fc::resource::geometry {
@@ -9,9 +9,8 @@ using math::Matrix;
 
 void FcPlane::transform(const Matrix& matrix) {
   if (matrix.isIdentity()) return;
-  if (!expectThat(Position() != nullptr,
-                  "Position() of plane is not set. Will assume standard coordinate system now.",
-                  "qor::fc::resource::geometry::FcPlane::transform", __LINE__))
+  if (!requireThat(*this, Position() != nullptr,
+                   "Position() of plane is not set. Will assume standard coordinate system now."))
     setPosition(makePlacement(Matrix()));
   if (matrix.isMirror()) {
     const Matrix moved = Position()->placementGet() * matrix;

@@ -2,15 +2,15 @@
 
 #include <algorithm>
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/FcParams.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Reflection/MakeEntity.h"
-#include "Fc/Resource/Expect.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList2D.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList3D.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
 #include "Fc/Resource/Geometry/FcIndexedPolyCurve.h"
-#include "Fc/Resource/Geometry/PolylineTrim.h"
+#include "Fc/Shapes/PolylineTrim.h"
 #include "Qor/Math/PointFactory.h"
 
 namespace qor::fc::resource::geometry {
@@ -37,45 +37,40 @@ std::vector<std::shared_ptr<FcCartesianPoint>> entitiesOf(const std::vector<Poin
 
 /// Whether the trims are none or two points; asserts for the other cases.
 bool canTrim(const FcCurve::Trim& trim1, const FcCurve::Trim& trim2) {
-  static constexpr char operation[] = "qor::fc::resource::geometry::FcPolyline::curveGet";
   if (!trim1 && !trim2) return true;
-  if (!expectThat(trim1 && trim2,
-                  "FcPolyline::curveGet trimming on only one of the ends is not implemented",
-                  operation, __LINE__))
+  if (!requireThat(trim1 && trim2,
+                   "FcPolyline::curveGet trimming on only one of the ends is not implemented"))
     return false;
   const auto isParameter = [](const FcTrimmingSelect& trim) {
     return trim.type() == FcTrimmingSelect::Types::ParameterValue;
   };
-  return expectThat(!isParameter(*trim1) && !isParameter(*trim2),
-                    "FcPolyline::curveGet trimming by parameter is not implemented", operation,
-                    __LINE__) &&
-         expectThat(trim1->CartesianPoint() && trim2->CartesianPoint(),
-                    "FcTrimmingSelect::CartesianPoint is required", operation, __LINE__);
+  return requireThat(!isParameter(*trim1) && !isParameter(*trim2),
+                     "FcPolyline::curveGet trimming by parameter is not implemented") &&
+         requireThat(trim1->CartesianPoint() && trim2->CartesianPoint(),
+                     "FcTrimmingSelect::CartesianPoint is required");
 }
 
 }  // namespace
 
 void FcPolyline::setPoints(const std::vector<Point2d>& points, bool close) {
-  if (expectThat(points.size() >= 2, "Assertion failed: need at least 2 points.",
-                 "qor::fc::resource::geometry::FcPolyline::setPoints", __LINE__))
+  if (requireThat(*this, points.size() >= 2, "Assertion failed: need at least 2 points."))
     setPoints(entitiesOf(points, close));
 }
 
 void FcPolyline::setPoints(const std::vector<Point3d>& points, bool close) {
-  if (expectThat(points.size() >= 2, "Assertion failed: need at least 2 points.",
-                 "qor::fc::resource::geometry::FcPolyline::setPoints", __LINE__))
+  if (requireThat(*this, points.size() >= 2, "Assertion failed: need at least 2 points."))
     setPoints(entitiesOf(points, close));
 }
 
-bool FcPolyline::hasAllPoints(const char* operation) const {
-  return expectThat(std::find(Points().begin(), Points().end(), nullptr) == Points().end(),
-                    "There is a non-existent point in this Polyline", operation, __LINE__);
+bool FcPolyline::hasAllPoints() const {
+  return requireThat(*this, std::find(Points().begin(), Points().end(), nullptr) == Points().end(),
+                     "There is a non-existent point in this Polyline");
 }
 
 /// Empty when one is missing, with an assert.
 std::vector<Point3d> FcPolyline::allPoints() const {
   std::vector<Point3d> result;
-  if (!hasAllPoints("qor::fc::resource::geometry::FcPolyline::curveGet")) return result;
+  if (!hasAllPoints()) return result;
   result.reserve(Points().size());
   for (const auto& point : Points()) result.push_back(point->point());
   return result;
@@ -139,9 +134,7 @@ std::vector<std::pair<double, FcCurve::ParameterType>> FcPolyline::parametricSeg
 }
 
 void FcPolyline::draw(const FcDrawParams& params) const {
-  if (!expectThat(!Points().empty(), "There are no points.",
-                  "qor::fc::resource::geometry::FcPolyline::draw", __LINE__))
-    return;
+  if (!requireThat(*this, !Points().empty(), "There are no points.")) return;
   auto points = allPoints();
   if (points.empty()) return;
   if (isClosed()) {
@@ -153,7 +146,7 @@ void FcPolyline::draw(const FcDrawParams& params) const {
 }
 
 void FcPolyline::transform(const Matrix& matrix) {
-  if (!hasAllPoints("qor::fc::resource::geometry::FcPolyline::transform")) return;
+  if (!hasAllPoints()) return;
   std::vector<FcCartesianPoint*> points;
   points.reserve(Points().size());
   for (const auto& point : Points()) points.push_back(point.get());
@@ -170,14 +163,14 @@ void FcPolyline::transform(const Matrix& matrix) {
 }
 
 std::optional<Extent> FcPolyline::boundingBox(const FcParams& /*params*/) const {
-  if (!hasAllPoints("qor::fc::resource::geometry::FcPolyline::boundingBox")) return {};
+  if (!hasAllPoints()) return {};
   Extent box;
   for (const auto& point : Points()) box.include(point->point());
   return box.isValid() ? std::optional(box) : std::nullopt;
 }
 
 std::optional<Extent2d> FcPolyline::planarBox(const FcParams& /*params*/) const {
-  if (!hasAllPoints("qor::fc::resource::geometry::FcPolyline::planarBox")) return {};
+  if (!hasAllPoints()) return {};
   Extent2d box;
   for (const auto& point : Points()) box.include(point->point2d());
   return box.isValid() ? std::optional(box) : std::nullopt;

@@ -38,7 +38,7 @@ class QOR_API FcPolyline : public FcPolylineAttributes {
   std::optional<math::Extent2d> planarBox(const FcParams& params) const override;
 
  private:
-  bool hasAllPoints(const char* operation) const;
+  bool hasAllPoints() const;
   std::vector<math::Point3d> allPoints() const;
 };
 

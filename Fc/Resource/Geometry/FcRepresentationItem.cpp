@@ -1,6 +1,6 @@
 #include "Fc/Resource/Geometry/FcRepresentationItem.h"
 
-#include "Fc/NotImplemented.h"
+#include "Fc/Model/NotImplemented.h"
 #include "Fc/Resource/Geometry/RepresentationOfClass.h"
 #include "Fc/Resource/PresentationAppearance/FcPresentationStyle.h"
 #include "Fc/Resource/PresentationAppearance/FcStyledItem.h"
@@ -8,18 +8,15 @@
 namespace qor::fc::resource::geometry {
 
 void FcRepresentationItem::draw(const FcDrawParams& /*params*/) const {
-  assertNotImplemented("draw(const qor::fc::FcDrawParams&) is not implemented for: ", *this,
-                       "FcRepresentationItem::draw");
+  assertNotImplemented("draw(const qor::fc::FcDrawParams&) is not implemented for: ", *this);
 }
 
 void FcRepresentationItem::transform(const math::Matrix& /*matrix*/) {
-  assertNotImplemented("transform(const qor::math::_3d::Matrix&) is not implemented for: ", *this,
-                       "FcRepresentationItem::transform");
+  assertNotImplemented("transform(const qor::math::_3d::Matrix&) is not implemented for: ", *this);
 }
 
 std::optional<math::Extent> FcRepresentationItem::boundingBox(const FcParams& /*params*/) const {
-  assertNotImplemented("boundingBox() not implemented for class: ", *this,
-                       "FcRepresentationItem::boundingBox");
+  assertNotImplemented("boundingBox() not implemented for class: ", *this);
   return {};
 }
 

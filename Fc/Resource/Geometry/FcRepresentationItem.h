@@ -38,8 +38,8 @@ class QOR_API FcRepresentationItem : public FcRepresentationItemAttributes {
   virtual std::optional<math::Extent> boundingBox(const FcParams& params) const;
   /// What a representation that holds this item is for and made of; empty where that is open.
   virtual generate::draw::Representation representationGet() const;
-  /// The item for the solid modeller: several shapes for a set, none on failure. The first call in a
-  /// process opens Open CASCADE.
+  /// The item for the solid modeller: several shapes for a set, none on failure. The first call in
+  /// a process opens Open CASCADE.
   virtual std::vector<TopoDS_Shape> ocRepresentation(const FcParams& params) const;
   /// Calls back for each style of the item, in order. `callback` must be callable.
   virtual void forEachPresentationStyle(

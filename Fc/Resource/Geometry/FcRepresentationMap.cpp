@@ -1,7 +1,7 @@
 #include "Fc/Resource/Geometry/FcRepresentationMap.h"
 
-#include "Fc/FcDrawParams.h"
-#include "Fc/FcGenerateParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
+#include "Fc/Drawing/FcGenerateParams.h"
 #include "Fc/Resource/Representation/FcRepresentation.h"
 
 namespace qor::fc::resource::geometry {

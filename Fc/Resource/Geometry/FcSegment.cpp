@@ -1,16 +1,16 @@
 #include "Fc/Resource/Geometry/FcSegment.h"
 
-#include "Fc/NotImplemented.h"
+#include "Fc/Model/NotImplemented.h"
 
 namespace qor::fc::resource::geometry {
 
 std::vector<math::Point3d> FcSegment::curve(const FcParams& /*params*/) const {
-  assertNotImplemented("FcSegment::curve is not implemented for ", *this, "FcSegment::curve");
+  assertNotImplemented("FcSegment::curve is not implemented for ", *this);
   return {};
 }
 
 std::optional<std::vector<math::Point2d>> FcSegment::curve2d(const FcParams& /*params*/) const {
-  assertNotImplemented("FcSegment::curve2d is not implemented for ", *this, "FcSegment::curve2d");
+  assertNotImplemented("FcSegment::curve2d is not implemented for ", *this);
   return {};
 }
 

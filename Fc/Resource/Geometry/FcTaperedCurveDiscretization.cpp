@@ -1,17 +1,14 @@
 #include "Fc/Resource/Geometry/FcTaperedCurveDiscretization.h"
 
-#include "Fc/Resource/Expect.h"
+#include "Fc/Model/Report.h"
 
 namespace qor::fc::resource::geometry {
 
 std::size_t FcTaperedCurveDiscretization::numberOfCircleSegments(double radius) const {
   if (collecting)
     radii.push_back(radius);
-  else if (expectThat(
-               nextRadius < radii.size(),
-               "Number of collected radii is lower than radii used in seconds run",
-               "qor::fc::resource::geometry::FcTaperedCurveDiscretization::numberOfCircleSegments",
-               __LINE__))
+  else if (requireThat(nextRadius < radii.size(),
+                       "Number of collected radii is lower than radii used in seconds run"))
     radius = radii[nextRadius++];
   return CurveDiscretization::numberOfCircleSegments(radius);
 }

@@ -1,6 +1,6 @@
 #include "Fc/Resource/Geometry/FcTrimmedCurve.h"
 
-#include "Fc/Resource/Expect.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/CurveNesting.h"
 #include "Fc/Resource/Geometry/CurveTrimming.h"
 
@@ -10,14 +10,10 @@ using math::Point2d;
 using math::Point3d;
 
 bool FcTrimmedCurve::validateAttributes() const {
-  static constexpr char operation[] =
-      "qor::fc::resource::geometry::FcTrimmedCurve::validateAttributes";
-  const bool basis = expectThat(BasisCurve() != nullptr, "FcTrimmedCurve::BasisCurve is required",
-                                operation, __LINE__);
-  const bool first =
-      expectThat(!Trim1().empty(), "FcTrimmedCurve::Trim1 is required", operation, __LINE__);
-  const bool second =
-      expectThat(!Trim2().empty(), "FcTrimmedCurve::Trim2 is required", operation, __LINE__);
+  const bool basis =
+      requireThat(*this, BasisCurve() != nullptr, "FcTrimmedCurve::BasisCurve is required");
+  const bool first = requireThat(*this, !Trim1().empty(), "FcTrimmedCurve::Trim1 is required");
+  const bool second = requireThat(*this, !Trim2().empty(), "FcTrimmedCurve::Trim2 is required");
   return basis && first && second;
 }
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "Fc/Resource/Expect.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcSegmentIndexSelect.h"
 #include "Qor/Math/CurveDiscretization.h"
 
@@ -34,16 +34,13 @@ class IndexedCurvePoints {
   std::vector<bool>& softFlags() { return m_softFlags; }
 
  private:
-  static constexpr char operation[] =
-      "qor::fc::resource::geometry::FcIndexedPolyCurve::getPolylineOrPolygonPointsFromSegments";
   using Index = std::int64_t;
 
   static void expectChained(const FcSegmentIndexSelect& before, const FcSegmentIndexSelect& after) {
     const auto end = lastIndex(before), start = firstIndex(after);
     expectThat(end && start && *end == *start,
                "By formal proposition of FcIndexedPolyCurve, the last index of a segment (execpt "
-               "the last segment) must equal the first index of the next segment",
-               operation, __LINE__);
+               "the last segment) must equal the first index of the next segment");
   }
 
   void append(const FcSegmentIndexSelect& segment) {
@@ -53,8 +50,7 @@ class IndexedCurvePoints {
       case FcSegmentIndexSelect::Types::ArcIndex:
         return appendArc(segment.ArcIndex().value());
       default:
-        report("detected a segments which is neither of type LineIndex nor ArcIndex", operation,
-               __LINE__);
+        report("detected a segments which is neither of type LineIndex nor ArcIndex");
     }
   }
 
@@ -70,25 +66,21 @@ class IndexedCurvePoints {
   void appendLine(const std::vector<measure::FcPositiveInteger>& indices) {
     expectThat(indices.size() >= 2,
                "By definition of IfcLineIndex, there must at least be 2 indexes (for start and end "
-               "point of line)",
-               operation, __LINE__);
-    if (!expectThat(areInRange(indices), "Invalid indices contained in this LineIndex segment",
-                    operation, __LINE__))
+               "point of line)");
+    if (!requireThat(areInRange(indices), "Invalid indices contained in this LineIndex segment"))
       return;
     for (std::size_t i = m_points.empty() ? 0 : 1; i < indices.size(); ++i)
       appendPoint(at(indices[i].value()), false);
   }
 
   void appendArc(const std::array<measure::FcPositiveInteger, 3>& indices) {
-    if (!expectThat(areInRange(indices), "Invalid indices contained in this ArcSegment segment",
-                    operation, __LINE__))
+    if (!requireThat(areInRange(indices), "Invalid indices contained in this ArcSegment segment"))
       return;
     const std::vector<Point> arc = m_discretization.discretizeCircularArc(
         at(indices[0].value()), at(indices[1].value()), at(indices[2].value()));
-    if (!expectThat(!arc.empty(), "Expect discretization of circular arc", operation, __LINE__) ||
-        !expectThat(arc.size() >= 2,
-                    "Expect discretization of circular arc to consist of at least two points!",
-                    operation, __LINE__))
+    if (!requireThat(!arc.empty(), "Expect discretization of circular arc") ||
+        !requireThat(arc.size() >= 2,
+                     "Expect discretization of circular arc to consist of at least two points!"))
       return;
     for (std::size_t i = m_points.empty() ? 0 : 1; i < arc.size(); ++i) appendPoint(arc[i], true);
   }

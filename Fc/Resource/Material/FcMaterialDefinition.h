@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Fc/PropertiesInterface.h"
+#include "Fc/Model/PropertiesInterface.h"
 #include "Fc/Resource/Material/FcMaterialDefinitionAttributes.h"
 
 namespace qor::fc::resource::material {

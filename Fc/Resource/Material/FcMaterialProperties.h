@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Fc/PropertyInterface.h"
+#include "Fc/Model/PropertyInterface.h"
 #include "Fc/Resource/Material/FcMaterialPropertiesAttributes.h"
 
 namespace qor::fc::resource::material {

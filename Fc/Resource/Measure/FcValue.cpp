@@ -1,23 +1,12 @@
 #include "Fc/Resource/Measure/FcValue.h"
 
-#include "Qor/Assert/Assert.h"
+#include "Fc/Model/Report.h"
 
 namespace qor::fc::resource::measure {
 
 using object::PropertyValue;
 
-namespace {
-
-void report(const char* message, int line) {
-  if (Assert::isEnabled())
-    Assert::addAssert(
-        {.message = message,
-         .function = "qor::fc::resource::measure::FcValue::updateValueFromPropertyValue",
-         .source = "FcValue",
-         .line = line});
-}
-
-}  // namespace
+namespace {}  // namespace
 
 std::optional<double> FcValue::valueAsDoubleGet() const {
   return type() == Types::SimpleValue ? SimpleValue().valueAsDoubleGet() : number();
@@ -59,19 +48,18 @@ PropertyValue FcValue::getAsPropertyValue() const {
 void FcValue::updateValueFromPropertyValue(const PropertyValue& value) {
   if (!isSet()) {
     report(
-        "FcValue::updateValueFromPropertyValue can only be used if the Value alredy has a value.",
-        __LINE__);
+        "FcValue::updateValueFromPropertyValue can only be used if the Value alredy has a value.");
   } else if (value.getType() == PropertyValue::Type::Double) {
     setDoubleValue(value.getDouble());
   } else if (isBoolean()) {
     if (value.getType() == PropertyValue::Type::Bool)
       *this = FcSimpleValue(FcBoolean(value.getBool()));
     else
-      report("Unexpected type, expected a boolean.", __LINE__);
+      report("Unexpected type, expected a boolean.");
   } else if (value.getType() == PropertyValue::Type::Text) {
     setValueOnTypeFromString(value.getText());
   } else {
-    report("Unexpected type", __LINE__);
+    report("Unexpected type");
   }
 }
 

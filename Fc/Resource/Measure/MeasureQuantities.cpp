@@ -1,8 +1,8 @@
 #include "Fc/Resource/Measure/MeasureQuantities.h"
 
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Measure/FcDerivedMeasureValueAlternatives.h"
 #include "Fc/Resource/Measure/FcMeasureValueAlternatives.h"
-#include "Qor/Assert/Assert.h"
 #include "Qor/Unit/Quantities.h"
 #include "Qor/Unit/QuantityPresentationFactory.h"
 
@@ -77,13 +77,9 @@ std::unique_ptr<unit::QuantityPresentationBase> createMeasurePresentation(std::s
                                                                           double number) {
   if (const unit::QuantityBase* quantity = quantityOfMeasure(name))
     return quantity->createPresentation(number);
-  if (Assert::isEnabled())
-    Assert::addAssert({.kind = AssertInfo::unimplementedCase,
-                       .message = "qor::fc::helper::createQuantityPresentationFromValue: Not "
-                                  "implemented unit for this",
-                       .function = "qor::fc::helper::createQuantityPresentationFromValue",
-                       .source = "Utilities/UnitHelper",
-                       .line = __LINE__});
+  reportUnimplementedCase(
+      "qor::fc::helper::createQuantityPresentationFromValue: Not "
+      "implemented unit for this");
   return nullptr;
 }
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "Qor/Assert/Assert.h"
+#include "Fc/Model/Report.h"
 
 namespace qor::fc::resource::presentationappearance {
 
@@ -21,13 +21,8 @@ std::vector<std::uint8_t> bytesOf(const std::vector<std::vector<std::uint8_t>>& 
 }
 
 void assertMisfit(std::size_t count, std::int64_t width, std::int64_t height) {
-  if (Assert::isEnabled())
-    Assert::addAssert(
-        {.message = "Pixels of a texture don't fit its size: " + std::to_string(count) + " for " +
-                    std::to_string(width) + " by " + std::to_string(height),
-         .function = "qor::fc::resource::presentationappearance::FcPixelTexture::getTexture",
-         .source = "FcPixelTexture",
-         .line = __LINE__});
+  report("Pixels of a texture don't fit its size: " + std::to_string(count) + " for " +
+         std::to_string(width) + " by " + std::to_string(height));
 }
 
 }  // namespace

@@ -2,10 +2,10 @@
 
 #include <utility>
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/FcParams.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcCurve.h"
-#include "Fc/Resource/Report.h"
 
 namespace qor::fc::resource::presentationdefinition {
 
@@ -25,8 +25,7 @@ std::vector<math::Point3d> ringOf(const FcCurve& curve, const FcParams& params) 
 
 void FcAnnotationFillArea::draw(const FcDrawParams& params) const {
   if (!m_OuterBoundary) {
-    report("Outer boundary not set",
-           "qor::fc::resource::presentationdefinition::FcAnnotationFillArea::draw", __LINE__);
+    report(*this, "Outer boundary not set");
     return;
   }
   const FcParams evaluation(params);

@@ -1,7 +1,7 @@
 #include "Fc/Resource/PresentationDefinition/FcTextLiteral.h"
 
-#include "Fc/FcDrawParams.h"
-#include "Fc/Resource/Report.h"
+#include "Fc/Drawing/FcDrawParams.h"
+#include "Fc/Model/Report.h"
 #include "Qor/Draw/TransformationInterface.h"
 
 namespace qor::fc::resource::presentationdefinition {
@@ -13,9 +13,7 @@ void FcTextLiteral::draw(const FcDrawParams& params) const {
 }
 
 void FcTextLiteral::transform(const math::Matrix& matrix) {
-  if (matrix.isMirror())
-    report("transform not implemented to handle mirror of text",
-           "qor::fc::resource::presentationdefinition::FcTextLiteral::transform", __LINE__);
+  if (matrix.isMirror()) report(*this, "transform not implemented to handle mirror of text");
   m_Placement.setTransformation(m_Placement.transformationGet() * matrix);
 }
 

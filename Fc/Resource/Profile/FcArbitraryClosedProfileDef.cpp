@@ -3,10 +3,10 @@
 #include <utility>
 
 #include "Fc/FcParams.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcCurve.h"
 #include "Fc/Resource/Profile/ClosedRing.h"
 #include "Fc/Resource/Profile/CurveAsIndexedPolyCurve.h"
-#include "Fc/Resource/Report.h"
 
 namespace qor::fc::resource::profile {
 
@@ -33,8 +33,7 @@ void FcArbitraryClosedProfileDef::transform2d(const math::Matrix2d& matrix) {
 std::optional<math::Extent2d> FcArbitraryClosedProfileDef::doGetPlanarBox(
     const FcParams& params) const {
   if (OuterCurve()) return OuterCurve()->planarBox(params);
-  report("Expect OuterCurve() to be set.",
-         "qor::fc::resource::profile::FcArbitraryClosedProfileDef::doGetPlanarBox", __LINE__);
+  report(*this, "Expect OuterCurve() to be set.");
   return std::nullopt;
 }
 

@@ -3,10 +3,10 @@
 #include <utility>
 
 #include "Fc/FcParams.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcCurve.h"
 #include "Fc/Resource/Profile/ClosedRing.h"
 #include "Fc/Resource/Profile/CurveAsIndexedPolyCurve.h"
-#include "Fc/Resource/Report.h"
 
 namespace qor::fc::resource::profile {
 
@@ -24,8 +24,7 @@ FcArbitraryProfileDefWithVoids::getAsIndexedPolyCurves() const {
 std::vector<Profile2D> FcArbitraryProfileDefWithVoids::closedProfile(const FcParams& params) const {
   std::vector<Profile2D> result = FcArbitraryProfileDefWithVoidsAttributes::closedProfile(params);
   if (result.empty()) {
-    report("Expected OuterCurve() to return a closed curve.",
-           "qor::fc::resource::profile::FcArbitraryProfileDefWithVoids::closedProfile", __LINE__);
+    report(*this, "Expected OuterCurve() to return a closed curve.");
     return result;
   }
   for (const auto& inner : InnerCurves())

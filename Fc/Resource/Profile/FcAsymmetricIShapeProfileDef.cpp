@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Profile/IShapePath.h"
-#include "Fc/Resource/Report.h"
 
 namespace qor::fc::resource::profile {
 
@@ -11,9 +11,8 @@ std::shared_ptr<geometry::FcIndexedPolyCurve>
 FcAsymmetricIShapeProfileDef::generateIndexedPolycurve() const {
   if (!TopFlangeThickness())
     report(
-        "Optional for historic reasons, should be provided. Bottom flange thickness wil lbe used",
-        "qor::fc::resource::profile::FcAsymmetricIShapeProfileDef::generateIndexedPolycurve",
-        __LINE__);
+        *this,
+        "Optional for historic reasons, should be provided. Bottom flange thickness wil lbe used");
   const double bottom = BottomFlangeThickness();
   const double top = TopFlangeThickness() ? TopFlangeThickness()->value() : bottom;
   return iShapePath(OverallDepth(), WebThickness(),

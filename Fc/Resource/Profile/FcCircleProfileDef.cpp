@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "Fc/FcParams.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Profile/CircleContour.h"
-#include "Fc/Resource/Report.h"
 #include "Qor/Draw/PolygonOrientation.h"
 #include "Qor/Math/Epsilon.h"
 
@@ -12,25 +12,19 @@ namespace qor::fc::resource::profile {
 
 using generate::draw::Profile2D;
 
-namespace {
-
-constexpr const char* kCircleProfile =
-    "qor::fc::resource::profile::FcCircleProfileDef::closedProfile";
-
-}  // namespace
+namespace {}  // namespace
 
 std::vector<Profile2D> FcCircleProfileDef::closedProfile(const FcParams& params) const {
   if (!(Radius() > math::Epsilon::current().general))
-    report("By definition of IfcPositiveLengthMeasure, the radius must be strictly positive",
-           kCircleProfile, __LINE__);
+    report(*this,
+           "By definition of IfcPositiveLengthMeasure, the radius must be strictly positive");
   Profile2D::Contour ring = circleContour(validPosition(), Radius(), params.curveDiscretization());
   std::vector<Profile2D> result;
   if (ring.empty()) return result;
   if (!generate::draw::isCounterClockwisePolygon(ring))
-    report(
-        "Assertion failed: Expect CurveDiscretization::discretizeCircle to return points in "
-        "counter-clockwise order",
-        kCircleProfile, __LINE__);
+    report(*this,
+           "Assertion failed: Expect CurveDiscretization::discretizeCircle to return points in "
+           "counter-clockwise order");
   result.emplace_back(std::vector<Profile2D::Contour>{std::move(ring)}, true);
   return result;
 }

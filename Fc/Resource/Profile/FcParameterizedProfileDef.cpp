@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "Fc/FcParams.h"
-#include "Fc/NotImplemented.h"
+#include "Fc/Model/NotImplemented.h"
 #include "Fc/Reflection/MakeEntity.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement2D.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
@@ -19,8 +19,7 @@ using math::Vector2d;
 
 std::shared_ptr<geometry::FcIndexedPolyCurve> FcParameterizedProfileDef::generateIndexedPolycurve()
     const {
-  assertNotImplemented("generateIndexedPolycurve() not implemented for class: ", *this,
-                       "FcParameterizedProfileDef::generateIndexedPolycurve");
+  assertNotImplemented("generateIndexedPolycurve() not implemented for class: ", *this);
   return makeEntity<geometry::FcIndexedPolyCurve>();
 }
 

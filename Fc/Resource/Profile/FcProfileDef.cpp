@@ -4,7 +4,7 @@
 #include <utility>
 #include <variant>
 
-#include "Fc/NotImplemented.h"
+#include "Fc/Model/NotImplemented.h"
 #include "Qor/Draw/PolygonOrientation.h"
 
 namespace qor::fc::resource::profile {
@@ -30,15 +30,13 @@ void orient(Profile2D::Contour& contour, bool counterClockwise) {
 
 std::vector<std::shared_ptr<geometry::FcIndexedPolyCurve>> FcProfileDef::getAsIndexedPolyCurves()
     const {
-  assertNotImplemented("FcProfileDef::getAsIndexedPolyCurves not implemented for class: ", *this,
-                       "FcProfileDef::getAsIndexedPolyCurves");
+  assertNotImplemented("FcProfileDef::getAsIndexedPolyCurves not implemented for class: ", *this);
   return {};
 }
 
 std::vector<Profile2D> FcProfileDef::closedProfile(const FcParams& /*params*/) const {
   assertNotImplemented(
-      "FcProfileDef::closedProfile(const qor::fc::FcParams&) not implemented for class: ", *this,
-      "FcProfileDef::closedProfile");
+      "FcProfileDef::closedProfile(const qor::fc::FcParams&) not implemented for class: ", *this);
   return {};
 }
 
@@ -57,13 +55,13 @@ std::vector<Profile2D> FcProfileDef::reversedClosedProfile(const FcParams& param
 
 void FcProfileDef::transform2d(const math::Matrix2d& /*matrix*/) {
   assertNotImplemented(
-      "FcProfileDef::transform2d(const qor::math::_2d::Matrix&) not implemented for class: ", *this,
-      "FcProfileDef::transform2d");
+      "FcProfileDef::transform2d(const qor::math::_2d::Matrix&) not implemented for class: ",
+      *this);
 }
 
 std::optional<Extent2d> FcProfileDef::doGetPlanarBox(const FcParams& params) const {
   assertNotImplemented("doGetPlanarBox(const qor::fc::FcParams&) not implemented for class: ",
-                       *this, "FcProfileDef::doGetPlanarBox");
+                       *this);
   Extent2d box;
   for (const Profile2D& profile : closedProfile(params))
     for (const auto& contour : profile.contours()) box = box.uniteWith(Extent2d::ofPoints(contour));

@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "Fc/FcParams.h"
-#include "Fc/Resource/Profile/RectangleContour.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Profile/RectangleCurve.h"
-#include "Fc/Resource/Report.h"
+#include "Fc/Shapes/RectangleContour.h"
 #include "Qor/Math/Epsilon.h"
 
 namespace qor::fc::resource::profile {
@@ -14,13 +14,6 @@ namespace qor::fc::resource::profile {
 using generate::draw::Profile2D;
 
 namespace {
-
-void expectHollow(bool holds, const char* message, int line) {
-  if (!holds)
-    report(message,
-           "qor::fc::resource::profile::FcRectangleHollowProfileDef::assertThatProfileDataIsValid",
-           line);
-}
 
 FlaggedContour tubeContour(const math::Matrix2d& frame, double xHalf, double yHalf, double radius,
                            ContourOrientation orientation, const FcParams& params) {
@@ -42,48 +35,40 @@ void FcRectangleHollowProfileDef::assertThatProfileDataIsValid() const {
   const double wall = WallThickness();
   const double inner = InnerFilletRadius().value_or(0.0);
   const double outer = OuterFilletRadius().value_or(0.0);
-  expectHollow(xHalf > tolerance,
-             "By definition of IfcPositiveLengthMeasure, XDim / 2 should be a positive distance",
-             __LINE__);
-  expectHollow(yHalf > tolerance,
-             "By definition of IfcPositiveLengthMeasure, YDim / 2 should be a positive distance",
-             __LINE__);
-  expectHollow(
-      wall > tolerance,
-      "By definition of IfcPositiveLengthMeasure, WallThickness should be a positive distance",
-      __LINE__);
-  expectHollow(wall < xHalf - tolerance,
-             "By formal proposition, the wall thickness must be strictly smaller than half of XDim",
-             __LINE__);
-  expectHollow(wall < yHalf - tolerance,
-             "By formal proposition, the wall thickness must be strictly smaller than half of YDim",
-             __LINE__);
-  expectHollow(
-      inner >= 0,
-      "By definition of IfcNonNegativeLengthMeasure, InnerFilletRadius should not be negative",
-      __LINE__);
-  expectHollow(
-      outer >= 0,
-      "By definition of IfcNonNegativeLengthMeasure, OuterFilletRadius should not be negative",
-      __LINE__);
-  expectHollow(
-      inner <= xHalf - wall + tolerance,
-      "By formal proposition, InnerFilletRadius must not be larger than XDim / 2 - WallThickness",
-      __LINE__);
-  expectHollow(
-      inner <= yHalf - wall + tolerance,
-      "By formal proposition, InnerFilletRadius must not be larger than YDim / 2 - WallThickness",
-      __LINE__);
-  expectHollow(outer <= xHalf + tolerance,
-             "By formal proposition, OuterFilletRadius must not be larger than XDim / 2", __LINE__);
-  expectHollow(outer <= yHalf + tolerance,
-             "By formal proposition, OuterFilletRadius must not be larger than YDim / 2", __LINE__);
+  expectThat(*this, xHalf > tolerance,
+             "By definition of IfcPositiveLengthMeasure, XDim / 2 should be a positive distance");
+  expectThat(*this, yHalf > tolerance,
+             "By definition of IfcPositiveLengthMeasure, YDim / 2 should be a positive distance");
+  expectThat(
+      *this, wall > tolerance,
+      "By definition of IfcPositiveLengthMeasure, WallThickness should be a positive distance");
+  expectThat(
+      *this, wall < xHalf - tolerance,
+      "By formal proposition, the wall thickness must be strictly smaller than half of XDim");
+  expectThat(
+      *this, wall < yHalf - tolerance,
+      "By formal proposition, the wall thickness must be strictly smaller than half of YDim");
+  expectThat(
+      *this, inner >= 0,
+      "By definition of IfcNonNegativeLengthMeasure, InnerFilletRadius should not be negative");
+  expectThat(
+      *this, outer >= 0,
+      "By definition of IfcNonNegativeLengthMeasure, OuterFilletRadius should not be negative");
+  expectThat(
+      *this, inner <= xHalf - wall + tolerance,
+      "By formal proposition, InnerFilletRadius must not be larger than XDim / 2 - WallThickness");
+  expectThat(
+      *this, inner <= yHalf - wall + tolerance,
+      "By formal proposition, InnerFilletRadius must not be larger than YDim / 2 - WallThickness");
+  expectThat(*this, outer <= xHalf + tolerance,
+             "By formal proposition, OuterFilletRadius must not be larger than XDim / 2");
+  expectThat(*this, outer <= yHalf + tolerance,
+             "By formal proposition, OuterFilletRadius must not be larger than YDim / 2");
 
   // How far both contours stay away, along the diagonal, from the sharp outer corner.
   const double cut = std::numbers::sqrt2 - 1;
-  expectHollow(outer * cut < wall * std::numbers::sqrt2 + inner * cut,
-             "The inner fillet intersects with (or touches) the outer contour of the profile",
-             __LINE__);
+  expectThat(*this, outer * cut < wall * std::numbers::sqrt2 + inner * cut,
+             "The inner fillet intersects with (or touches) the outer contour of the profile");
 }
 
 std::vector<Profile2D> FcRectangleHollowProfileDef::closedProfile(const FcParams& params) const {

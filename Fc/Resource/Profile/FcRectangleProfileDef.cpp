@@ -1,32 +1,20 @@
 #include "Fc/Resource/Profile/FcRectangleProfileDef.h"
 
-#include "Fc/Resource/Profile/RectangleContour.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Profile/RectangleCurve.h"
-#include "Fc/Resource/Report.h"
+#include "Fc/Shapes/RectangleContour.h"
 #include "Qor/Math/Epsilon.h"
 
 namespace qor::fc::resource::profile {
 
 using generate::draw::Profile2D;
 
-namespace {
-
-void assertPositive(double value, const char* message, int line) {
-  if (!(value > math::Epsilon::current().general))
-    report(message,
-           "qor::fc::resource::profile::FcRectangleProfileDef::assertThatDimensionsArePositive",
-           line);
-}
-
-}  // namespace
-
 void FcRectangleProfileDef::assertThatDimensionsArePositive() const {
-  assertPositive(XDim(),
-                 "By definition of IfcPositiveLengthMeasure, XDim should be a positive distance",
-                 __LINE__);
-  assertPositive(YDim(),
-                 "By definition of IfcPositiveLengthMeasure, YDim should be a positive distance",
-                 __LINE__);
+  const double tolerance = math::Epsilon::current().general;
+  expectThat(*this, XDim() > tolerance,
+             "By definition of IfcPositiveLengthMeasure, XDim should be a positive distance");
+  expectThat(*this, YDim() > tolerance,
+             "By definition of IfcPositiveLengthMeasure, YDim should be a positive distance");
 }
 
 std::vector<Profile2D> FcRectangleProfileDef::closedProfile(const FcParams& /*params*/) const {

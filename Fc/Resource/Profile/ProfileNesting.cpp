@@ -1,6 +1,6 @@
 #include "Fc/Resource/Profile/ProfileNesting.h"
 
-#include "Fc/Resource/Report.h"
+#include "Fc/Model/Report.h"
 
 namespace qor::fc::resource::profile {
 
@@ -17,8 +17,7 @@ ProfileNesting::ProfileNesting(const FcProfileDef& profile)
   m_isSound = m_depth <= kDeepest;
   for (const ProfileNesting* outer = m_outer; outer && m_isSound; outer = outer->m_outer)
     m_isSound = outer->m_profile != m_profile;
-  if (!m_isSound)
-    report("Circular dependency in profile", "qor::fc::resource::profile::FcProfileDef", __LINE__);
+  if (!m_isSound) report("Circular dependency in profile");
   innermost = this;
 }
 

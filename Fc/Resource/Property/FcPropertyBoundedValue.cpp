@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "Fc/Localize.h"
+#include "Fc/Model/Localize.h"
 #include "Fc/Resource/Measure/MeasureQuantities.h"
 #include "Qor/Math/Epsilon.h"
 

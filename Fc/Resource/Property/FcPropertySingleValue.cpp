@@ -1,7 +1,7 @@
 #include "Fc/Resource/Property/FcPropertySingleValue.h"
 
 #include "Fc/HelperFunctions.h"
-#include "Qor/Assert/Assert.h"
+#include "Fc/Model/Report.h"
 
 namespace qor::fc::resource::property {
 
@@ -65,12 +65,7 @@ bool FcPropertySingleValue::setFromPropertyValue(const PropertyValue& value) {
   const std::optional<std::string> text = textOf(value);
   if (!text) return false;
   if (m_NominalValue.setValueOnTypeFromString(*text)) return true;
-  if (Assert::isEnabled())
-    Assert::addAssert(
-        {.message = "Unable to set attribute \"" + Name() + "\", from string \"" + *text + "\".",
-         .function = "qor::fc::resource::property::FcPropertySingleValue::setFromPropertyValue",
-         .source = "FcPropertySingleValue",
-         .line = __LINE__});
+  report(*this, "Unable to set attribute \"" + Name() + "\", from string \"" + *text + "\".");
   return false;
 }
 

@@ -1,6 +1,6 @@
 #include "Fc/Resource/Representation/FcGeometricRepresentationContext.h"
 
-#include "Fc/FcGenerateParams.h"
+#include "Fc/Drawing/FcGenerateParams.h"
 
 namespace qor::fc::resource::representation {
 

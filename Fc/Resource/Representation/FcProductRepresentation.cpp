@@ -1,6 +1,6 @@
 #include "Fc/Resource/Representation/FcProductRepresentation.h"
 
-#include "Fc/FcGenerateParams.h"
+#include "Fc/Drawing/FcGenerateParams.h"
 #include "Fc/Resource/Representation/FcRepresentation.h"
 
 namespace qor::fc::resource::representation {

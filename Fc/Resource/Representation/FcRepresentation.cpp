@@ -1,7 +1,7 @@
 #include "Fc/Resource/Representation/FcRepresentation.h"
 
-#include "Fc/FcDrawParams.h"
-#include "Fc/FcGenerateParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
+#include "Fc/Drawing/FcGenerateParams.h"
 #include "Fc/Resource/Geometry/FcRepresentationItem.h"
 #include "Fc/Resource/PresentationOrganization/FcPresentationLayerAssignment.h"
 #include "Fc/Resource/Representation/FcRepresentationContext.h"

@@ -1,13 +1,12 @@
 #include "Fc/Resource/Representation/FcRepresentationContext.h"
 
-#include "Fc/NotImplemented.h"
+#include "Fc/Model/NotImplemented.h"
 
 namespace qor::fc::resource::representation {
 
 bool FcRepresentationContext::generate(FcGenerateParams& /*params*/) const {
   assertNotImplemented(
-      "FcRepresentationContext::generate(FcGenerateParams &) not implemented for class: ", *this,
-      "FcRepresentationContext::generate");
+      "FcRepresentationContext::generate(FcGenerateParams &) not implemented for class: ", *this);
   return true;
 }
 

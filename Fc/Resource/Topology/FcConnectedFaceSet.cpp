@@ -3,9 +3,9 @@
 #include <utility>
 
 #include "Fc/ComplexGeometry/DrawByProcessor.h"
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/BoxUnion.h"
-#include "Fc/Resource/Report.h"
 #include "Fc/Resource/Topology/FcFace.h"
 #include "Fc/Resource/Topology/MovedPoints.h"
 
@@ -22,7 +22,7 @@ void FcConnectedFaceSet::draw(const FcDrawParams& params) const {
   if (auto faceSet = generatePolygonalFaceSet())
     params->polygonalFaceSet(std::move(*faceSet));
   else
-    drawByProcessor(*this, params, "qor::fc::resource::topology::FcConnectedFaceSet::draw");
+    drawByProcessor(*this, params);
 }
 
 void FcConnectedFaceSet::transform(const math::Matrix& matrix) {
@@ -31,8 +31,7 @@ void FcConnectedFaceSet::transform(const math::Matrix& matrix) {
     if (face)
       face->transform(matrix);
     else
-      report("Expect to have a valid face",
-             "qor::fc::resource::topology::FcConnectedFaceSet::transform", __LINE__);
+      report(*this, "Expect to have a valid face");
   }
 }
 
@@ -51,8 +50,7 @@ bool FcConnectedFaceSet::appendTo(PolygonalFaceSetOpenGL& faceSet, PointIndices&
   faceSet.faces.reserve(faceSet.faces.size() + m_CfsFaces.size());
   for (const auto& face : m_CfsFaces) {
     if (!face) {
-      report("Expect to have a valid face",
-             "qor::fc::resource::topology::FcConnectedFaceSet::generatePolygonalFaceSet", __LINE__);
+      report(*this, "Expect to have a valid face");
       continue;
     }
     auto indexed = face->generateIndexedFace(faceSet.coordinates, indices);

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/FcParams.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/BoxUnion.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
-#include "Fc/Resource/Report.h"
 #include "Fc/Resource/Topology/FcFaceOuterBound.h"
 #include "Fc/Resource/Topology/FcPolyLoop.h"
 #include "Fc/Resource/Topology/MovedPoints.h"
@@ -17,9 +17,6 @@ namespace qor::fc::resource::topology {
 using generate::draw::PolygonalFaceSetOpenGL;
 
 namespace {
-
-constexpr const char* drawFunction = "qor::fc::resource::topology::FcFace::draw";
-constexpr const char* indexFunction = "qor::fc::resource::topology::FcFace::generateIndexedFace";
 
 /// The class itself, none below it.
 template <class T>
@@ -68,7 +65,7 @@ class Contours {
 bool indexLoop(const FcFaceBound& bound, std::vector<math::Point3d>& coordinates,
                PointIndices& indices, std::vector<std::uint32_t>& ring) {
   if (!bound.Bound()) {
-    report("Missing non-optional attribute: Bound", indexFunction, __LINE__);
+    report("Missing non-optional attribute: Bound");
     return false;
   }
   if (!isExactly<FcPolyLoop>(*bound.Bound())) return false;
@@ -76,7 +73,7 @@ bool indexLoop(const FcFaceBound& bound, std::vector<math::Point3d>& coordinates
   ring.reserve(polygon.size());
   const auto add = [&](const std::shared_ptr<geometry::FcCartesianPoint>& point) {
     if (!point) {
-      report("Assertion failed: expect valid FcCartesianPoint", indexFunction, __LINE__);
+      report("Assertion failed: expect valid FcCartesianPoint");
       return;
     }
     const auto next = static_cast<std::uint32_t>(coordinates.size());
@@ -103,16 +100,14 @@ void FcFace::draw(const FcDrawParams& params) const {
   bool hasOuter = false;
   for (const auto& bound : m_Bounds) {
     if (!bound) {
-      report("Assertion failed: expect all Bounds() of an FcFace to exist.", drawFunction,
-             __LINE__);
+      report(*this, "Assertion failed: expect all Bounds() of an FcFace to exist.");
       return;
     }
     const bool outer = isExactly<FcFaceOuterBound>(*bound);
     if (outer && hasOuter) {
-      report(
-          "Assertion failed: This FcFace has more than one FcFaceOuterBound which contradicts "
-          "IFC4. Not drawing this face!",
-          drawFunction, __LINE__);
+      report(*this,
+             "Assertion failed: This FcFace has more than one FcFaceOuterBound which contradicts "
+             "IFC4. Not drawing this face!");
       return;
     }
     hasOuter = hasOuter || outer;
@@ -122,9 +117,9 @@ void FcFace::draw(const FcDrawParams& params) const {
     contours.drawInto(params);
   else
     report(
+        *this,
         "Assertion failed: If there is more than 1 face boundary, exactly one of them must be of "
-        "type FcFaceOuterBound. Not drawing this face!",
-        drawFunction, __LINE__);
+        "type FcFaceOuterBound. Not drawing this face!");
 }
 
 void FcFace::transform(const math::Matrix& matrix) {
@@ -133,8 +128,7 @@ void FcFace::transform(const math::Matrix& matrix) {
     if (bound)
       bound->transform(matrix);
     else
-      report("Expect to have a valid face", "qor::fc::resource::topology::FcFace::transform",
-             __LINE__);
+      report(*this, "Expect to have a valid face");
   }
 }
 
@@ -152,7 +146,7 @@ std::optional<PolygonalFaceSetOpenGL::Face> FcFace::generateIndexedFace(
   const auto addTo = [&](const std::shared_ptr<FcFaceBound>& bound,
                          std::vector<std::uint32_t>& ring) {
     if (bound) return indexLoop(*bound, coordinates, indices, ring);
-    report("Missing non-optional attribute: Bound", indexFunction, __LINE__);
+    report(*this, "Missing non-optional attribute: Bound");
     return false;
   };
 

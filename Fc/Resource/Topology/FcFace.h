@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Fc/Resource/Topology/FcFaceAttributes.h"
-#include "Fc/Resource/Topology/PointIndices.h"
+#include "Fc/Shapes/PointIndices.h"
 #include "Qor/Draw/PolygonalFaceSetOpenGL.h"
 
 namespace qor::fc::resource::topology {

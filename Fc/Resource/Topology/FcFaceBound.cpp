@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/FcParams.h"
 #include "Fc/Resource/Topology/FcLoop.h"
 #include "Fc/Resource/Topology/MovedPoints.h"

@@ -1,10 +1,10 @@
 #include "Fc/Resource/Topology/FcPolyLoop.h"
 
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/FcParams.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Reflection/MakeEntity.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
-#include "Fc/Resource/Report.h"
 #include "Fc/Resource/Topology/MovedPoints.h"
 
 namespace qor::fc::resource::topology {
@@ -23,12 +23,12 @@ const FcCartesianPoint* firstPoint(const std::vector<std::shared_ptr<FcCartesian
 }  // namespace
 
 template <class Callback>
-void FcPolyLoop::forEachPoint(const char* function, Callback&& callback) const {
+void FcPolyLoop::forEachPoint(Callback&& callback) const {
   for (const auto& point : m_Polygon) {
     if (point)
       callback(*point);
     else
-      report("Assertion failed: expect valid FcCartesianPoint", function, __LINE__);
+      report(*this, "Assertion failed: expect valid FcCartesianPoint");
   }
 }
 
@@ -44,8 +44,7 @@ void FcPolyLoop::draw(const FcDrawParams& params) const {
 
 void FcPolyLoop::transform(const math::Matrix& matrix) {
   MovedPoints moved;
-  forEachPoint("qor::fc::resource::topology::FcPolyLoop::transform",
-               [&](FcCartesianPoint& point) { moved.move(point, matrix); });
+  forEachPoint([&](FcCartesianPoint& point) { moved.move(point, matrix); });
 }
 
 std::optional<math::Extent> FcPolyLoop::boundingBox(const FcParams& params) const {
@@ -57,21 +56,19 @@ bool FcPolyLoop::boPoints2dGet(std::vector<math::Point2d>& points) const {
   if (!wasPolygonSetFromPointsOfDimension(2)) return false;
   points.clear();
   points.reserve(m_Polygon.size());
-  forEachPoint("qor::fc::resource::topology::FcPolyLoop::boPoints2dGet",
-               [&points](const FcCartesianPoint& point) {
-                 points.emplace_back(point.Coordinates()[0], point.Coordinates()[1]);
-               });
+  forEachPoint([&points](const FcCartesianPoint& point) {
+    points.emplace_back(point.Coordinates()[0], point.Coordinates()[1]);
+  });
   return true;
 }
 
 std::vector<math::Point3d> FcPolyLoop::points3dGet(const FcParams& /*params*/) const {
   std::vector<math::Point3d> points;
   points.reserve(m_Polygon.size());
-  forEachPoint("qor::fc::resource::topology::FcPolyLoop::points3dGet",
-               [&points](const FcCartesianPoint& point) {
-                 const auto& coordinates = point.Coordinates();
-                 points.emplace_back(coordinates[0], coordinates[1], coordinates[2]);
-               });
+  forEachPoint([&points](const FcCartesianPoint& point) {
+    const auto& coordinates = point.Coordinates();
+    points.emplace_back(coordinates[0], coordinates[1], coordinates[2]);
+  });
   return points;
 }
 

@@ -29,7 +29,7 @@ class QOR_API FcPolyLoop : public FcPolyLoopAttributes {
 
  private:
   template <class Callback>
-  void forEachPoint(const char* function, Callback&& callback) const;
+  void forEachPoint(Callback&& callback) const;
 };
 
 }  // namespace qor::fc::resource::topology

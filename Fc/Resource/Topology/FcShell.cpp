@@ -1,7 +1,7 @@
 #include "Fc/Resource/Topology/FcShell.h"
 
-#include "Fc/FcDrawParams.h"
-#include "Fc/Resource/Report.h"
+#include "Fc/Drawing/FcDrawParams.h"
+#include "Fc/Model/Report.h"
 #include "Fc/Resource/Topology/FcClosedShell.h"
 #include "Fc/Resource/Topology/FcOpenShell.h"
 
@@ -28,8 +28,7 @@ void FcShell::transform(const math::Matrix& matrix) const {
   if (const auto shell = connectedFaceSet())
     shell->transform(matrix);
   else
-    report("Expect to have a valid connected face set",
-           "qor::fc::resource::topology::FcShell::transform", __LINE__);
+    report("Expect to have a valid connected face set");
 }
 
 std::optional<math::Extent> FcShell::boundingBox(const FcParams& params) const {

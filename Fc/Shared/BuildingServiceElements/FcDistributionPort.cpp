@@ -1,7 +1,7 @@
 #include "Fc/Shared/BuildingServiceElements/FcDistributionPort.h"
 
-#include "Fc/FcDrawParams.h"
-#include "Fc/FcGenerateParams.h"
+#include "Fc/Drawing/FcDrawParams.h"
+#include "Fc/Drawing/FcGenerateParams.h"
 #include "Fc/Utilities/MarkerCone.h"
 
 namespace qor::fc::shared::buildingserviceelements {

@@ -3,11 +3,11 @@
 #include <cmath>
 #include <thread>
 
-#include "Fc/ComplexGeometry/FcClip.h"
 #include "Fc/ComplexGeometry/FcComplexGeometryProcessorQueueContext.h"
 #include "Fc/ComplexGeometry/FcImplicitClippingTask.h"
 #include "Fc/ComplexGeometry/FcPolygonalFaceSetResult.h"
 #include "Fc/ComplexGeometry/FcThreadedComplexGeometryProcessor.h"
+#include "Fc/Drawing/FcClip.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList3D.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
 #include "Tests/Fc/ComplexGeometry/Items.h"

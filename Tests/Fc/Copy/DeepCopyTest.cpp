@@ -2,6 +2,7 @@
 
 #include "Fc/Core/Kernel/FcRelDefinesByType.h"
 #include "Fc/FcCopySettings.h"
+#include "Fc/Model/ValueAttributes.h"
 #include "Fc/Resource/Actor/FcPerson.h"
 #include "Fc/Resource/Actor/FcPostalAddress.h"
 #include "Fc/Resource/GeometricConstraint/FcLocalPlacement.h"
@@ -13,7 +14,6 @@
 #include "Fc/Resource/Utility/FcOwnerHistory.h"
 #include "Fc/Shared/BuildingElements/FcWall.h"
 #include "Fc/Shared/BuildingElements/FcWallType.h"
-#include "Fc/ValueAttributes.h"
 #include "Tests/Support/Make.h"
 #include "Tests/Support/RandomModel.h"
 

@@ -1,11 +1,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "Fc/ComplexGeometry/FcClip.h"
+#include "Fc/Drawing/FcClip.h"
+#include "Fc/Drawing/FcDrawInterfaceWrapper.h"
 #include "Fc/Factory.h"
-#include "Fc/FcDrawInterfaceWrapper.h"
 #include "Fc/FcParams.h"
-#include "Fc/NotImplemented.h"
+#include "Fc/Model/NotImplemented.h"
 #include "Fc/Resource/GeometricModel/FcBooleanClippingResult.h"
 #include "Fc/Resource/GeometricModel/FcBoundingBox.h"
 #include "Fc/Resource/GeometricModel/FcExtrudedAreaSolidTapered.h"

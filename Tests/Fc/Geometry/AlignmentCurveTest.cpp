@@ -6,8 +6,8 @@
 #include "Fc/Resource/Geometry/FcClothoid.h"
 #include "Fc/Resource/Geometry/FcCurveSegment.h"
 #include "Fc/Resource/Geometry/FcGradientCurve.h"
-#include "Fc/Resource/Geometry/GradientPath.h"
-#include "Fc/Resource/Geometry/TurningPath.h"
+#include "Fc/Shapes/GradientPath.h"
+#include "Fc/Shapes/TurningPath.h"
 #include "Items.h"
 #include "Tests/Support/ExpectAsserts.h"
 

@@ -5,8 +5,8 @@
 #include <utility>
 #include <vector>
 
-#include "Fc/FcDrawInterface.h"
-#include "Fc/FcDrawParams.h"
+#include "Fc/Drawing/FcDrawInterface.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/Resource/Geometry/FcRepresentationItem.h"
 #include "Qor/Draw/DrawInterface.h"
 

@@ -7,7 +7,7 @@
 
 #include "Fc/Resource/GeometricModel/FcCartesianPointList2D.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList3D.h"
-#include "Fc/Resource/Geometry/RoundedPath.h"
+#include "Fc/Shapes/RoundedPath.h"
 #include "Items.h"
 #include "Qor/Assert/Exception.h"
 #include "Qor/Math/Polygon.h"

@@ -4,17 +4,17 @@
 #include <limits>
 #include <numbers>
 
-#include "Fc/NotImplemented.h"
+#include "Fc/Model/NotImplemented.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList2D.h"
 #include "Fc/Resource/Geometry/FcIndexedPolyCurve.h"
-#include "Fc/Resource/Profile/CenterLineRing.h"
 #include "Fc/Resource/Profile/FcArbitraryProfileDefWithVoids.h"
 #include "Fc/Resource/Profile/FcCenterLineProfileDef.h"
 #include "Fc/Resource/Profile/FcCircleHollowProfileDef.h"
 #include "Fc/Resource/Profile/FcCompositeProfileDef.h"
 #include "Fc/Resource/Profile/FcMirroredProfileDef.h"
 #include "Fc/Resource/Profile/FcRectangleProfileDef.h"
-#include "Fc/Resource/Profile/RectangleContour.h"
+#include "Fc/Shapes/CenterLineRing.h"
+#include "Fc/Shapes/RectangleContour.h"
 #include "Qor/Draw/PolygonOrientation.h"
 #include "Qor/Math/Polygon.h"
 #include "Tests/Fc/Geometry/Items.h"

@@ -6,8 +6,8 @@
 
 #include "Fc/Core/Kernel/FcProduct.h"
 #include "Fc/Document/Document.h"
-#include "Fc/FcDrawInterfaceWrapper.h"
-#include "Fc/FcGenerateParams.h"
+#include "Fc/Drawing/FcDrawInterfaceWrapper.h"
+#include "Fc/Drawing/FcGenerateParams.h"
 #include "Fc/Resource/GeometricConstraint/FcLinearPlacement.h"
 #include "Fc/Resource/GeometricConstraint/FcLocalPlacement.h"
 #include "Fc/Resource/GeometricModel/FcFacetedBrep.h"

@@ -5,10 +5,10 @@
 #include <numbers>
 #include <vector>
 
-#include "Fc/Resource/GeometricModel/DirectrixSweep.h"
-#include "Fc/Resource/GeometricModel/ExtrudedFaceSet.h"
-#include "Fc/Resource/GeometricModel/FilletedPath.h"
-#include "Fc/Resource/GeometricModel/RevolvedFaceSet.h"
+#include "Fc/Shapes/DirectrixSweep.h"
+#include "Fc/Shapes/ExtrudedFaceSet.h"
+#include "Fc/Shapes/FilletedPath.h"
+#include "Fc/Shapes/RevolvedFaceSet.h"
 #include "Tests/Support/ExpectAsserts.h"
 #include "Tests/Support/SolidMesh.h"
 

@@ -1,0 +1,44 @@
+#include "Fc/Drawing/FcClip.h"
+
+#include "Fc/ComplexGeometry/FcComplexGeometryProcessorInterface.h"
+#include "Fc/ComplexGeometry/FcImplicitClippingTask.h"
+#include "Fc/ComplexGeometry/FcPolygonalFaceSetResult.h"
+#include "Fc/Drawing/FcDrawParams.h"
+
+namespace qor::fc {
+namespace {
+
+/// The target draws what is left of an item.
+class DrawingClipped {
+ public:
+  explicit DrawingClipped(bool& flag) : m_flag(flag) { m_flag = true; }
+  DrawingClipped(const DrawingClipped&) = delete;
+  DrawingClipped& operator=(const DrawingClipped&) = delete;
+  ~DrawingClipped() { m_flag = false; }
+
+ private:
+  bool& m_flag;
+};
+
+}  // namespace
+
+void FcClip::drawItemClipped(
+    const std::shared_ptr<const resource::geometry::FcRepresentationItem>& item,
+    const FcDrawParams& params) {
+  auto faceSets = getClippedItems(item, params->transformationGet(), FcParams(params), *this);
+  const DrawingClipped drawing(m_drawingClipped);
+  for (auto& faceSet : faceSets) params->polygonalFaceSet(std::move(faceSet));
+}
+
+std::vector<generate::draw::PolygonalFaceSetOpenGL> FcClip::getClippedItems(
+    const std::shared_ptr<const resource::geometry::FcRepresentationItem>& item,
+    const math::Matrix& itemMatrix, const FcParams& params, const FcClip& clip) {
+  const auto* processor = getCurrentComplexGeometryProcessor();
+  if (!processor) return {};
+  const auto result = processor->processAndCast<FcPolygonalFaceSetResult>(
+      FcImplicitClippingTask(params, item, itemMatrix, clip.clipObjects()));
+  if (!result) return {};
+  return result->takeFaceSets();
+}
+
+}  // namespace qor::fc
