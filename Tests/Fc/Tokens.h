@@ -12,16 +12,16 @@
 #include "Fc/Reflection/ValueSink.h"
 #include "Fc/Reflection/ValueSource.h"
 
-namespace qor::fc::test {
+namespace qor::test {
 
-using Entities = std::vector<std::shared_ptr<FcBase>>;
+using Entities = std::vector<std::shared_ptr<fc::FcBase>>;
 
 // Tokens as a file spells them, with a blank between two: "( 'a' $ )", "IFCLABEL( 'x' )", "2.5",
 // "7", ".T.", "*". "x01ff" is a binary, "?" no value; "#1" is the first of the entities that a
 // source or a sink was given, "#0" names none.
 
 /// Hands out tokens, and fails the test on a call that doesn't fit the token that comes next.
-class TokenSource : public ValueSource {
+class TokenSource : public fc::ValueSource {
  public:
   TokenSource(const std::string& tokens, Entities entities) : m_entities(std::move(entities)) {
     std::istringstream stream(tokens);
@@ -68,7 +68,7 @@ class TokenSource : public ValueSource {
     for (std::size_t i = 0; i < digits.size(); i += 2)
       out.push_back(static_cast<std::uint8_t>(std::stoi(digits.substr(i, 2), nullptr, 16)));
   }
-  const std::shared_ptr<FcBase>* takeEntity() override {
+  const std::shared_ptr<fc::FcBase>* takeEntity() override {
     const auto number = std::stoul(take(Kind::entity).substr(1));
     return number == 0 ? nullptr : &m_entities.at(number - 1);
   }
@@ -84,7 +84,7 @@ class TokenSource : public ValueSource {
     return m_name;
   }
   void closeTyped() override { EXPECT_EQ(m_tokens.at(m_next++), ")"); }
-  void rejected(Rejection reason, std::string_view found, const TypeOperations&) override {
+  void rejected(fc::Rejection reason, std::string_view found, const fc::TypeOperations&) override {
     static constexpr const char* names[] = {"wrongKind",   "wrongClass", "unknownEnumerator",
                                             "unknownType", "wrongCount", "outOfRange"};
     if (!m_rejections.empty()) m_rejections += "; ";
@@ -115,7 +115,7 @@ class TokenSource : public ValueSource {
 };
 
 /// Records what it is given.
-class TokenSink : public ValueSink {
+class TokenSink : public fc::ValueSink {
  public:
   explicit TokenSink(Entities entities) : m_entities(std::move(entities)) {}
   const std::string& tokens() const { return m_tokens; }
@@ -137,7 +137,7 @@ class TokenSink : public ValueSink {
     }
     add(token);
   }
-  void entity(const FcBase& entity) override {
+  void entity(const fc::FcBase& entity) override {
     std::size_t i = 0;
     while (m_entities.at(i).get() != &entity) ++i;
     add("#" + std::to_string(i + 1));
@@ -154,4 +154,4 @@ class TokenSink : public ValueSink {
   std::string m_tokens;
 };
 
-}  // namespace qor::fc::test
+}  // namespace qor::test

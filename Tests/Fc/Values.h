@@ -2,38 +2,34 @@
 
 #include <memory>
 #include <optional>
-#include <ostream>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "Fc/Factory.h"
 #include "Fc/FcBase.h"
+#include "Tests/Support/Make.h"
 
-namespace qor::fc {
-
-namespace details {
-inline void PrintTo(const LocalValue& value, std::ostream* out) {
-  *out << "alternative " << value.index() << " of type " << value.typeName.value_or("(none)");
-}
-}  // namespace details
-
-namespace test {
+namespace qor::test {
 
 /// A new instance by the mixed-case name of its class, "IfcWall".
-inline std::shared_ptr<FcBase> make(const std::string& ifcName) {
-  return Factory::objectFromIfcName(StringHash::of(ifcName));
+inline std::shared_ptr<fc::FcBase> make(const std::string& ifcName) {
+  return fc::Factory::objectFromIfcName(StringHash::of(ifcName));
 }
 
 inline object::PropertyId id(const char* name) { return object::PropertyId(name); }
 
-inline LocalValue empty() { return LocalValue(details::EmptyValue()); }
-inline LocalValue integer(std::int64_t value) { return LocalValue(value); }
-inline LocalValue real(double value) { return LocalValue(value); }
-inline LocalValue text(std::string value) { return LocalValue(std::move(value)); }
-inline LocalValue entity(std::shared_ptr<FcBase> value) { return LocalValue(std::move(value)); }
-inline LocalValue list(std::vector<LocalValue> values) { return LocalValue(std::move(values)); }
-inline LocalValue typed(const char* typeName, LocalValue value) {
+inline fc::LocalValue empty() { return fc::LocalValue(fc::details::EmptyValue()); }
+inline fc::LocalValue integer(std::int64_t value) { return fc::LocalValue(value); }
+inline fc::LocalValue real(double value) { return fc::LocalValue(value); }
+inline fc::LocalValue text(std::string value) { return fc::LocalValue(std::move(value)); }
+inline fc::LocalValue entity(std::shared_ptr<fc::FcBase> value) {
+  return fc::LocalValue(std::move(value));
+}
+inline fc::LocalValue list(std::vector<fc::LocalValue> values) {
+  return fc::LocalValue(std::move(values));
+}
+inline fc::LocalValue typed(const char* typeName, fc::LocalValue value) {
   value.typeName = typeName;
   return value;
 }
@@ -42,5 +38,4 @@ inline std::optional<std::string> some(const char* text) {
   return text ? std::optional<std::string>(text) : std::nullopt;
 }
 
-}  // namespace test
-}  // namespace qor::fc
+}  // namespace qor::test

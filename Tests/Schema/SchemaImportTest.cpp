@@ -60,7 +60,7 @@ TEST(SchemaImport, NamesWhatIsMissingOrThereTwice) {
 
 TEST(SchemaImport, MakesTheCommittedTableAgain) {
   FC_SHARED_FILE_OR_SKIP(express, "IFC4X3_ADD2.exp");
-  const std::string committed = readFile(FC_SCHEMA_TABLE);
+  const std::string committed = readFile(qor::test::sourceFile("Schema/ifc4x3_add2.schema"));
   std::ostringstream again;
   writeSchemaTable(again, importSchema(readFile(express), groupsOf({committed.c_str()})));
   EXPECT_TRUE(again.str() == committed) << "run schema_import, and look at the difference";

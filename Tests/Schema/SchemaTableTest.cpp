@@ -86,7 +86,7 @@ TEST(SchemaTable, NamesTheElementThatDoesntFit) {
 }
 
 TEST(CommittedTable, HoldsTheWholeSchemaAsTheWriterWritesIt) {
-  const std::string text = qor::test::readFile(FC_SCHEMA_TABLE);
+  const std::string text = qor::test::readFile(qor::test::sourceFile("Schema/ifc4x3_add2.schema"));
   const SchemaTable table = read(text);
   EXPECT_EQ(table.name, "IFC4X3_ADD2");
   EXPECT_EQ(table.entities.size(), 876U);

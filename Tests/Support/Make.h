@@ -1,8 +1,7 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <initializer_list>
+#include <iosfwd>
 #include <memory>
 #include <string>
 #include <type_traits>
@@ -11,6 +10,13 @@
 #include "Fc/Data.h"
 #include "Fc/FcBase.h"
 #include "Fc/Reflection/MakeEntity.h"
+
+namespace qor::fc::details {
+
+/// What a failed expectation tells of a value.
+void PrintTo(const LocalValue& value, std::ostream* out);
+
+}  // namespace qor::fc::details
 
 namespace qor::test {
 
@@ -46,16 +52,7 @@ struct Attribute {
 
 /// Gives the entity these attributes; the test fails on one that its class doesn't have or that
 /// can't hold the value.
-inline void give(fc::FcBase& entity, std::initializer_list<Attribute> attributes) {
-  for (const Attribute& attribute : attributes) {
-    const object::PropertyId id(attribute.name);
-    const auto* whole = std::get_if<std::int64_t>(&attribute.value.value);
-    const bool isSet =
-        entity.setLocalValue(attribute.value, id) ||
-        (whole && entity.setLocalValue(fc::LocalValue(static_cast<double>(*whole)), id));
-    EXPECT_TRUE(isSet) << entity.ifcName() << '.' << attribute.name;
-  }
-}
+void give(fc::FcBase& entity, std::initializer_list<Attribute> attributes);
 
 /// A new entity with these attributes.
 ///

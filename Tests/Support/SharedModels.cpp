@@ -11,6 +11,8 @@ namespace fs = std::filesystem;
 
 fs::path sharedFile(const std::string& relative) { return fs::path(FC_SHARED_DIR) / relative; }
 
+fs::path sourceFile(const std::string& relative) { return fs::path(FC_SOURCE_DIR) / relative; }
+
 std::vector<fs::path> sharedModels() {
   std::vector<fs::path> models;
   if (!fs::is_directory(sharedFile("models"))) return models;

@@ -12,6 +12,9 @@ namespace qor::test {
 /// needn't be there.
 std::filesystem::path sharedFile(const std::string& relative);
 
+/// A file of the repository, such as "Examples/sample.ifc".
+std::filesystem::path sourceFile(const std::string& relative);
+
 /// All IFC files under the folder "models", sorted by path; empty when the folder isn't there.
 std::vector<std::filesystem::path> sharedModels();
 

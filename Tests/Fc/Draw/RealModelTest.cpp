@@ -25,7 +25,14 @@ class Quiet {
   Assert::Handler m_previous;
 };
 
-class DrawnRealModel : public testing::TestWithParam<std::filesystem::path> {
+/// Those that don't take too long for many walks.
+std::vector<std::filesystem::path> smallModels() {
+  std::vector<std::filesystem::path> models = test::sharedModels();
+  std::erase_if(models, [](const auto& path) { return std::filesystem::file_size(path) > 100000; });
+  return models;
+}
+
+class DrawnRealModel : public test::ModelTest {
  protected:
   const Quiet quiet;
 };
@@ -42,7 +49,6 @@ void loseAReference(std::span<const std::shared_ptr<FcBase>> entities, std::mt19
 }
 
 TEST_P(DrawnRealModel, SurvivesTheLossOfReferences) {
-  if (std::filesystem::file_size(GetParam()) > 100000) GTEST_SKIP() << "too long for many walks";
   for (std::uint32_t seed = 1; seed <= 5; ++seed) {
     std::mt19937 random(seed);
     const auto data = host::step::readStepFile(GetParam()).data;
@@ -57,9 +63,7 @@ TEST_P(DrawnRealModel, SurvivesTheLossOfReferences) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(SharedModels, DrawnRealModel, testing::ValuesIn(test::sharedModels()),
-                         test::modelTestName);
-GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(DrawnRealModel);
+FC_INSTANTIATE_FOR_MODELS(DrawnRealModel, smallModels());
 
 }  // namespace
 }  // namespace qor::fc

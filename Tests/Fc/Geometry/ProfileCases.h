@@ -17,7 +17,7 @@
 #include "Fc/Resource/Profile/FcParameterizedProfileDef.h"
 #include "Qor/Math/CurveDiscretization.h"
 
-namespace qor::fc::test {
+namespace qor::test {
 
 /// Names of attributes with their numbers, written as "XDim 2, YDim 1".
 struct Dimensions : std::vector<std::pair<std::string, double>> {
@@ -30,20 +30,22 @@ struct Dimensions : std::vector<std::pair<std::string, double>> {
 };
 
 /// A profile with dimensions, by the name of its class.
-inline std::shared_ptr<resource::profile::FcProfileDef> makeProfile(const std::string& ifcName,
-                                                                    const Dimensions& dimensions,
-                                                                    double scale = 1) {
-  const auto entity = Factory::objectFromIfcName(StringHash::of(ifcName));
+inline std::shared_ptr<fc::resource::profile::FcProfileDef> makeProfile(
+    const std::string& ifcName, const Dimensions& dimensions, double scale = 1) {
+  const auto entity = fc::Factory::objectFromIfcName(StringHash::of(ifcName));
   for (const auto& [name, value] : dimensions)
-    EXPECT_TRUE(entity->setLocalValue(LocalValue(value * scale), object::PropertyId(name))) << name;
-  return std::static_pointer_cast<resource::profile::FcProfileDef>(entity);
+    EXPECT_TRUE(entity->setLocalValue(fc::LocalValue(value * scale), object::PropertyId(name)))
+        << name;
+  return std::static_pointer_cast<fc::resource::profile::FcProfileDef>(entity);
 }
 
-inline std::shared_ptr<resource::geometry::FcAxis2Placement2D> planarPosition(double x, double y,
-                                                                              double angle) {
-  auto position = std::make_shared<resource::geometry::FcAxis2Placement2D>();
-  position->setLocation(resource::geometry::makePoint(math::Point2d(x, y)));
-  position->setRefDirection(resource::geometry::makeDirection(math::Vector2d(1, 0).rotate(angle)));
+inline std::shared_ptr<fc::resource::geometry::FcAxis2Placement2D> planarPosition(double x,
+                                                                                  double y,
+                                                                                  double angle) {
+  auto position = std::make_shared<fc::resource::geometry::FcAxis2Placement2D>();
+  position->setLocation(fc::resource::geometry::makePoint(math::Point2d(x, y)));
+  position->setRefDirection(
+      fc::resource::geometry::makeDirection(math::Vector2d(1, 0).rotate(angle)));
   return position;
 }
 
@@ -125,4 +127,4 @@ inline std::vector<ProfileCase> profileCases() {
   };
 }
 
-}  // namespace qor::fc::test
+}  // namespace qor::test

@@ -24,16 +24,16 @@
 namespace qor::fc::resource::profile {
 namespace {
 
-using fc::test::Dimensions;
-using fc::test::makeProfile;
-using fc::test::planarPosition;
-using fc::test::ProfileCase;
 using generate::draw::Profile2D;
+using qor::test::Dimensions;
+using qor::test::makeProfile;
+using qor::test::planarPosition;
+using qor::test::ProfileCase;
 using namespace math;
 using qor::test::ExpectAsserts;
 using std::numbers::pi;
 
-const FcParams kParams{fc::test::sixtyFour()};
+const FcParams kParams{qor::test::sixtyFour()};
 const math::CurveDiscretization kSixteen(1, 16, 16);
 
 double signedArea(const std::vector<Profile2D>& profiles) {
@@ -71,7 +71,7 @@ std::shared_ptr<geometry::FcPolyline> polyline(const std::vector<Point2d>& point
 
 TEST(Profiles, HaveTheAreaOfTheClosedFormulaInBothSensesAndDoNotCrossThemselves) {
   const ExpectAsserts none;
-  for (const ProfileCase& shape : fc::test::profileCases())
+  for (const ProfileCase& shape : qor::test::profileCases())
     for (const double scale : {0.01, 1.0, 40.0})
       for (const auto& position : {std::shared_ptr<geometry::FcAxis2Placement2D>(),
                                    planarPosition(7, -3, 0), planarPosition(-20, 30, 2)}) {
@@ -81,7 +81,7 @@ TEST(Profiles, HaveTheAreaOfTheClosedFormulaInBothSensesAndDoNotCrossThemselves)
         profile->setPosition(position);
         const auto areas = profile->closedProfile(kParams);
         ASSERT_EQ(areas.size(), 1u);
-        const double expected = shape.area(fc::test::piOfSixtyFour()) * scale * scale;
+        const double expected = shape.area(qor::test::piOfSixtyFour()) * scale * scale;
         EXPECT_NEAR(signedArea(areas), expected, 1e-9 * expected + 1e-13);
         EXPECT_NEAR(signedArea(profile->reversedClosedProfile(kParams)), -expected,
                     1e-9 * expected + 1e-13);
@@ -96,7 +96,7 @@ TEST(Profiles, HaveTheAreaOfTheClosedFormulaInBothSensesAndDoNotCrossThemselves)
 }
 
 TEST(Profiles, AreMovedAndTurnedByTheirPosition) {
-  for (const ProfileCase& shape : fc::test::profileCases()) {
+  for (const ProfileCase& shape : qor::test::profileCases()) {
     if (std::string(shape.ifcName) == "IfcTrapeziumProfileDef") continue;  // is moved alone
     const auto profile = std::static_pointer_cast<FcParameterizedProfileDef>(
         makeProfile(shape.ifcName, shape.dimensions));
@@ -114,7 +114,7 @@ TEST(Profiles, AreMovedAndTurnedByTheirPosition) {
 }
 
 TEST(Profiles, AsCurvesSpanTheSameAreaWhereTheyKeepTheirFillets) {
-  for (const ProfileCase& shape : fc::test::profileCases()) {
+  for (const ProfileCase& shape : qor::test::profileCases()) {
     const std::string name = shape.ifcName;
     if (name == "IfcEllipseProfileDef" || name == "IfcTrapeziumProfileDef") {
       const auto profile = makeProfile(name, shape.dimensions);
@@ -131,7 +131,7 @@ TEST(Profiles, AsCurvesSpanTheSameAreaWhereTheyKeepTheirFillets) {
       const double ring = Polygon2d(*points).signedArea();
       area += area == 0 ? ring : -ring;
     }
-    EXPECT_NEAR(area, shape.area(fc::test::piOfSixtyFour()), 1e-9) << name;
+    EXPECT_NEAR(area, shape.area(qor::test::piOfSixtyFour()), 1e-9) << name;
   }
 }
 
@@ -276,7 +276,7 @@ TEST(Profiles, WithBadDimensionsReportThemAndStayFinite) {
   Assert::setEnabled(false);
   const double inf = std::numeric_limits<double>::infinity(),
                nan = std::numeric_limits<double>::quiet_NaN();
-  for (const ProfileCase& shape : fc::test::profileCases())
+  for (const ProfileCase& shape : qor::test::profileCases())
     for (std::size_t i = 0; i < shape.dimensions.size(); ++i)
       for (const double value : {0.0, -1.0, 1e9, 1e-12, nan, inf}) {
         Dimensions dimensions = shape.dimensions;

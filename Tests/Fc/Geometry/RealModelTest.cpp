@@ -85,12 +85,12 @@ const std::map<std::string, int> openInTheFile{
     {"AC20-FZK-Haus.ifc", 1},      // four faces meet at one edge
     {"Ifc4_SampleHouse.ifc", 1}};  // the front of a roof twice, once within the body
 
-class RealModel : public testing::TestWithParam<std::filesystem::path> {
+class RealModelGeometry : public test::ModelTest {
  protected:
   const std::shared_ptr<Data> data = host::step::readStepFile(GetParam()).data;
 };
 
-TEST_P(RealModel, OpensEachProductWhereItsNumbersSayWithinTheFrameOfTheTarget) {
+TEST_P(RealModelGeometry, OpensEachProductWhereItsNumbersSayWithinTheFrameOfTheTarget) {
   const Matrix outer = Matrix::createZRotate(0.3) * Matrix::createTranslation({5, -7, 2});
   DrawStatus status;
   for (const std::shared_ptr<FcProduct> product : data->entities<FcProduct>())
@@ -113,7 +113,7 @@ TEST_P(RealModel, OpensEachProductWhereItsNumbersSayWithinTheFrameOfTheTarget) {
   EXPECT_EQ(opened, products.size());
 }
 
-TEST_P(RealModel, AnswersForEachCurve) {
+TEST_P(RealModelGeometry, AnswersForEachCurve) {
   for (const std::shared_ptr<FcCurve> curve : data->entities<FcCurve>()) {
     const auto points = curve->curveGet(params, {}, {}, false);
     for (const Point3d& point : points)
@@ -126,7 +126,7 @@ TEST_P(RealModel, AnswersForEachCurve) {
   }
 }
 
-TEST_P(RealModel, FacetedBrepsAreClosedAndLookOutward) {
+TEST_P(RealModelGeometry, FacetedBrepsAreClosedAndLookOutward) {
   const test::ExpectAsserts noAsserts;
   int open = 0;
   for (const auto& brep : data->entities<FcFacetedBrep>()) {
@@ -142,7 +142,7 @@ TEST_P(RealModel, FacetedBrepsAreClosedAndLookOutward) {
   EXPECT_EQ(open, known == openInTheFile.end() ? 0 : known->second);
 }
 
-TEST_P(RealModel, TessellatedSetsDrawEachFaceThatTheyHold) {
+TEST_P(RealModelGeometry, TessellatedSetsDrawEachFaceThatTheyHold) {
   const test::ExpectAsserts noAsserts;
   for (const auto& set : data->entities<FcTessellatedFaceSet>()) {
     MaterialRecorder target;
@@ -159,9 +159,7 @@ TEST_P(RealModel, TessellatedSetsDrawEachFaceThatTheyHold) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Geometry, RealModel, testing::ValuesIn(test::sharedModels()),
-                         test::modelTestName);
-GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(RealModel);
+FC_INSTANTIATE_FOR_MODELS(RealModelGeometry, test::sharedModels());
 
 }  // namespace
 }  // namespace qor::fc::resource::geometry

@@ -22,8 +22,8 @@
 namespace qor::fc::resource::geometricmodel {
 namespace {
 
-using fc::test::makeProfile;
-using fc::test::ProfileCase;
+using qor::test::makeProfile;
+using qor::test::ProfileCase;
 using namespace geometry;
 using namespace math;
 using profile::FcProfileDef;
@@ -35,11 +35,11 @@ using qor::test::SolidMesh;
 using std::numbers::pi;
 using Points3d = std::vector<Point3d>;
 
-const FcParams kParams{fc::test::sixtyFour()};
+const FcParams kParams{qor::test::sixtyFour()};
 
 /// All that an item draws, in the frame around it; with the box of it.
 struct Drawing {
-  explicit Drawing(const geometry::FcRepresentationItem& item) : recorder(fc::test::sixtyFour()) {
+  explicit Drawing(const geometry::FcRepresentationItem& item) : recorder(qor::test::sixtyFour()) {
     recorder.draw(item);
     EXPECT_TRUE(recorder.transformationGet().isIdentity()) << "the frame isn't given back";
     for (const auto& set : recorder.polygonalSets) {
@@ -101,14 +101,14 @@ TEST(ExtrudedAreaSolid, OfEveryProfileIsClosedAndOfAreaTimesHeightWithinItsBox) 
   const std::set<std::string> boxed{"IfcRectangleProfileDef", "IfcIShapeProfileDef",
                                     "IfcZShapeProfileDef"};
   const Vector3d directions[] = {{0, 0, 1}, {0, 0, -1}, {0, 0, 5}, {0.4, -0.2, 1}, {0.4, -0.2, -1}};
-  for (const ProfileCase& shape : fc::test::profileCases())
+  for (const ProfileCase& shape : qor::test::profileCases())
     for (const Vector3d& direction : directions) {
       const auto solid = extrusion(makeProfile(shape.ifcName, shape.dimensions), direction, 3);
       solid->setPosition(slantedPosition());
       const Drawing drawing(*solid);
       const double height = 3 * std::abs(direction.normalized().z);
-      EXPECT_TRUE(
-          isClosedSolidOfVolume(drawing.mesh, shape.area(fc::test::piOfSixtyFour()) * height, 1e-9))
+      EXPECT_TRUE(isClosedSolidOfVolume(drawing.mesh,
+                                        shape.area(qor::test::piOfSixtyFour()) * height, 1e-9))
           << shape.ifcName << " along " << direction.x << " " << direction.z;
       if (boxed.count(shape.ifcName)) expectInItsBox(*solid, drawing);
     }
@@ -296,7 +296,7 @@ TEST(RevolvedAreaSolidTapered, StandsFullTurnsToo) {
 
 TEST(FixedReferenceSweptAreaSolid, FollowsItsCurveWithinItsBox) {
   const ExpectAsserts none;
-  for (const ProfileCase& shape : fc::test::profileCases()) {
+  for (const ProfileCase& shape : qor::test::profileCases()) {
     if (std::string(shape.ifcName).find("IShape") == std::string::npos) continue;
     FcFixedReferenceSweptAreaSolid solid;
     solid.setPosition(slantedPosition());
@@ -326,7 +326,7 @@ TEST(FixedReferenceSweptAreaSolid, TellsWhatIsMissingAndIgnoresTrims) {
 
 TEST(SweptDiskSolid, KeepsItsVolumeRoundBendsAndRings) {
   const ExpectAsserts none;
-  const double section = fc::test::piOfSixtyFour() * (0.04 - 0.01);
+  const double section = qor::test::piOfSixtyFour() * (0.04 - 0.01);
   const std::pair<std::shared_ptr<geometry::FcCurve>, double> curvesAndLengths[] = {
       {polyline(Points3d{{0, 0, 0}, {3, 0, 0}, {3, 3, 0}}), 6},
       {polyline(Points3d{{0, 0, 0}, {0, 0, 3}}), 3},
@@ -363,11 +363,12 @@ TEST(SweptDiskSolidPolygonal, RoundsItsCorners) {
   FcSweptDiskSolidPolygonal bar;
   bar.setDirectrix(polyline(Points3d{{0, 0, 0}, {2, 0, 0}, {4, 0, 0}, {4, 3, 0}}));
   bar.setRadius(0.1);
-  EXPECT_TRUE(isClosedSolidOfVolume(Drawing(bar).mesh, fc::test::piOfSixtyFour() * 0.01 * 7, 1e-6));
+  EXPECT_TRUE(
+      isClosedSolidOfVolume(Drawing(bar).mesh, qor::test::piOfSixtyFour() * 0.01 * 7, 1e-6));
   bar.setFilletRadius(measure::FcNonNegativeLengthMeasure(1.0));
   EXPECT_EQ(bar.getDirectrixAsIndexedPolyCurve(kParams)->Segments()->size(), 3u);
   EXPECT_TRUE(isClosedSolidOfVolume(Drawing(bar).mesh,
-                                    fc::test::piOfSixtyFour() * 0.01 * (3 + 2 + pi / 2), 1e-3));
+                                    qor::test::piOfSixtyFour() * 0.01 * (3 + 2 + pi / 2), 1e-3));
 }
 
 TEST(SweptSolids, WithNumbersThatAreNoneDrawNothingOfThem) {

@@ -146,7 +146,7 @@ TEST(MeasureQuantities, AreNoneForAllOtherMeasures) {
   EXPECT_EQ(FcDerivedMeasureValue().createQuantityPresentation(), nullptr);
 }
 
-TEST(Value, OfASimpleTypeIsShownOnlyWhenItIsAReal) {
+TEST(ShownValue, OfASimpleTypeIsShownOnlyWhenItIsAReal) {
   const test::ExpectAsserts none;
   for (const std::string& name : FcSimpleValue::enumNames()) {
     SCOPED_TRACE(name);
@@ -163,7 +163,7 @@ TEST(Value, OfASimpleTypeIsShownOnlyWhenItIsAReal) {
     EXPECT_EQ(helper::appendUnit(2.5, noType), std::nullopt) << noType;
 }
 
-TEST(Value, IsShownAsTheHostsSettingsSay) {
+TEST(ShownValue, IsShownAsTheHostsSettingsSay) {
   unit::QuantityBase& length = unit::QuantityBase::registered<unit::Length>();
   ASSERT_TRUE(length.setQppDefault({{"ft", 0.3048}, 1}));
   EXPECT_EQ(helper::appendUnit(3.048, "LengthMeasure"), "10.0 ft");

@@ -6,9 +6,14 @@
 
 // What must hold for each of the schema's relationships, whatever the classes: all through
 // reflection.
-namespace qor::fc::test {
+namespace qor::fc {
 namespace {
 
+using test::Entities;
+using test::holdersOf;
+using test::listOf;
+using test::reached;
+using test::valueOf;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::UnorderedElementsAre;
@@ -211,4 +216,4 @@ TEST(EveryRelationship, CanNotBeWrittenFromItsInverseSide) {
 }
 
 }  // namespace
-}  // namespace qor::fc::test
+}  // namespace qor::fc

@@ -43,12 +43,12 @@ std::set<std::string> namesIn(const FcPropertySet& set) {
   return names;
 }
 
-class RealModel : public testing::TestWithParam<std::filesystem::path> {
+class RealModelPropertySets : public test::ModelTest {
  protected:
   const std::shared_ptr<Data> data = host::step::readStepFile(GetParam()).data;
 };
 
-TEST_P(RealModel, TellsEachSetOnEachOfItsObjects) {
+TEST_P(RealModelPropertySets, TellsEachSetOnEachOfItsObjects) {
   std::multiset<Attachment> found;
   for (const std::shared_ptr<FcObjectDefinition> object : data->entities<FcObjectDefinition>())
     for (const auto& set : object->getPropertySetDefinitions<FcPropertySetDefinition>()) {
@@ -61,7 +61,7 @@ TEST_P(RealModel, TellsEachSetOnEachOfItsObjects) {
   EXPECT_EQ(found, attachmentsOf(*data));
 }
 
-TEST_P(RealModel, MergesEachSetWithThatOfTheType) {
+TEST_P(RealModelPropertySets, MergesEachSetWithThatOfTheType) {
   for (const std::shared_ptr<FcProduct> product : data->entities<FcProduct>()) {
     const auto type = fcCast<const FcTypeProduct>(product->getTypeObject());
     for (const auto& each : product->getPropertySetDefinitions<FcPropertySet>()) {
@@ -78,9 +78,7 @@ TEST_P(RealModel, MergesEachSetWithThatOfTheType) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Models, RealModel, testing::ValuesIn(test::sharedModels()),
-                         test::modelTestName);
-GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(RealModel);
+FC_INSTANTIATE_FOR_MODELS(RealModelPropertySets, test::sharedModels());
 
 }  // namespace
 }  // namespace qor::fc

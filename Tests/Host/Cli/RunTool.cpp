@@ -22,7 +22,9 @@ ToolRun runTool(const std::vector<std::string>& arguments, bool showProgress) {
   return {code, out.str(), err.str()};
 }
 
-std::string sampleFile() { return SAMPLE_FILE; }
+nlohmann::json ToolRun::json() const { return nlohmann::json::parse(out); }
+
+std::string sampleFile() { return sourceFile("Examples/sample.ifc").string(); }
 
 ScratchFolder::ScratchFolder() {
   const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();

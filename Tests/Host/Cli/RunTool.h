@@ -16,7 +16,7 @@ struct ToolRun {
   std::string out;
   std::string err;
 
-  nlohmann::json json() const { return nlohmann::json::parse(out); }
+  nlohmann::json json() const;
 };
 
 /// Runs `fctool` in this process: `runTool({"info", file})`.

@@ -15,7 +15,8 @@ using math::Matrix;
 using math::Point3d;
 
 constexpr Pixel white{255, 255, 255, 255};
-constexpr SceneMaterial red{1, 0, 0, 1}, green{0, 1, 0, 1}, glass{0, 0, 1, 0.5f};
+constexpr SceneMaterial redMaterial{1, 0, 0, 1}, greenMaterial{0, 1, 0, 1},
+    glassMaterial{0, 0, 1, 0.5f};
 
 /// A scene of rectangles that lie flat, each an object.
 struct Rectangles {
@@ -41,8 +42,8 @@ bool isMostly(const Pixel& pixel, std::size_t channel) {
 TEST(Picture, ShowsTheNearerInFrontInAnyOrder) {
   for (const bool redFirst : {true, false}) {
     Rectangles model;
-    if (redFirst) model.add(0, 0, 0, 10, 10, red).add(0, 0, 1, 5, 10, green);
-    if (!redFirst) model.add(0, 0, 1, 5, 10, green).add(0, 0, 0, 10, 10, red);
+    if (redFirst) model.add(0, 0, 0, 10, 10, redMaterial).add(0, 0, 1, 5, 10, greenMaterial);
+    if (!redFirst) model.add(0, 0, 1, 5, 10, greenMaterial).add(0, 0, 0, 10, 10, redMaterial);
     const Image picture = pictureOf(model.scene, View::plan, 200, 200);
     EXPECT_TRUE(isMostly(picture.at(50, 100), 1)) << "the higher one on the left";
     EXPECT_TRUE(isMostly(picture.at(150, 100), 0));
@@ -53,7 +54,7 @@ TEST(Picture, ShowsTheNearerInFrontInAnyOrder) {
 
 TEST(Picture, ShowsWhatIsBehindGlass) {
   Rectangles model;
-  model.add(0, 0, 1, 5, 10, glass).add(0, 0, 0, 10, 10, red);
+  model.add(0, 0, 1, 5, 10, glassMaterial).add(0, 0, 0, 10, 10, redMaterial);
   const Image picture = pictureOf(model.scene, View::plan, 200, 200);
   const Pixel behind = picture.at(50, 100), bare = picture.at(150, 100);
   EXPECT_NEAR(behind[0], bare[0] / 2, 4);
@@ -63,7 +64,7 @@ TEST(Picture, ShowsWhatIsBehindGlass) {
 TEST(Picture, LooksFromTheSideThatTheViewNames) {
   // A plate along X and Y that reaches up at its far right corner.
   Scene scene;
-  scene.materials = {red};
+  scene.materials = {redMaterial};
   scene.objects.resize(1);
   scene.objects[0].content.mesh = {
       {{0, 0, 0}, {10, 0, 0}, {10, 10, 0}, {10, 10, 10}}, {0, 1, 2, 1, 2, 3, 0, 2, 3}, {{0, 0, 3}}};
@@ -84,7 +85,7 @@ TEST(Picture, LooksFromTheSideThatTheViewNames) {
 
 TEST(Picture, DrawsBlocksWithTheMaterialOfTheirUse) {
   Scene scene;
-  scene.materials = {red, green};
+  scene.materials = {redMaterial, greenMaterial};
   scene.blocks.resize(1);
   scene.blocks[0].mesh = {{{0, 0, 0}, {1, 0, 0}, {1, 1, 0}, {0, 1, 0}},
                           {0, 1, 2, 0, 2, 3},
@@ -100,7 +101,7 @@ TEST(Picture, DrawsBlocksWithTheMaterialOfTheirUse) {
 TEST(Picture, LeavesNoGapBetweenTrianglesOfASurface) {
   // A fan of thin triangles around a point that lies on no sample.
   Scene scene;
-  scene.materials = {red};
+  scene.materials = {redMaterial};
   scene.objects.resize(1);
   Mesh& mesh = scene.objects[0].content.mesh;
   mesh.points.push_back({0.0123, 0.0456, 0});
@@ -119,9 +120,9 @@ TEST(Picture, LeavesNoGapBetweenTrianglesOfASurface) {
 
 TEST(Picture, DrawsLinesOnSurfacesInFrontOfThem) {
   Rectangles model;
-  model.add(0, 0, 0, 10, 10, red);
+  model.add(0, 0, 0, 10, 10, redMaterial);
   model.scene.objects[0].content.lines = {{1, {{0, 5, 0}, {10, 5, 0}}}};
-  model.scene.materials.push_back(green);
+  model.scene.materials.push_back(greenMaterial);
   for (const View view : {View::plan, View::iso})
     EXPECT_TRUE(isMostly(pictureOf(model.scene, view, 200, 200).at(100, 100), 1));
 }
