@@ -14,7 +14,7 @@ build=$root/build/cost
 rm -rf "$build"
 mkdir -p "$build"
 
-# Stands before each call of the compiler: a line with its user and system seconds, its source ("-" for a link) and its output.
+# Stands before each call of the compiler: a line with its user and system seconds, its source and its output.
 export FC_COST_LOG=$build/cost.log
 cat > "$build/timed" << 'LAUNCHER'
 #!/usr/bin/env bash
@@ -22,7 +22,7 @@ TIMEFORMAT='%3U %3S'
 exec 3>&1 4>&2
 status=0
 spent=$({ time "$@" 1>&3 2>&4 3>&- 4>&-; } 2>&1) || status=$?
-source=- output=-
+source= output=
 while (($# > 1)); do
   case $1 in
     -c) source=$2 ;;
@@ -35,8 +35,8 @@ exit "$status"
 LAUNCHER
 chmod +x "$build/timed"
 
-cmake -S "$root" --preset "$preset" -B "$build" -DFC_CCACHE= \
-  -DCMAKE_CXX_COMPILER_LAUNCHER="$build/timed" -DCMAKE_CXX_LINKER_LAUNCHER="$build/timed" >&2
+cmake -S "$root" --preset "$preset" -B "$build" \
+  -DCMAKE_CXX_COMPILER_LAUNCHER="$build/timed" >&2
 exec 3>&2
 TIMEFORMAT='%0R %0U %0S'
 whole=$({ time cmake --build "$build" ${targets:+--target "${targets[@]}"} >&3 2>&3; } 2>&1)
@@ -65,7 +65,7 @@ awk -v root="$root/" -v build="$build/" -v whole="$whole" '
   }
   {
     spent = $1 + $2
-    name = $3 == "-" ? "links" : room($3)
+    name = room($3)
     seconds[name] += spent
     ++units[name]
     all += spent
@@ -83,6 +83,6 @@ awk -v root="$root/" -v build="$build/" -v whole="$whole" '
     }
     close("sort")
     split(whole, total)
-    printf "\nAll compilations and links: %.0f CPU seconds. The whole build: %d CPU seconds, %d s on the clock.\n", all,
+    printf "\nAll compilations: %.0f CPU seconds. The whole build: %d CPU seconds, %d s on the clock.\n", all,
       total[2] + total[3], total[1]
   }' "$FC_COST_LOG"
