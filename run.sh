@@ -19,14 +19,13 @@ fi
 
 # Standard output is for what fctool tells.
 bash "$root/cmake/packages.sh" build
-cmake -S "$root" --preset release -B "$root/build/run" -DFC_BUILD_TESTS=OFF \
-  -DCMAKE_RUNTIME_OUTPUT_DIRECTORY="$root/build/run/bin" >&2
-cmake --build "$root/build/run" --target fctool >&2
+cmake -S "$root" -B "$root/build/release" -G Ninja -DCMAKE_BUILD_TYPE=Release >&2 # whether tests are built stays as it is
+cmake --build "$root/build/release" --target fctool >&2
 
 worst=0
 fctool() {
   local code=0
-  "$root/build/run/bin/fctool" "$@" || code=$?
+  "$root/build/release/Host/Cli/fctool" "$@" || code=$?
   ((code < 2)) || exit "$code"
   ((code <= worst)) || worst=$code
 }

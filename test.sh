@@ -6,10 +6,4 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 bash cmake/packages.sh build test
 cmake --preset release
 cmake --build --preset release
-
-# A bounded fuzz run, in a build of its own; what it finds fails here, before the tests.
-if [[ -f cmake/fuzz.sh ]]; then
-  bash cmake/fuzz.sh
-fi
-
 ctest --test-dir build/release --output-on-failure --parallel "$(nproc)"

@@ -7,6 +7,7 @@ include(CMakePackageConfigHelpers)
 set(FC_PACKAGE_DIR lib/cmake/Fc)
 
 install(DIRECTORY Qor Fc "${CMAKE_BINARY_DIR}/generated/Fc" DESTINATION include FILES_MATCHING PATTERN "*.h")
+export(EXPORT FcTargets NAMESPACE Fc:: FILE "${CMAKE_BINARY_DIR}/FcTargets.cmake") # for FC_PREBUILT
 install(EXPORT FcTargets NAMESPACE Fc:: DESTINATION ${FC_PACKAGE_DIR})
 
 configure_package_config_file(cmake/FcConfig.cmake.in "${CMAKE_BINARY_DIR}/FcConfig.cmake"

@@ -13,8 +13,10 @@ endif()
 
 find_program(FC_CCACHE ccache)
 if(FC_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  # Without these ccache passes on every source that uses a precompiled header.
-  set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env "CCACHE_SLOPPINESS=pch_defines,time_macros" "${FC_CCACHE}")
+  # Without the first ccache passes on every source that uses a precompiled header; the second, which trusts the compiler's list of
+  # headers, saves a run of the preprocessor for each unit that isn't in the cache.
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env "CCACHE_SLOPPINESS=pch_defines,time_macros" CCACHE_DEPEND=1
+    "${FC_CCACHE}")
 endif()
 
 if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
@@ -25,9 +27,6 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
   add_link_options(LINKER:-Bsymbolic-functions)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     add_compile_options(-Wno-restrict) # false alarms on short literals at -O3 in GCC 12
-  endif()
-  if(FC_CCACHE AND CMAKE_CXX_COMPILER_ID MATCHES "GNU")
-    add_compile_options(-fpch-preprocess) # ccache can only cache users of a precompiled header with it
   endif()
   find_program(FC_MOLD mold)
   if(FC_MOLD)

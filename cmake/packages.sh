@@ -2,22 +2,26 @@
 # Installs the Debian packages that the project stands on. Quick, and without the network, when all are there.
 #   cmake/packages.sh build         what building takes
 #   cmake/packages.sh build test    what building and testing take
+#   ... bench, ... fuzz             what benchmarks and fuzzing take beyond that
 set -euo pipefail
 
 build=(g++ cmake ninja-build ccache mold
   libocct-foundation-dev libocct-modeling-data-dev libocct-modeling-algorithms-dev
   libocct-visualization-dev # holds a header that those of the modelling data include
-  libtbb-dev libfmt-dev libspdlog-dev libcli11-dev nlohmann-json3-dev libpugixml-dev libpng-dev
+  libtbb-dev libfmt-dev libcli11-dev nlohmann-json3-dev libpugixml-dev libpng-dev
   libglu1-mesa-dev libtinygltf-dev)
-test=(libgtest-dev libgmock-dev libbenchmark-dev
-  clang libclang-rt-14-dev) # clang builds the fuzz targets
+test=(libgtest-dev libgmock-dev)
+bench=(libbenchmark-dev)
+fuzz=(clang libclang-rt-14-dev)
 
 wanted=()
 for group in "$@"; do
   case $group in
     build) wanted+=("${build[@]}") ;;
     test) wanted+=("${test[@]}") ;;
-    *) echo "packages.sh: no group '$group'; there are: build, test" >&2; exit 2 ;;
+    bench) wanted+=("${bench[@]}") ;;
+    fuzz) wanted+=("${fuzz[@]}") ;;
+    *) echo "packages.sh: no group '$group'; there are: build, test, bench, fuzz" >&2; exit 2 ;;
   esac
 done
 

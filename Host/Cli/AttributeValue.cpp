@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <iterator>
 #include <memory>
+#include <nlohmann/json.hpp>
 #include <span>
 #include <type_traits>
 #include <utility>

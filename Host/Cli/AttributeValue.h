@@ -2,7 +2,7 @@
 
 #include <cstdint>
 #include <functional>
-#include <nlohmann/json.hpp>
+#include <nlohmann/json_fwd.hpp>
 #include <string>
 
 #include "Fc/Reflection/AttributeInfo.h"

@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <nlohmann/json.hpp>
 #include <variant>
 
 #include "Fc/Core/Kernel/FcRoot.h"
@@ -32,6 +33,10 @@ nlohmann::ordered_json jsonLabel(const fc::FcBase& entity, std::uint64_t number)
     json["guid"] = root->GlobalId().toString(false);
   if (auto name = nameOf(entity)) json["name"] = std::move(*name);
   return json;
+}
+
+std::string toLine(const nlohmann::ordered_json& json) {
+  return json.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
 }
 
 std::string toText(const nlohmann::ordered_json& json) {

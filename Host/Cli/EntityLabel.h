@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstdint>
-#include <nlohmann/json.hpp>
+#include <nlohmann/json_fwd.hpp>
 #include <optional>
 #include <string>
 
@@ -19,6 +19,9 @@ std::string label(const fc::FcBase& entity, std::uint64_t number);
 /// {"id": 12, "class": "IFCWALL", "guid": "1ND...", "name": "South wall"}; what an entity doesn't
 /// have is left out.
 nlohmann::ordered_json jsonLabel(const fc::FcBase& entity, std::uint64_t number);
+
+/// Without any white space between its parts.
+std::string toLine(const nlohmann::ordered_json& json);
 
 /// Indented by two spaces, with a line feed at the end.
 std::string toText(const nlohmann::ordered_json& json);

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <memory>
+#include <nlohmann/json.hpp>
 #include <optional>
 #include <ostream>
 

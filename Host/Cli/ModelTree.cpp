@@ -31,9 +31,10 @@ auto inOrder(Range&& range, const NumberOf& numberOf) {
   return sorted;
 }
 
-class Walk {
+class TreeWalk {
  public:
-  Walk(const fc::Data& data, const NumberOf& numberOf, fc::FunctionRef<bool(const TreeNode&)> visit)
+  TreeWalk(const fc::Data& data, const NumberOf& numberOf,
+           fc::FunctionRef<bool(const TreeNode&)> visit)
       : m_data(data), m_numberOf(numberOf), m_visit(visit) {}
 
   void run() {
@@ -130,7 +131,7 @@ const char* nameOf(TreeRelation relation) {
 
 void walkModelTree(const fc::Data& data, const NumberOf& numberOf,
                    fc::FunctionRef<bool(const TreeNode&)> visit) {
-  Walk(data, numberOf, visit).run();
+  TreeWalk(data, numberOf, visit).run();
 }
 
 }  // namespace qor::host::cli

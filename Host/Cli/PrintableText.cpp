@@ -2,8 +2,6 @@
 
 #include <fmt/format.h>
 
-#include <iterator>
-
 #include "Qor/String/Utf8.h"
 
 namespace qor::host::cli {
@@ -22,7 +20,7 @@ void appendEscape(std::string& out, char32_t control) {
       out += "\\t";
       break;
     default:
-      fmt::format_to(std::back_inserter(out), "\\u{:04X}", static_cast<std::uint32_t>(control));
+      out += fmt::format("\\u{:04X}", static_cast<std::uint32_t>(control));
   }
 }
 

@@ -102,7 +102,7 @@ class JsonOutput : public Output {
  public:
   JsonOutput(const std::string& file, const NumberOf& numberOf, std::ostream& out)
       : m_numberOf(numberOf), m_out(out) {
-    m_out << "{\n  \"file\": " << inOneLine(file) << ",\n  \"objects\": [";
+    m_out << "{\n  \"file\": " << toLine(file) << ",\n  \"objects\": [";
   }
   JsonOutput(const JsonOutput&) = delete;
   JsonOutput& operator=(const JsonOutput&) = delete;
@@ -112,14 +112,11 @@ class JsonOutput : public Output {
     Json json = holder.entity ? labelOf(*holder.entity) : Json{{"id", nullptr}};
     json["sets"] = Json::array();
     for (const PropertyTable& table : holder.tables) json["sets"].push_back(setJson(table));
-    m_out << m_separator << "    " << inOneLine(json);
+    m_out << m_separator << "    " << toLine(json);
     m_separator = ",\n";
   }
 
  private:
-  static std::string inOneLine(const Json& json) {
-    return json.dump(-1, ' ', false, Json::error_handler_t::replace);
-  }
   Json labelOf(const fc::FcBase& entity) const { return jsonLabel(entity, m_numberOf(entity)); }
 
   Json setJson(const PropertyTable& table) const {
@@ -148,9 +145,10 @@ class JsonOutput : public Output {
 };
 
 /// All that has properties in a model, and in the end what was left over.
-class Walk {
+class PropertiesWalk {
  public:
-  Walk(const step::ReadResult& model, const NumberOf& numberOf, std::ostream& out, Output& output)
+  PropertiesWalk(const step::ReadResult& model, const NumberOf& numberOf, std::ostream& out,
+                 Output& output)
       : m_model(model), m_numberOf(numberOf), m_out(out), m_output(output) {}
 
   void run() {
@@ -244,7 +242,7 @@ ExitCode runProperties(const PropertiesOptions& options, Console& console) {
   if (object)
     output->put({object, propertySetsOf(*object, numberOf)});
   else
-    Walk(*model, numberOf, console.out, *output).run();
+    PropertiesWalk(*model, numberOf, console.out, *output).run();
   return exitCodeOf(*model);
 }
 

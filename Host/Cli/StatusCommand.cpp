@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <nlohmann/json.hpp>
 #include <ostream>
 #include <string_view>
 #include <variant>

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <nlohmann/json.hpp>
 #include <ostream>
 #include <string>
 
@@ -37,13 +38,11 @@ void printText(const fc::Data& data, const NumberOf& numberOf, std::ostream& out
   });
 }
 
+using Json = nlohmann::ordered_json;
+
 void printJson(const std::string& file, const fc::Data& data, const NumberOf& numberOf,
                std::ostream& out) {
-  using Json = nlohmann::ordered_json;
-  const auto inOneLine = [](const Json& json) {
-    return json.dump(-1, ' ', false, Json::error_handler_t::replace);
-  };
-  out << "{\n  \"file\": " << inOneLine(file) << ",\n  \"nodes\": [";
+  out << "{\n  \"file\": " << toLine(file) << ",\n  \"nodes\": [";
   const char* separator = "\n";
   walkModelTree(data, numberOf, [&](const TreeNode& node) {
     Json json = jsonLabel(*node.object, numberOf(*node.object));
@@ -51,7 +50,7 @@ void printJson(const std::string& file, const fc::Data& data, const NumberOf& nu
     json["parent"] = node.parent ? Json(numberOf(*node.parent)) : Json();
     json["relation"] = nameOf(node.relation);
     json["repeated"] = node.repeated;
-    out << separator << "    " << inOneLine(json);
+    out << separator << "    " << toLine(json);
     separator = ",\n";
     return out.good();
   });

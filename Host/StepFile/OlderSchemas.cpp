@@ -12,16 +12,16 @@ constexpr auto ifc2x3 = static_cast<std::uint8_t>(SchemaVersion::ifc2x3);
 constexpr auto ifc4 = static_cast<std::uint8_t>(SchemaVersion::ifc4);
 constexpr auto candidate = static_cast<std::uint8_t>(SchemaVersion::ifc4x3Candidate);
 constexpr std::uint8_t upToIfc4 = ifc2x3 | ifc4;
-constexpr std::uint8_t older = upToIfc4 | candidate;
+constexpr std::uint8_t allOlder = upToIfc4 | candidate;
 
 // Trailing attributes that an older schema doesn't have yet need no row, nor do attributes with
 // another name in the same place.
 constexpr std::array rows = {
     // Each style assignment stands for its styles.
-    OlderClass{older, "IFCPRESENTATIONSTYLEASSIGNMENT", unwrapped},
+    OlderClass{allOlder, "IFCPRESENTATIONSTYLEASSIGNMENT", unwrapped},
 
     // Elements
-    OlderClass{older, "IFCPROXY", "IfcBuildingElementProxy", "@IfcProduct -ProxyType Tag"},
+    OlderClass{allOlder, "IFCPROXY", "IfcBuildingElementProxy", "@IfcProduct -ProxyType Tag"},
     OlderClass{ifc4, "IFCBEAMSTANDARDCASE", "IfcBeam"},
     OlderClass{ifc4, "IFCCOLUMNSTANDARDCASE", "IfcColumn"},
     OlderClass{ifc4, "IFCDOORSTANDARDCASE", "IfcDoor"},
@@ -49,10 +49,10 @@ constexpr std::array rows = {
 
     // Types
     OlderClass{
-        older, "IFCDOORSTYLE", "IfcDoorType",
+        allOlder, "IFCDOORSTYLE", "IfcDoorType",
         "@IfcTypeProduct OperationType -ConstructionType ParameterTakesPrecedence -Sizeable"},
     OlderClass{
-        older, "IFCWINDOWSTYLE", "IfcWindowType",
+        allOlder, "IFCWINDOWSTYLE", "IfcWindowType",
         "@IfcTypeProduct -ConstructionType PartitioningType ParameterTakesPrecedence -Sizeable"},
     OlderClass{ifc2x3, "IFCGASTERMINALTYPE", "IfcBurnerType"},
 
@@ -194,7 +194,7 @@ constexpr std::array rows = {
                "TranslationalStiffnessByAreaZ:IFCMODULUSOFSUBGRADEREACTIONMEASURE"},
 
     // Properties, quantities and what they refer to
-    OlderClass{older, "IFCQUANTITYCOUNT", "IfcQuantityCount",
+    OlderClass{allOlder, "IFCQUANTITYCOUNT", "IfcQuantityCount",
                "@IfcPhysicalSimpleQuantity CountValue% Formula"},
     OlderClass{ifc2x3, "IFCEXTENDEDMATERIALPROPERTIES", "IfcMaterialProperties",
                "Material Properties Description Name"},

@@ -25,7 +25,7 @@ const FileAttribute noAttribute;
 
 bool isHexDigit(char c) { return isDigit(c) || (c >= 'A' && c <= 'F') || (c >= 'a' && c <= 'f'); }
 
-std::uint8_t hexDigit(char c) {
+std::uint8_t valueOfDigit(char c) {
   return static_cast<std::uint8_t>(c <= '9' ? c - '0' : (c | 0x20) - 'a' + 10);
 }
 
@@ -283,9 +283,9 @@ void ParameterSource::takeBinary(std::vector<std::uint8_t>& out) {
     });
   }
   out.reserve(static_cast<std::size_t>(end - digit + 1) / 2);
-  if ((end - digit) % 2 != 0) out.push_back(hexDigit(*digit++));
+  if ((end - digit) % 2 != 0) out.push_back(valueOfDigit(*digit++));
   for (; digit != end; digit += 2)
-    out.push_back(static_cast<std::uint8_t>(hexDigit(digit[0]) << 4 | hexDigit(digit[1])));
+    out.push_back(static_cast<std::uint8_t>(valueOfDigit(digit[0]) << 4 | valueOfDigit(digit[1])));
 }
 
 const std::shared_ptr<fc::FcBase>* ParameterSource::takeEntity() {

@@ -14,7 +14,6 @@ namespace {
 using math::Point3d;
 using math::Vector3d;
 
-constexpr double samePlace = 1e-6;
 const double flat = std::cos(25 * 3.14159265358979 / 180);
 
 struct Edge {
@@ -26,7 +25,7 @@ struct Edge {
 
 std::vector<Edge> edgesOf(const std::vector<Point3d>& points,
                           const std::vector<std::uint32_t>& triangles) {
-  PointWelder welder(samePlace);
+  PointWelder welder(PointWelder::samePlace);
   std::vector<Edge> edges;
   edges.reserve(triangles.size());
   for (std::size_t i = 0; i + 2 < triangles.size(); i += 3) {

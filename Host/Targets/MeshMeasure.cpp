@@ -12,8 +12,6 @@ namespace {
 using math::Point3d;
 using math::Vector3d;
 
-constexpr double samePlace = 1e-6;
-
 /// The edges of triangles, each with how much more often it is used from its lower end to its
 /// higher one than back.
 class EdgeBalance {
@@ -44,7 +42,7 @@ MeshMeasure measureMesh(const std::vector<Point3d>& points,
                         const std::vector<std::uint32_t>& triangles) {
   MeshMeasure measure;
   if (triangles.empty()) return measure;
-  PointWelder welder(samePlace);
+  PointWelder welder(PointWelder::samePlace);
   std::vector<std::uint32_t> places(points.size());
   for (std::size_t i = 0; i < points.size(); ++i)
     if (points[i].isFinite()) places[i] = welder.numberOf(points[i]);

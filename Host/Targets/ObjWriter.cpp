@@ -1,7 +1,6 @@
 #include "Host/Targets/ObjWriter.h"
 
 #include <fmt/format.h>
-#include <fmt/ostream.h>
 
 #include <algorithm>
 #include <iterator>
@@ -26,15 +25,16 @@ class Writer {
 
   void add(const SceneObject& object) {
     bool isNamed = false;
-    m_scene.forEachContent(object, [&](const SceneContent& content, const Matrix& frame,
-                                       MaterialIndex inherited) {
-      if (content.mesh.triangles.empty()) return;
-      if (!isNamed)
-        fmt::print(m_out, "o {}\n",
-                   oneWord(fmt::format("{}_{}_{}", object.className, object.name, object.guid)));
-      isNamed = true;
-      addMesh(content.mesh, frame, inherited);
-    });
+    m_scene.forEachContent(
+        object, [&](const SceneContent& content, const Matrix& frame, MaterialIndex inherited) {
+          if (content.mesh.triangles.empty()) return;
+          if (!isNamed)
+            m_out << "o "
+                  << oneWord(fmt::format("{}_{}_{}", object.className, object.name, object.guid))
+                  << "\n";
+          isNamed = true;
+          addMesh(content.mesh, frame, inherited);
+        });
   }
 
  private:
@@ -70,13 +70,13 @@ class Writer {
 
 void writeObj(const Scene& scene, const std::string& materialFile, std::ostream& out,
               std::ostream& materials) {
-  fmt::print(out, "mtllib {}\n", materialFile);
+  out << "mtllib " << materialFile << "\n";
   Writer writer(scene, out);
   for (const SceneObject& object : scene.objects) writer.add(object);
   for (std::size_t i = 0; i < scene.materials.size(); ++i) {
     const SceneMaterial& material = scene.materials[i];
-    fmt::print(materials, "newmtl m{}\nKd {} {} {}\nd {}\n", i, material.red, material.green,
-               material.blue, material.opacity);
+    materials << fmt::format("newmtl m{}\nKd {} {} {}\nd {}\n", i, material.red, material.green,
+                             material.blue, material.opacity);
   }
 }
 

@@ -7,7 +7,7 @@ namespace qor::host::targets {
 
 namespace {
 
-constexpr std::uint32_t none = std::numeric_limits<std::uint32_t>::max();
+constexpr std::uint32_t noPlace = std::numeric_limits<std::uint32_t>::max();
 constexpr double cellPerTolerance = 64;  // few points lie near the edge of their cell
 
 }  // namespace
@@ -28,15 +28,15 @@ PointWelder::Cell PointWelder::cellOf(const math::Point3d& point) const {
 
 std::uint32_t PointWelder::findIn(const Cell& cell, const math::Point3d& point) const {
   const auto found = m_lastInCell.find(cell);
-  std::uint32_t number = found == m_lastInCell.end() ? none : found->second;
-  while (number != none) {
+  std::uint32_t number = found == m_lastInCell.end() ? noPlace : found->second;
+  while (number != noPlace) {
     const math::Point3d& other = m_places[number].point;
     if (std::abs(other.x - point.x) <= m_tolerance && std::abs(other.y - point.y) <= m_tolerance &&
         std::abs(other.z - point.z) <= m_tolerance)
       return number;
     number = m_places[number].nextInCell;
   }
-  return none;
+  return noPlace;
 }
 
 /// Looks into the cells that the tolerance reaches: one, but near the edge of a cell.
@@ -53,16 +53,16 @@ std::uint32_t PointWelder::findNear(const math::Point3d& point) const {
       cell[axis] = high[axis];
     }
     if (!isNew) continue;
-    if (const std::uint32_t number = findIn(cell, point); number != none) return number;
+    if (const std::uint32_t number = findIn(cell, point); number != noPlace) return number;
   }
-  return none;
+  return noPlace;
 }
 
 std::uint32_t PointWelder::numberOf(const math::Point3d& point) {
-  if (const std::uint32_t number = findNear(point); number != none) return number;
+  if (const std::uint32_t number = findNear(point); number != noPlace) return number;
   const auto number = static_cast<std::uint32_t>(m_places.size());
   const auto [entry, isFirst] = m_lastInCell.try_emplace(cellOf(point), number);
-  m_places.push_back({point, isFirst ? none : entry->second});
+  m_places.push_back({point, isFirst ? noPlace : entry->second});
   entry->second = number;
   return number;
 }

@@ -14,6 +14,9 @@ namespace qor::host::targets {
 /// constant time on average.
 class PointWelder {
  public:
+  /// The tolerance for the corners of faces that were computed apart and meet all the same.
+  static constexpr double samePlace = 1e-6;
+
   /// `tolerance` in metres, above 0, along each axis. Coordinates must be finite.
   explicit PointWelder(double tolerance) : m_tolerance(tolerance) {}
 

@@ -2,7 +2,6 @@
 
 #include <fmt/format.h>
 
-#include <iterator>
 #include <ostream>
 #include <utility>
 
@@ -47,7 +46,7 @@ RecordingTarget::RecordingTarget(const math::CurveDiscretization& discretization
     : DrawInterfaceBase(discretization), m_out(out) {}
 
 void RecordingTarget::line(std::string_view text) {
-  fmt::format_to(std::ostreambuf_iterator<char>(m_out), "{:{}}{}\n", "", 2 * m_depth, text);
+  m_out << fmt::format("{:{}}{}\n", "", 2 * m_depth, text);
 }
 void RecordingTarget::open(std::string_view text) {
   line(text);

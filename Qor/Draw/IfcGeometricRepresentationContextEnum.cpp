@@ -1,17 +1,10 @@
 #include "Qor/Draw/IfcGeometricRepresentationContextEnum.h"
 
-#include <cstddef>
-#include <iterator>
+#include "Qor/Draw/EnumeratorText.h"
 
 namespace qor::generate::draw {
 
 namespace {
-
-template <class Enumerator, std::size_t Size>
-const char* textOf(const char* const (&texts)[Size], Enumerator value) {
-  const auto position = static_cast<std::size_t>(value);
-  return position < Size ? texts[position] : "";
-}
 
 constexpr const char* contextTypes[] = {"Model", "Plan", "NotDefined"};
 constexpr const char* contextIdentifiers[] = {"Box",     "Axis",          "FootPrint", "Surface",

@@ -1,8 +1,8 @@
 #include "Qor/Draw/Representation.h"
 
 #include <cstddef>
-#include <iterator>
 
+#include "Qor/Draw/EnumeratorText.h"
 #include "Qor/String/IgnoreCase.h"
 
 namespace qor::generate::draw {
@@ -40,12 +40,6 @@ constexpr const char* types[] = {"",
                                  "SectionedSpine",
                                  "LightSource",
                                  "MappedRepresentation"};
-
-template <class Enumerator, std::size_t Size>
-const char* textOf(const char* const (&texts)[Size], Enumerator value) {
-  const auto position = static_cast<std::size_t>(value);
-  return position < Size ? texts[position] : "";
-}
 
 template <class Enumerator, std::size_t Size>
 std::optional<Enumerator> find(const char* const (&texts)[Size], std::string_view text) {

@@ -20,7 +20,7 @@ StandardDisplay plain(Units units, int decimals = 3) {
   return {std::move(units), 0, decimals, false};
 }
 
-const std::map<Id, StandardDisplay>& all() {
+const std::map<Id, StandardDisplay>& standardDisplays() {
   static const std::map<Id, StandardDisplay> displays = {
       {Id::Time, plain({{"s"}, {"min", 60}, {"h", 3600}, {"d", 86400}})},
       {Id::Length,
@@ -78,8 +78,8 @@ const std::map<Id, StandardDisplay>& all() {
 
 const StandardDisplay& standardDisplay(QuantityId id) {
   static const StandardDisplay unknown = aligned({{""}});
-  const auto found = all().find(id);
-  return found == all().end() ? unknown : found->second;
+  const auto found = standardDisplays().find(id);
+  return found == standardDisplays().end() ? unknown : found->second;
 }
 
 }  // namespace qor::unit

@@ -1,7 +1,9 @@
-#include <CLI/CLI.hpp>
 #include <fstream>
 #include <iostream>
 #include <sstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
 
 #include "Schema/Import/SchemaImport.h"
 
@@ -38,16 +40,17 @@ SchemaTable importFiles(const std::string& express, const std::vector<std::strin
 }  // namespace
 
 int main(int argc, char** argv) {
-  CLI::App app("Makes a schema table, written to standard output, from a schema in EXPRESS.");
-  std::string express;
-  std::vector<std::string> groupFiles;
-  app.add_option("EXPRESS", express, "The schema")->required();
-  app.add_option("--groups", groupFiles,
-                 "The group of each element: schema tables, or lines of name, tab, group")
-      ->required();
-  CLI11_PARSE(app, argc, argv);
+  const std::vector<std::string> arguments(argv + 1, argv + argc);
+  if (arguments.size() < 3 || arguments[1] != "--groups") {
+    std::cerr
+        << "usage: schema_import SCHEMA.exp --groups FILE...\n"
+           "Makes a schema table, written to standard output, from a schema in EXPRESS. The files "
+           "tell the group of\neach element: schema tables, or lines of name, tab, group.\n";
+    return 2;
+  }
   try {
-    writeSchemaTable(std::cout, importFiles(express, groupFiles));
+    writeSchemaTable(std::cout,
+                     importFiles(arguments[0], {arguments.begin() + 2, arguments.end()}));
     if (!std::cout.flush()) throw std::runtime_error("the table can't be written");
   } catch (const std::exception& error) {
     std::cerr << error.what() << '\n';

@@ -17,12 +17,12 @@ namespace {
 using fc::resource::quantity::FcPhysicalSimpleQuantity;
 using fc::resource::representation::FcCoordinateOperation;
 
-constexpr std::optional<Dimensions> any;
+constexpr std::optional<Dimensions> anyDimensions;
 using D = Dimensions;
 
 // The first rows are the constants of namespace measure.
-constexpr Measure table[] = {
-    {"", "", any},
+constexpr Measure measureTable[] = {
+    {"", "", anyDimensions},
     {"IfcLengthMeasure", "LENGTHUNIT", D(1)},
     {"IfcPlaneAngleMeasure", "PLANEANGLEUNIT", D()},
     {"IfcThermodynamicTemperatureMeasure", "THERMODYNAMICTEMPERATUREUNIT", D(0, 0, 0, 0, 1)},
@@ -51,7 +51,7 @@ constexpr Measure table[] = {
     {"IfcHeatingValueMeasure", "HEATINGVALUEUNIT", D(2, 0, -2)},
     {"IfcIlluminanceMeasure", "ILLUMINANCEUNIT", D(-2, 0, 0, 0, 0, 0, 1)},
     {"IfcInductanceMeasure", "INDUCTANCEUNIT", D(2, 1, -2, -2)},
-    {"IfcIonConcentrationMeasure", "IONCONCENTRATIONUNIT", any},
+    {"IfcIonConcentrationMeasure", "IONCONCENTRATIONUNIT", anyDimensions},
     {"IfcIsothermalMoistureCapacityMeasure", "ISOTHERMALMOISTURECAPACITYUNIT", D(3, -1)},
     {"IfcKinematicViscosityMeasure", "KINEMATICVISCOSITYUNIT", D(2, 0, -1)},
     {"IfcLinearForceMeasure", "LINEARFORCEUNIT", D(0, 1, -2)},
@@ -59,7 +59,7 @@ constexpr Measure table[] = {
     {"IfcLinearStiffnessMeasure", "LINEARSTIFFNESSUNIT", D(0, 1, -2)},
     {"IfcLinearVelocityMeasure", "LINEARVELOCITYUNIT", D(1, 0, -1)},
     {"IfcLuminousFluxMeasure", "LUMINOUSFLUXUNIT", D(0, 0, 0, 0, 0, 0, 1)},
-    {"IfcLuminousIntensityDistributionMeasure", "LUMINOUSINTENSITYDISTRIBUTIONUNIT", any},
+    {"IfcLuminousIntensityDistributionMeasure", "LUMINOUSINTENSITYDISTRIBUTIONUNIT", anyDimensions},
     {"IfcLuminousIntensityMeasure", "LUMINOUSINTENSITYUNIT", D(0, 0, 0, 0, 0, 0, 1)},
     {"IfcMagneticFluxDensityMeasure", "MAGNETICFLUXDENSITYUNIT", D(0, 1, -2, -1)},
     {"IfcMagneticFluxMeasure", "MAGNETICFLUXUNIT", D(2, 1, -2, -1)},
@@ -73,11 +73,11 @@ constexpr Measure table[] = {
     {"IfcModulusOfRotationalSubgradeReactionMeasure", "MODULUSOFROTATIONALSUBGRADEREACTIONUNIT",
      D(1, 1, -2)},
     {"IfcModulusOfSubgradeReactionMeasure", "MODULUSOFSUBGRADEREACTIONUNIT", D(-2, 1, -2)},
-    {"IfcMoistureDiffusivityMeasure", "MOISTUREDIFFUSIVITYUNIT", any},
+    {"IfcMoistureDiffusivityMeasure", "MOISTUREDIFFUSIVITYUNIT", anyDimensions},
     {"IfcMolecularWeightMeasure", "MOLECULARWEIGHTUNIT", D(0, 1, 0, 0, 0, -1)},
     {"IfcMomentOfInertiaMeasure", "MOMENTOFINERTIAUNIT", D(4)},
     {"IfcNonNegativeLengthMeasure", "LENGTHUNIT", D(1)},
-    {"IfcPHMeasure", "PHUNIT", any},
+    {"IfcPHMeasure", "PHUNIT", anyDimensions},
     {"IfcPlanarForceMeasure", "PLANARFORCEUNIT", D(-1, 1, -2)},
     {"IfcPositiveLengthMeasure", "LENGTHUNIT", D(1)},
     {"IfcPositivePlaneAngleMeasure", "PLANEANGLEUNIT", D()},
@@ -91,10 +91,10 @@ constexpr Measure table[] = {
     {"IfcSectionalAreaIntegralMeasure", "SECTIONAREAINTEGRALUNIT", D(5)},
     {"IfcShearModulusMeasure", "SHEARMODULUSUNIT", D(-1, 1, -2)},
     {"IfcSolidAngleMeasure", "SOLIDANGLEUNIT", D()},
-    {"IfcSoundPowerLevelMeasure", "SOUNDPOWERLEVELUNIT", any},
-    {"IfcSoundPowerMeasure", "SOUNDPOWERUNIT", any},
-    {"IfcSoundPressureLevelMeasure", "SOUNDPRESSURELEVELUNIT", any},
-    {"IfcSoundPressureMeasure", "SOUNDPRESSUREUNIT", any},
+    {"IfcSoundPowerLevelMeasure", "SOUNDPOWERLEVELUNIT", anyDimensions},
+    {"IfcSoundPowerMeasure", "SOUNDPOWERUNIT", anyDimensions},
+    {"IfcSoundPressureLevelMeasure", "SOUNDPRESSURELEVELUNIT", anyDimensions},
+    {"IfcSoundPressureMeasure", "SOUNDPRESSUREUNIT", anyDimensions},
     {"IfcSpecificHeatCapacityMeasure", "SPECIFICHEATCAPACITYUNIT", D(2, 0, -2, 0, -1)},
     {"IfcTemperatureGradientMeasure", "TEMPERATUREGRADIENTUNIT", D(-1, 0, 0, 0, 1)},
     {"IfcTemperatureRateOfChangeMeasure", "TEMPERATURERATEOFCHANGEUNIT", D(0, 0, -1, 0, 1)},
@@ -105,7 +105,7 @@ constexpr Measure table[] = {
     {"IfcThermalTransmittanceMeasure", "THERMALTRANSMITTANCEUNIT", D(0, 1, -3, 0, -1)},
     {"IfcTimeMeasure", "TIMEUNIT", D(0, 0, 1)},
     {"IfcTorqueMeasure", "TORQUEUNIT", D(2, 1, -2)},
-    {"IfcVaporPermeabilityMeasure", "VAPORPERMEABILITYUNIT", any},
+    {"IfcVaporPermeabilityMeasure", "VAPORPERMEABILITYUNIT", anyDimensions},
     {"IfcVolumeMeasure", "VOLUMEUNIT", D(3)},
     {"IfcVolumetricFlowRateMeasure", "VOLUMETRICFLOWRATEUNIT", D(3, 0, -1)},
     {"IfcWarpingConstantMeasure", "WARPINGCONSTANTUNIT", D(6)},
@@ -149,13 +149,14 @@ bool isOneOf(const fc::ClassInfo& info, const fc::ClassInfo& base) {
 
 }  // namespace
 
-std::span<const Measure> measures() { return table; }
+std::span<const Measure> measures() { return measureTable; }
 
 MeasureId measureOfType(std::string_view upperName) {
   static const std::map<std::string, MeasureId, std::less<>> byName = [] {
     std::map<std::string, MeasureId, std::less<>> ids;
-    for (std::size_t i = 0; i < std::size(table); ++i)
-      if (!table[i].type.empty()) ids.emplace(upper(table[i].type), static_cast<MeasureId>(i));
+    for (std::size_t i = 0; i < std::size(measureTable); ++i)
+      if (!measureTable[i].type.empty())
+        ids.emplace(upper(measureTable[i].type), static_cast<MeasureId>(i));
     return ids;
   }();
   const auto found = byName.find(upperName);
