@@ -14,4 +14,8 @@ void reportNoTextForm(const std::string& type, const char* operation) {
                      .line = __LINE__});
 }
 
+std::string spellingOfReference(const char* target) {
+  return "class std::shared_ptr<class " + std::string(target) + ">";
+}
+
 }  // namespace qor::fc

@@ -1,6 +1,5 @@
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
 
-#include "Fc/Reflection/MakeEntity.h"
 #include "Fc/Resource/Expect.h"
 #include "Fc/Resource/Geometry/FcDirection.h"
 
@@ -114,7 +113,7 @@ void FcAxis2Placement3D::transform(const Matrix& matrix) {
 }
 
 std::shared_ptr<FcAxis2Placement3D> makePlacement(const Matrix& matrix) {
-  return std::allocate_shared<FcAxis2Placement3D>(EntityAllocator<FcAxis2Placement3D>(), matrix);
+  return std::make_shared<FcAxis2Placement3D>(matrix);
 }
 
 }  // namespace qor::fc::resource::geometry
