@@ -17,6 +17,9 @@ namespace qor::fc {
 /// as the report spells it.
 QOR_API void reportNoTextForm(const std::string& type, const char* operation);
 
+/// "class std::shared_ptr<class qor::fc::kernel::FcRoot>"
+QOR_API std::string spellingOfReference(const char* target);
+
 /// How a report spells a value type: "class std::vector<double,class std::allocator<double> >".
 template <class T>
 struct TypeSpelling;
@@ -35,9 +38,7 @@ struct TypeSpelling<std::uint8_t> {
 };
 template <class T>
 struct TypeSpelling<std::shared_ptr<T>> {
-  static std::string get() {
-    return "class std::shared_ptr<class " + std::string(T::spelling) + ">";
-  }
+  static std::string get() { return spellingOfReference(T::spelling); }
 };
 template <class T>
 requires requires { T::spelling; }
@@ -58,6 +59,12 @@ struct TypeSpelling<std::array<T, N>> {
     return "class std::array<" + TypeSpelling<T>::get() + "," + std::to_string(N) + ">";
   }
 };
+
+/// Whether values of type `T` have a text form.
+template <class T>
+inline constexpr bool hasTextForm = std::is_same_v<T, std::string> || std::is_same_v<T, double> ||
+                                    std::is_same_v<T, std::int64_t> || std::is_same_v<T, bool> ||
+                                    std::is_same_v<T, LogicalValue> || std::is_same_v<T, Guid>;
 
 /// The text of a plain value, by its type alone; an assert and the negative result for a type that
 /// has no text form.

@@ -13,7 +13,9 @@ namespace {
 
 void reportUnknown(const char* what, const StringHash& name,
                    const std::source_location& where = std::source_location::current()) {
-  report(std::string(what) + " (" + std::string(name.view()) + ")", where);
+  report(
+      {.message = std::string(what) + " (" + std::string(name.view()) + ")", .source = "FcFactory"},
+      where);
 }
 
 }  // namespace

@@ -59,7 +59,9 @@ std::optional<std::string> textFromLogical(LogicalValue value) {
     case LogicalValue::Unknown:
       return "unknown";
   }
-  report("Not implemented for this enum type");
+  report({.message = "Not implemented for this enum type",
+          .function = "qor::fc::BaseType<enum qor::LogicalValue>::getAsString",
+          .source = "BaseType"});
   return std::nullopt;
 }
 

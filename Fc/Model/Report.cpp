@@ -8,11 +8,10 @@ namespace qor::fc {
 
 void report(const FcBase& entity, std::string message, const std::source_location& where) {
   if (!Assert::isEnabled()) return;
-  AssertInfo info = assertAt(where);
-  info.message = std::move(message);
-  info.subject = &entity;
-  info.subjectClass = entity.classInfo().name.view();
-  Assert::addAssert(info);
+  report({.message = std::move(message),
+          .subject = &entity,
+          .subjectClass = std::string(entity.classInfo().name.view())},
+         where);
 }
 
 }  // namespace qor::fc

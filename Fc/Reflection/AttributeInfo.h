@@ -1,11 +1,16 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string_view>
 
 #include "Fc/Reflection/TypeOperations.h"
-#include "Qor/Object/PropertyId.h"
+#include "Qor/Platform/Export.h"
+
+namespace qor::object {
+class PropertyId;
+}
 
 namespace qor::fc {
 
@@ -37,7 +42,8 @@ struct InverseLink {
 struct AttributeInfo {
   /// The EXPRESS name, "PredefinedType".
   std::string_view name;
-  const object::PropertyId& (*id)();
+  /// The position of the name among those of all attributes, `SchemaTables::attributeNames()`.
+  std::uint16_t nameIndex;
   /// The declared type without aggregation and OPTIONAL: "IfcWallTypeEnum", "IfcLabel", "REAL"; of
   /// an inverse attribute the class that holds the forward attribute.
   std::string_view typeName;
@@ -48,14 +54,19 @@ struct AttributeInfo {
   std::string_view forward;
   /// Of a forward attribute that the schema pairs with inverse attributes.
   std::span<const InverseLink> links;
-  /// The member of an entity whose class declares or inherits this attribute (of an inverse one its
-  /// `InverseEntries`); any other entity is undefined behaviour.
-  void* (*member)(FcBase& entity);
+  /// Where the member stands, in bytes from the entity.
+  std::uint16_t offset;
   const TypeOperations* type;
 
   bool isInverse() const { return !forward.empty(); }
-  void* of(FcBase& entity) const { return member(entity); }
-  const void* of(const FcBase& entity) const { return member(const_cast<FcBase&>(entity)); }
+  /// The same object as that of `object::propertyId`, on each call. Constant time.
+  QOR_API const object::PropertyId& id() const;
+  /// The member of an entity whose class declares or inherits this attribute (of an inverse one its
+  /// `InverseEntries`); any other entity is undefined behaviour.
+  void* of(FcBase& entity) const { return reinterpret_cast<std::byte*>(&entity) + offset; }
+  const void* of(const FcBase& entity) const {
+    return reinterpret_cast<const std::byte*>(&entity) + offset;
+  }
 };
 
 }  // namespace qor::fc

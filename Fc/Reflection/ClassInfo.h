@@ -7,6 +7,7 @@
 #include <typeinfo>
 
 #include "Fc/Reflection/AttributeInfo.h"
+#include "Qor/Platform/Export.h"
 #include "Qor/String/StringHash.h"
 
 namespace qor::fc {
@@ -24,8 +25,9 @@ struct ClassInfo {
   std::uint32_t classIdLast;
   /// Null for a class without a supertype.
   const ClassInfo* parent;
-  /// A new instance; null for an abstract class.
-  std::shared_ptr<FcBase> (*create)();
+  std::uint32_t size;  ///< in bytes
+  /// Makes an instance in the place given; null for an abstract class.
+  void (*construct)(void* place);
   const std::type_info* type;
   /// The forward attributes that the class itself declares, in schema order.
   std::span<const AttributeInfo> attributes;
@@ -36,7 +38,9 @@ struct ClassInfo {
   /// The class or one of its supertypes has a forward attribute with an inverse.
   bool linksTargets;
 
-  bool isAbstract() const { return create == nullptr; }
+  bool isAbstract() const { return construct == nullptr; }
+  /// A new instance; the class must not be abstract.
+  QOR_API std::shared_ptr<FcBase> create() const;
   bool contains(std::uint32_t id) const { return id >= classId && id <= classIdLast; }
   /// This class or one of its supertypes derives the attribute.
   bool isDerived(std::string_view attribute) const {

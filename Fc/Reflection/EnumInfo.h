@@ -22,6 +22,9 @@ struct EnumInfo {
       if (names[i] == enumerator) return i;
     return std::nullopt;
   }
+  /// What an absent attribute holds while it is being set, and what an unknown name stores: the
+  /// last enumerator, as a rule NOTDEFINED.
+  std::uint8_t lastPosition() const { return static_cast<std::uint8_t>(names.size() - 1); }
 };
 
 /// What every enumeration class of the schema offers. `Derived` has a nested `Enum`, whose
@@ -46,10 +49,9 @@ class EnumBase {
   static std::vector<std::string> enumNames() {
     return {Derived::info().names.begin(), Derived::info().names.end()};
   }
-  /// What an absent attribute holds while it is being set, and what an unknown name stores: the
-  /// last enumerator, as a rule NOTDEFINED.
+  /// What an unknown name stores; see `EnumInfo`.
   static Derived last() {
-    return static_cast<typename Derived::Enum>(Derived::info().names.size() - 1);
+    return static_cast<typename Derived::Enum>(Derived::info().lastPosition());
   }
   /// Alternative 5 with the enumerator's name.
   LocalValue getLocalValue() const {

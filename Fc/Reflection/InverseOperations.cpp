@@ -13,47 +13,50 @@ const InverseEntries& entriesOf(const void* member) {
   return *static_cast<const InverseEntries*>(member);
 }
 
-void forEachHolder(const void* member, TypeOperations::EntityCallback callback) {
+void forEachHolder(const TypeOperations&, const void* member, EntityCallback callback) {
   entriesOf(member).forEach(
       [&callback](const std::shared_ptr<FcBase>& holder) { callback(*holder); });
 }
 
-LocalValue holders(const void* member) {
+LocalValue holders(const TypeOperations&, const void* member) {
   LocalValue::List values;
   entriesOf(member).forEach(
       [&values](std::shared_ptr<FcBase>&& holder) { values.emplace_back(std::move(holder)); });
   return LocalValue(std::move(values));
 }
 
-LocalValue holder(const void* member) {
+LocalValue holder(const TypeOperations&, const void* member) {
   LocalValue value{details::EmptyValue()};
   entriesOf(member).forEach(
       [&value](std::shared_ptr<FcBase>&& entity) { value = LocalValue(std::move(entity)); });
   return value;
 }
 
-constexpr TypeOperations inverseOperations(LocalValue (*getLocalValue)(const void*)) {
-  return {TypeFamily::inverse,
-          true,
-          nullptr,
-          nullptr,
-          [](const void*) -> std::optional<std::string> { return std::nullopt; },
-          [](void*, const std::string&) { return false; },
-          getLocalValue,
-          [](void*, const LocalValue&) { return false; },
-          forEachHolder,
-          forEachHolder,
-          [](void*, ValueSource&) { return false; },
-          [](const void*, ValueSink& sink) { sink.null(); },
-          [](void*, const void*, FcCopySettings&) {},
-          [](const void*, const void*, TypeOperations::PairCallback) -> std::weak_ordering {
-            return std::weak_ordering::equivalent;
-          }};
+constexpr TypeFunctions inverseFunctions(LocalValue (*getLocalValue)(const TypeOperations&,
+                                                                     const void*)) {
+  return {
+      [](const TypeOperations&, const void*) -> std::optional<std::string> { return std::nullopt; },
+      [](const TypeOperations&, void*, const std::string&) { return false; },
+      getLocalValue,
+      [](const TypeOperations&, void*, const LocalValue&) { return false; },
+      forEachHolder,
+      forEachHolder,
+      [](const TypeOperations&, void*, ValueSource&) { return false; },
+      [](const TypeOperations&, const void*, ValueSink& sink) { sink.null(); },
+      [](const TypeOperations&, void*, const void*, FcCopySettings&) {},
+      [](const TypeOperations&, const void*, const void*, PairCallback) -> std::weak_ordering {
+        return std::weak_ordering::equivalent;
+      }};
 }
+
+constexpr TypeFunctions setFunctions = inverseFunctions(holders);
+constexpr TypeFunctions refFunctions = inverseFunctions(holder);
 
 }  // namespace
 
-constinit const TypeOperations inverseSetOperations = inverseOperations(holders);
-constinit const TypeOperations inverseRefOperations = inverseOperations(holder);
+constinit const TypeOperations inverseSetOperations = {TypeFamily::inverse, true, nullptr, nullptr,
+                                                       &setFunctions};
+constinit const TypeOperations inverseRefOperations = {TypeFamily::inverse, true, nullptr, nullptr,
+                                                       &refFunctions};
 
 }  // namespace qor::fc

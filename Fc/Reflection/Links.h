@@ -1,10 +1,7 @@
 #pragma once
 
-#include <algorithm>
-#include <memory>
-#include <optional>
+#include <type_traits>
 #include <utility>
-#include <vector>
 
 #include "Fc/FcBase.h"
 #include "Fc/Reflection/AttributeInfo.h"
@@ -25,72 +22,34 @@ QOR_API void unlinkTarget(FcBase& holder, const AttributeInfo& attribute, FcBase
 QOR_API void linkTargets(FcBase& holder, const AttributeInfo& attribute);
 QOR_API void unlinkTargets(FcBase& holder, const AttributeInfo& attribute);
 
-/// What an element of a forward attribute refers to: the reference itself, or the entity behind a
-/// select.
-template <class T>
-FcBase* targetOf(const std::shared_ptr<T>& reference) {
-  return reference.get();
-}
-template <class S>
-requires requires(const S& s) { s.getEntity(); }
-FcBase* targetOf(const S& select) { return select.getEntity(); }
-
-/// Whether two elements of a list are the same: they name one entity, or hold equal values.
-template <class T>
-bool isSameElement(const T& a, const T& b) {
-  const FcBase* target = targetOf(a);
-  if (target || targetOf(b)) return target == targetOf(b);
-  if constexpr (requires { a.getLocalValue(); }) return a.getLocalValue() == b.getLocalValue();
-  return true;
-}
-
+/// Gives the attribute the value, which is left with the former one.
 template <class Member, class Value>
-void setLinked(FcBase& holder, const AttributeInfo& attribute, Member& member, Value&& value) {
+void setLinked(FcBase& holder, const AttributeInfo& attribute, Member& member, Value& value) {
   unlinkTargets(holder, attribute);
-  member = std::forward<Value>(value);
+  if constexpr (std::is_same_v<Member, Value>) {
+    using std::swap;
+    swap(member, value);
+  } else {
+    if (!member) member.emplace();
+    member->swap(value);
+  }
+  linkTargets(holder, attribute);
+}
+template <class Member>
+void clearLinked(FcBase& holder, const AttributeInfo& attribute, Member& member) {
+  unlinkTargets(holder, attribute);
+  member = Member();
   linkTargets(holder, attribute);
 }
 
-template <class T>
-std::vector<T>& engaged(std::vector<T>& list) {
-  return list;
-}
-template <class T>
-std::vector<T>& engaged(std::optional<std::vector<T>>& list) {
-  return list ? *list : list.emplace();
-}
+// Of attributes that are lists of references or of selects. `value` is the address of an element's
+// value, which is the same as an element when both name one entity or hold equal values.
 
-/// Links the value and appends it unless the list has it already.
-template <class List, class T>
-void insertLinked(FcBase& holder, const AttributeInfo& attribute, List& list, T&& value) {
-  if (FcBase* target = targetOf(value)) linkTarget(holder, attribute, *target);
-  auto& elements = engaged(list);
-  const bool present = std::any_of(elements.begin(), elements.end(), [&value](const auto& element) {
-    return isSameElement(element, value);
-  });
-  if (!present) elements.push_back(std::forward<T>(value));
-}
-
-/// Links the value and appends it.
-template <class List, class T>
-void pushBackLinked(FcBase& holder, const AttributeInfo& attribute, List& list, T&& value) {
-  if (FcBase* target = targetOf(value)) linkTarget(holder, attribute, *target);
-  engaged(list).push_back(std::forward<T>(value));
-}
-
+/// Links the value and moves it to the end of the list unless that has it already.
+QOR_API void insertLinked(FcBase& holder, const AttributeInfo& attribute, void* value);
+/// Links the value and moves it to the end of the list.
+QOR_API void pushBackLinked(FcBase& holder, const AttributeInfo& attribute, void* value);
 /// Unlinks the value, an element or not, and removes every element that is the same.
-template <class T>
-void eraseLinked(FcBase& holder, const AttributeInfo& attribute, std::vector<T>& list,
-                 const T& value) {
-  const T sought = value;  // The caller may have given an element of the list itself.
-  if (FcBase* target = targetOf(sought)) unlinkTarget(holder, attribute, *target);
-  std::erase_if(list, [&sought](const T& element) { return isSameElement(element, sought); });
-}
-template <class T>
-void eraseLinked(FcBase& holder, const AttributeInfo& attribute,
-                 std::optional<std::vector<T>>& list, const T& value) {
-  std::vector<T> none;
-  eraseLinked(holder, attribute, list ? *list : none, value);
-}
+QOR_API void eraseLinked(FcBase& holder, const AttributeInfo& attribute, const void* value);
 
 }  // namespace qor::fc

@@ -25,6 +25,8 @@ class QOR_API SchemaTables {
   /// Ordered by name, as the selects are.
   static std::span<const EnumInfo* const> enumerations();
   static std::span<const SelectInfo* const> selects();
+  /// The names of all attributes, forward and inverse, each once, in ascending order.
+  static std::span<const char* const> attributeNames();
 };
 
 }  // namespace qor::fc

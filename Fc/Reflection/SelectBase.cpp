@@ -3,10 +3,13 @@
 #include <cstring>
 #include <memory>
 
+#include "Fc/BaseType.h"
 #include "Fc/FcBase.h"
 #include "Fc/Reflection/ClassInfo.h"
 #include "Fc/Reflection/EntityComparison.h"
 #include "Fc/Reflection/NumberOf.h"
+#include "Fc/Reflection/Traits/ReferenceTraits.h"
+#include "Fc/Reflection/Traits/SelectTraits.h"
 #include "Fc/Reflection/ValueSink.h"
 #include "Fc/Reflection/ValueSource.h"
 
@@ -30,6 +33,10 @@ bool holdsClass(const SelectInfo& info, std::uint32_t classId) {
       return true;
   }
   return false;
+}
+
+const ReferenceOperations& referenceOf(const AlternativeInfo& alternative) {
+  return static_cast<const ReferenceOperations&>(*alternative.operations->type);
 }
 
 struct FreeMemory {
@@ -56,7 +63,7 @@ void* SelectBase::heap() const {
 
 void SelectBase::reset(const SelectInfo& info) {
   if (m_position == npos) return;
-  at(info).destroy(value(info));
+  if (at(info).destroy) at(info).destroy(value(info));
   if (!at(info).inPlace) ::operator delete(heap());
   m_position = npos;
 }
@@ -88,7 +95,10 @@ void* SelectBase::make(const SelectInfo& info, std::uint32_t position) {
 void SelectBase::copyFrom(const SelectInfo& info, const SelectBase& other) {
   if (other.m_position == npos) return;
   build(info, other.m_position, [&](const AlternativeOperations& operations, void* place) {
-    operations.copy(place, other.value(info));
+    if (operations.copy)
+      operations.copy(place, other.value(info));
+    else
+      std::memcpy(place, other.value(info), operations.size);
   });
 }
 
@@ -96,30 +106,27 @@ void SelectBase::moveFrom(const SelectInfo& info, SelectBase& other) {
   reset(info);
   if (other.m_position == npos) return;
   m_position = other.m_position;
-  if (at(info).inPlace) {
+  if (at(info).inPlace && at(info).move) {
     at(info).move(m_place, other.m_place);
     other.reset(info);
   } else {
-    std::memcpy(m_place, other.m_place, sizeof(void*));
+    // The bytes of a plain value, or the pointer to what stands on the heap.
+    std::memcpy(m_place, other.m_place, sizeof m_place);
     other.m_position = npos;
   }
 }
 
 FcBase* SelectBase::getEntity(const SelectInfo& info) const {
   if (m_position == npos) return nullptr;
-  const AlternativeOperations& operations = at(info);
-  if (operations.entity) return operations.entity(value(info));
-  if (operations.select)
-    return operations.select(const_cast<void*>(value(info)))
-        ->getEntity(*info.alternatives[m_position].nested);
-  return nullptr;
+  const AlternativeInfo& alternative = info.alternatives[m_position];
+  if (alternative.nested) return nestedAt(value(info)).getEntity(*alternative.nested);
+  return alternative.isEntity() ? referenceOf(alternative).entity(value(info)) : nullptr;
 }
 
 std::optional<double> SelectBase::number(const SelectInfo& info) const {
   if (m_position == npos) return std::nullopt;
   const AlternativeInfo& alternative = info.alternatives[m_position];
-  if (alternative.nested)
-    return at(info).select(const_cast<void*>(value(info)))->number(*alternative.nested);
+  if (alternative.nested) return nestedAt(value(info)).number(*alternative.nested);
   if (alternative.isEntity()) return std::nullopt;
   return numberOf(at(info).type->getLocalValue(value(info)));
 }
@@ -127,8 +134,7 @@ std::optional<double> SelectBase::number(const SelectInfo& info) const {
 bool SelectBase::setNumber(const SelectInfo& info, double number) {
   if (m_position == npos) return false;
   const AlternativeInfo& alternative = info.alternatives[m_position];
-  if (alternative.nested)
-    return at(info).select(value(info))->setNumber(*alternative.nested, number);
+  if (alternative.nested) return nestedAt(value(info)).setNumber(*alternative.nested, number);
   if (alternative.isEntity()) return false;
   if (at(info).type->setLocalValue(value(info), LocalValue(number))) return true;
   constexpr double limit = 9223372036854775808.0;  // 2^63, the first that doesn't fit
@@ -139,8 +145,7 @@ bool SelectBase::setNumber(const SelectInfo& info, double number) {
 LocalValue SelectBase::getLocalValue(const SelectInfo& info) const {
   if (m_position == npos) return LocalValue(details::EmptyValue());
   const AlternativeInfo& alternative = info.alternatives[m_position];
-  if (alternative.nested)
-    return at(info).select(const_cast<void*>(value(info)))->getLocalValue(*alternative.nested);
+  if (alternative.nested) return nestedAt(value(info)).getLocalValue(*alternative.nested);
   LocalValue result = at(info).type->getLocalValue(value(info));
   if (!alternative.isEntity()) result.typeName = std::string(alternative.ifcName);
   return result;
@@ -170,9 +175,8 @@ bool SelectBase::setNamed(const SelectInfo& info, const LocalValue& value) {
       continue;
     Candidate candidate(info, i);
     void* place = candidate.value(info);
-    const bool stored = alternative.nested
-                            ? operations.select(place)->setNamed(*alternative.nested, value)
-                            : operations.type->setLocalValue(place, value);
+    const bool stored = alternative.nested ? nestedAt(place).setNamed(*alternative.nested, value)
+                                           : operations.type->setLocalValue(place, value);
     if (!stored) continue;
     moveFrom(info, candidate);
     return true;
@@ -188,9 +192,9 @@ bool SelectBase::setEntity(const SelectInfo& info, const std::shared_ptr<FcBase>
                            : !alternative.holds(classId))
       continue;
     void* place = make(info, i);
-    if (alternative.nested)
-      return alternative.operations->select(place)->setEntity(*alternative.nested, entity);
-    alternative.operations->setEntity(place, entity);
+    if (alternative.nested) return nestedAt(place).setEntity(*alternative.nested, entity);
+    std::shared_ptr<FcBase> value = entity;
+    referenceOf(alternative).exchange(place, value);
     return true;
   }
   return false;
@@ -199,11 +203,12 @@ bool SelectBase::setEntity(const SelectInfo& info, const std::shared_ptr<FcBase>
 std::optional<std::string> SelectBase::getAsString(const SelectInfo& info, bool withType) const {
   if (m_position == npos) return std::nullopt;
   const AlternativeInfo& alternative = info.alternatives[m_position];
-  if (alternative.nested)
-    return at(info)
-        .select(const_cast<void*>(value(info)))
-        ->getAsString(*alternative.nested, withType);
-  std::optional<std::string> text = at(info).getAsString(value(info));
+  if (alternative.nested) return nestedAt(value(info)).getAsString(*alternative.nested, withType);
+  if (at(info).spelling) {
+    reportNoTextForm(at(info).spelling(), "getAsString");
+    return std::nullopt;
+  }
+  std::optional<std::string> text = at(info).type->getAsString(value(info));
   if (text && withType) text = std::string(alternative.name) + "(" + *text + ")";
   return text;
 }
@@ -223,8 +228,7 @@ bool SelectBase::setTypeFromString(const SelectInfo& info, const std::string& na
     if (info.nestedOnly) {
       Candidate candidate(info, i);
       void* place = candidate.value(info);
-      if (!alternative.operations->select(place)->setTypeFromString(*alternative.nested, name))
-        continue;
+      if (!nestedAt(place).setTypeFromString(*alternative.nested, name)) continue;
       moveFrom(info, candidate);
       return true;
     } else if (alternative.name == name) {
@@ -239,12 +243,16 @@ bool SelectBase::setValueOnTypeFromString(const SelectInfo& info, const std::str
   if (m_position == npos) return false;
   const AlternativeInfo& alternative = info.alternatives[m_position];
   if (alternative.nested) {
-    SelectBase& nested = *at(info).select(value(info));
+    SelectBase& nested = nestedAt(value(info));
     return info.nestedOnly ? nested.setValueOnTypeFromString(*alternative.nested, text)
                            : nested.setFromString(*alternative.nested, text);
   }
   if (info.entitiesOnly) return false;
-  return at(info).setFromString(value(info), text);
+  if (at(info).spelling) {
+    reportNoTextForm(at(info).spelling(), "setFromString");
+    return false;
+  }
+  return at(info).type->setFromString(value(info), text);
 }
 
 void SelectBase::forEachEntity(const SelectInfo& info,
@@ -252,7 +260,7 @@ void SelectBase::forEachEntity(const SelectInfo& info,
   if (m_position == npos) return;
   const AlternativeInfo& alternative = info.alternatives[m_position];
   if (alternative.nested)
-    at(info).select(const_cast<void*>(value(info)))->forEachEntity(*alternative.nested, callback);
+    nestedAt(value(info)).forEachEntity(*alternative.nested, callback);
   else
     at(info).type->forEachEntity(value(info), callback);
 }
@@ -291,8 +299,7 @@ bool SelectBase::readTyped(const SelectInfo& info, std::string_view upperName,
     const AlternativeInfo& alternative = info.alternatives[i];
     if (alternative.nested) {
       if (!holdsTyped(*alternative.nested, upperName)) continue;
-      return alternative.operations->select(make(info, i))
-          ->readTyped(*alternative.nested, upperName, source);
+      return nestedAt(make(info, i)).readTyped(*alternative.nested, upperName, source);
     }
     if (alternative.isEntity() || alternative.upperName != upperName) continue;
     return alternative.operations->type->read(make(info, i), source);
@@ -316,7 +323,7 @@ void SelectBase::write(const SelectInfo& info, ValueSink& sink) const {
   }
   const AlternativeInfo& alternative = info.alternatives[m_position];
   if (alternative.nested) {
-    at(info).select(const_cast<void*>(value(info)))->write(*alternative.nested, sink);
+    nestedAt(value(info)).write(*alternative.nested, sink);
   } else if (alternative.isEntity()) {
     at(info).type->write(value(info), sink);
   } else {

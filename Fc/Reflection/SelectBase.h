@@ -65,8 +65,7 @@ class QOR_API SelectBase {
 
   template <class D>
   friend class Select;
-  template <class T>
-  friend struct ValueTraits;
+  friend struct SelectFunctions;
 
  private:
   class Candidate;
@@ -77,6 +76,11 @@ class QOR_API SelectBase {
     return *info.alternatives[m_position].operations;
   }
   void* heap() const;
+  /// The select that an alternative is, from the address of its value.
+  static SelectBase& nestedAt(void* value) { return *static_cast<SelectBase*>(value); }
+  static const SelectBase& nestedAt(const void* value) {
+    return *static_cast<const SelectBase*>(value);
+  }
   bool setNamed(const SelectInfo& info, const LocalValue& value);
   bool setEntity(const SelectInfo& info, const std::shared_ptr<FcBase>& entity);
   bool readEntity(const SelectInfo& info, ValueSource& source, const TypeOperations& expected);

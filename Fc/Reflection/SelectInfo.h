@@ -18,17 +18,12 @@ struct AlternativeOperations {
   /// Small enough to stand in the select itself.
   bool inPlace;
   void (*construct)(void* place);
+  /// Null where the bytes are all there is to copy and to move, and nothing to destroy.
   void (*copy)(void* place, const void* value);
   void (*move)(void* place, void* value);
   void (*destroy)(void* value);
-  std::optional<std::string> (*getAsString)(const void* value);
-  bool (*setFromString)(void* value, const std::string& text);
-  /// Null unless the alternative is a select itself.
-  SelectBase* (*select)(void* value);
-  /// Null unless the alternative is an entity.
-  FcBase* (*entity)(const void* value);
-  /// Null unless the alternative is an entity; the class must have been checked.
-  void (*setEntity)(void* value, const std::shared_ptr<FcBase>& entity);
+  /// How a report spells the type of the value; null where the value has a text form.
+  std::string (*spelling)();
   const TypeOperations* type;
 };
 

@@ -1,7 +1,6 @@
 #include "Qor/Assert/Report.h"
 
 #include <string_view>
-#include <utility>
 
 namespace qor {
 namespace {
@@ -31,38 +30,20 @@ std::string qualifiedName(const char* signature) {
                      text.find('<', begin) < end ? text.find('<', begin) - begin : end - begin);
 }
 
-// "FcFace" of "qor::fc::resource::topology::FcFace::draw".
-std::string classIn(std::string_view function) {
-  const std::size_t end = function.rfind("::");
-  if (end == std::string_view::npos) return std::string(function);
-  const std::string_view scope = function.substr(0, end);
-  const std::size_t begin = scope.rfind("::");
-  return std::string(begin == std::string_view::npos ? scope : scope.substr(begin + 2));
-}
-
-void add(std::uint32_t kind, std::string message, const std::source_location& where) {
-  AssertInfo info = assertAt(where);
-  info.kind = kind;
-  info.message = std::move(message);
-  Assert::addAssert(info);
+// "FcFace" of "Fc/Resource/Topology/FcFace.cpp".
+std::string sourceName(std::string_view file) {
+  file.remove_prefix(file.find_last_of("/\\") + 1);  // npos + 1 is 0
+  return std::string(file.substr(0, file.find('.')));
 }
 
 }  // namespace
 
-AssertInfo assertAt(const std::source_location& where) {
-  AssertInfo info;
-  info.function = qualifiedName(where.function_name());
-  info.source = classIn(info.function);
-  info.line = static_cast<int>(where.line());
-  return info;
-}
-
-void report(std::string message, const std::source_location& where) {
-  if (Assert::isEnabled()) add(AssertInfo::plainReport, std::move(message), where);
-}
-
-void reportUnimplementedCase(std::string message, const std::source_location& where) {
-  if (Assert::isEnabled()) add(AssertInfo::unimplementedCase, std::move(message), where);
+void report(AssertInfo record, const std::source_location& where) {
+  if (!Assert::isEnabled()) return;
+  if (record.function.empty()) record.function = qualifiedName(where.function_name());
+  if (record.source.empty()) record.source = sourceName(where.file_name());
+  record.line = static_cast<int>(where.line());
+  Assert::addAssert(record);
 }
 
 }  // namespace qor

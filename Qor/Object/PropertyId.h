@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "Qor/Object/FixedString.h"
@@ -19,19 +20,23 @@ class QOR_API PropertyId {
   const std::string& name() const { return m_name; }
   std::size_t hash() const { return std::hash<std::string>()(m_name); }
 
+  /// The one id of that name that lives as long as the program, made on the first call. A look-up
+  /// under a lock: callers keep the reference.
+  static const PropertyId& interned(std::string_view name);
+
   friend bool operator==(const PropertyId&, const PropertyId&) = default;
 
  private:
   std::string m_name;
 };
 
-/// The id of `Name`, made on the first call and the same object on each. Thread-safe.
+/// The id of `Name`, interned: the same object on each call. Thread-safe.
 ///
 /// `&propertyId<"Name">` is a constant of type `const PropertyId& (*)()`, fit for tables that need
 /// no start-up code.
 template <FixedString Name>
 const PropertyId& propertyId() {
-  static const PropertyId id{std::string(Name.view())};
+  static const PropertyId& id = PropertyId::interned(Name.view());
   return id;
 }
 

@@ -67,21 +67,21 @@ std::string setterDefinitions(const SchemaModel& model, const Entity& entity, st
   if (model.links(entity, attribute).empty() && !isList) return {};
   const std::string owner = generatedClassName(model, entity);
   const auto definition = [&](std::string_view operation, const std::string& parameter,
-                              std::string_view helper, std::string_view argument) {
-    return fmt::format("void {0}::{1}{2}({3}) {{ {4}(*this, attributeTable[{5}], m_{2}{6}); }}\n",
-                       owner, operation, attribute.name, parameter, helper, index, argument);
+                              std::string_view helper, std::string_view arguments) {
+    return fmt::format("void {0}::{1}{2}({3}) {{ {4}(*this, attributeTable[{5}], {6}); }}\n", owner,
+                       operation, attribute.name, parameter, helper, index, arguments);
   };
+  const std::string member = "m_" + attribute.name;
   std::string text =
-      definition("set", withoutOptional(type) + " value", "setLinked", ", std::move(value)");
+      definition("set", withoutOptional(type) + " value", "setLinked", member + ", value");
   if (isList) {
     const std::string element = elementOfList(type);
     const bool isSet = attribute.type.aggregates.front().kind == Aggregate::Kind::set;
-    text +=
-        isSet ? definition("insert", element + " value", "insertLinked", ", std::move(value)")
-              : definition("pushBack", element + " value", "pushBackLinked", ", std::move(value)");
-    text += definition("erase", "const " + element + "& value", "eraseLinked", ", value");
+    text += isSet ? definition("insert", element + " value", "insertLinked", "&value")
+                  : definition("pushBack", element + " value", "pushBackLinked", "&value");
+    text += definition("erase", "const " + element + "& value", "eraseLinked", "&value");
   }
-  if (attribute.optional) text += definition("clear", "", "setLinked", fmt::format(", {}()", type));
+  if (attribute.optional) text += definition("clear", "", "clearLinked", member);
   return text;
 }
 
@@ -120,11 +120,10 @@ std::string attributeTables(const SchemaModel& model, const Entity& entity) {
       arrays += linkArray(model, entity, links, found);
     }
     forward += fmt::format(
-        "    {{\"{0}\", &object::propertyId<\"{0}\">, \"{1}\", {2}, {3}, {{}}, {4},\n"
-        "     [](FcBase& entity) -> void* {{ return &static_cast<{5}&>(entity).m_{0}; }}, "
-        "&operationsOf<{6}>}},\n",
-        attribute.name, attribute.type.name, aggregates, attribute.optional, links, owner,
-        model.memberType(entity, attribute));
+        "    {{\"{0}\", {1}, \"{2}\", {3}, {4}, {{}}, {5}, offsetof({6}, m_{0}), "
+        "&operationsOf<{7}>}},\n",
+        attribute.name, model.nameIndex(attribute.name), attribute.type.name, aggregates,
+        attribute.optional, links, owner, model.memberType(entity, attribute));
   }
   for (const InverseAttribute& attribute : entity.inverses) {
     std::string aggregates = "{}";
@@ -133,10 +132,9 @@ std::string attributeTables(const SchemaModel& model, const Entity& entity) {
       arrays += aggregateArray(aggregates, {*attribute.aggregate});
     }
     inverse += fmt::format(
-        "    {{\"{0}\", &object::propertyId<\"{0}\">, \"{1}\", {2}, false, \"{3}\", {{}},\n"
-        "     [](FcBase& entity) -> void* {{ return "
-        "static_cast<InverseEntries*>(&static_cast<{4}&>(entity).m_{0}); }}, &{5}}},\n",
-        attribute.name, attribute.entity, aggregates, attribute.forward, owner,
+        "    {{\"{0}\", {1}, \"{2}\", {3}, false, \"{4}\", {{}}, offsetof({5}, m_{0}), &{6}}},\n",
+        attribute.name, model.nameIndex(attribute.name), attribute.entity, aggregates,
+        attribute.forward, owner,
         isSingle(attribute) ? "inverseRefOperations" : "inverseSetOperations");
   }
   std::string text = arrays;
@@ -160,20 +158,18 @@ std::string classRecord(const SchemaModel& model, const Entity& entity) {
     for (const std::string& name : entity.derived) text += fmt::format("\"{}\", ", name);
     text += "};\n";
   }
-  const std::string create =
-      entity.abstract
-          ? "nullptr"
-          : fmt::format("[]() -> std::shared_ptr<FcBase> {{ return makeEntity<{}>(); }}", final);
+  const std::string construct =
+      entity.abstract ? "nullptr" : fmt::format("constructEntity<{}>", final);
   return text +
          fmt::format(
              R"(constinit const ClassInfo {0}::record{{StringHash::of("{1}"), StringHash::of("{2}"), "{3}", "{4}", {5}, {6},
-    {7}, {8}, &typeid({9}), {10}, {11}, {12}, {13}}};
+    {7}, sizeof({9}), {8}, &typeid({9}), {10}, {11}, {12}, {13}}};
 )",
              owner, entity.name, upperName(entity.name), group.title, group.path,
              model.firstId(entity), model.lastId(entity),
              entity.supertype.empty() ? "nullptr"
                                       : "&" + model.className(entity.supertype, group) + "::record",
-             create, final, entity.attributes.empty() ? "{}" : "attributeTable",
+             construct, final, entity.attributes.empty() ? "{}" : "attributeTable",
              entity.inverses.empty() ? "{}" : "inverseTable", derived, model.linksTargets(entity));
 }
 
@@ -222,16 +218,14 @@ std::string classHeader(const SchemaModel& model, const Entity& entity) {
     tables +=
         fmt::format("  static const AttributeInfo inverseTable[{}];\n", entity.inverses.size());
 
-  std::string hidden;
-  if (entity.abstract) hidden += fmt::format("  {}() = default;\n", name);
-  if (model.isHandWritten(entity) && !entity.abstract)
-    hidden += fmt::format("  {}() = default;\n", name);
+  // The destructor is a real function, so that the code of each is that of its own members and not
+  // that of all above it; constructors, which store little but zeros, are worth repeating.
+  const bool isFinal = !entity.abstract && !model.isHandWritten(entity);
+  const std::string constructor = fmt::format("  {}() = default;\n", name);
+  std::string hidden = isFinal ? "" : constructor;
   if (!members.empty() && !hidden.empty()) hidden += '\n';
   hidden += members;
-  if (!hidden.empty())
-    hidden =
-        (model.isHandWritten(entity) || entity.abstract ? "\n protected:\n" : "\n private:\n") +
-        hidden;
+  if (!hidden.empty()) hidden = (isFinal ? "\n private:\n" : "\n protected:\n") + hidden;
 
   return header.around(fmt::format(
       R"(/// {0}, {1}.
@@ -240,7 +234,8 @@ class QOR_API {2} : public {3} {{
   static constexpr std::uint32_t firstClassId = {4};
   static constexpr std::uint32_t lastClassId = {5};
   static constexpr const char* spelling = "qor::fc::{6}::{7}";
-{8}  static const ClassInfo& info() {{ return record; }}
+{8}{12}  ~{2}() override;
+  static const ClassInfo& info() {{ return record; }}
   const ClassInfo& classInfo() const override;
   void accept(FcVisitorBase& visitor) const override;
   void accept(FcVisitorBaseNonConst& visitor) override;
@@ -248,7 +243,7 @@ class QOR_API {2} : public {3} {{
 )",
       entity.name, group.path, name, isRoot ? "FcBase" : model.className(entity.supertype, group),
       model.firstId(entity), model.lastId(entity), group.name, fcName(entity.name), tables,
-      accessors.empty() ? "" : "\n", accessors, hidden));
+      accessors.empty() ? "" : "\n", accessors, hidden, isFinal ? constructor : ""));
 }
 
 std::string classSource(const SchemaModel& model, const Entity& entity) {
@@ -257,7 +252,10 @@ std::string classSource(const SchemaModel& model, const Entity& entity) {
   const std::string parent =
       entity.supertype.empty() ? "FcBase" : model.className(entity.supertype, group);
   std::string text = attributeTables(model, entity) + classRecord(model, entity);
-  text += fmt::format("const ClassInfo& {}::classInfo() const {{ return record; }}\n", owner);
+  text += fmt::format(
+      "{0}::~{0}() = default;\n"
+      "const ClassInfo& {0}::classInfo() const {{ return record; }}\n",
+      owner);
   for (const bool isConst : {true, false}) {
     text += fmt::format(
         "void {0}::accept({1}& visitor){2} {{\n  if (visitor.visit(static_cast<{3}{4}&>(*this))) "

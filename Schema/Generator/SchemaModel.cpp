@@ -59,6 +59,13 @@ SchemaModel::SchemaModel(SchemaTable table, std::set<std::string> handWritten)
       const InverseAttribute& inverse = entity->inverses[i];
       m_links[{inverse.entity, inverse.forward}].push_back({entity, i, isSingle(inverse)});
     }
+
+  std::set<std::string> names;
+  for (const Entity& entity : m_table.entities) {
+    for (const Attribute& attribute : entity.attributes) names.insert(attribute.name);
+    for (const InverseAttribute& inverse : entity.inverses) names.insert(inverse.name);
+  }
+  m_attributeNames.assign(names.begin(), names.end());
 }
 
 void SchemaModel::number(const Entity& entity, std::uint32_t& next) {
@@ -177,6 +184,11 @@ std::vector<SchemaModel::Link> SchemaModel::links(const Entity& owner,
                                                   const Attribute& attribute) const {
   const auto found = m_links.find({owner.name, attribute.name});
   return found == m_links.end() ? std::vector<Link>() : found->second;
+}
+
+std::size_t SchemaModel::nameIndex(const std::string& attribute) const {
+  const auto place = std::lower_bound(m_attributeNames.begin(), m_attributeNames.end(), attribute);
+  return static_cast<std::size_t>(place - m_attributeNames.begin());
 }
 
 bool SchemaModel::linksTargets(const Entity& entity) const {

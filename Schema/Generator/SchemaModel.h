@@ -62,6 +62,11 @@ class SchemaModel {
   /// pushBack and erase.
   bool isReferenceList(const Attribute& attribute) const;
 
+  /// The names of all attributes, forward and inverse, each once, in ascending order.
+  const std::vector<std::string>& attributeNames() const { return m_attributeNames; }
+  /// The position of an attribute's name among them.
+  std::size_t nameIndex(const std::string& attribute) const;
+
   std::vector<Link> links(const Entity& owner, const Attribute& attribute) const;
   /// The class or one of its supertypes has a forward attribute with an inverse.
   bool linksTargets(const Entity& entity) const;
@@ -90,6 +95,7 @@ class SchemaModel {
   std::map<std::string, std::pair<std::uint32_t, std::uint32_t>> m_ids;
   std::vector<const Entity*> m_byId;
   std::map<std::pair<std::string, std::string>, std::vector<Link>> m_links;
+  std::vector<std::string> m_attributeNames;
 };
 
 /// "IfcWall" gives "FcWall".

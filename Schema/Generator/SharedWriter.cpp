@@ -61,7 +61,17 @@ std::string groupSource(const SchemaModel& model, const Group& group) {
   }
   files.insert({"Fc/FcVisitorBase.h", "Fc/FcVisitorBaseNonConst.h", "Fc/Reflection/Links.h",
                 "Fc/Reflection/MakeEntity.h", "Fc/Reflection/ValueTraits.h"});
-  return fmt::format("{0}\nnamespace qor::fc::{1} {{\n\n{2}}}  // namespace qor::fc::{1}\n",
+  return fmt::format(R"({0}#include <cstddef>
+
+// What the standard leaves to the compiler, all of them do: the members of these classes have fixed places.
+#if defined(__GNUC__)
+#pragma GCC diagnostic ignored "-Winvalid-offsetof"
+#endif
+
+namespace qor::fc::{1} {{
+
+{2}}}  // namespace qor::fc::{1}
+)",
                      includes(files), group.name, body);
 }
 
@@ -128,6 +138,9 @@ std::string schemaTablesSource(const SchemaModel& model) {
     files.insert(headerOf(model, select.name));
     selects += fmt::format("    &{}::table,\n", qualified(model, select.name));
   }
+  std::string names;
+  for (const std::string& name : model.attributeNames())
+    names += fmt::format("    \"{}\",\n", name);
   return includes(files) + fmt::format(R"(
 namespace qor::fc {{
 
@@ -139,15 +152,18 @@ static constinit const EnumInfo* const enumerationTable[] = {{
 {}}};
 static constinit const SelectInfo* const selectTable[] = {{
 {}}};
+static constinit const char* const attributeNameTable[] = {{
+{}}};
 
 std::span<const ClassInfo* const> SchemaTables::classes() {{ return classTable; }}
 std::span<const SchemaTables::HashedClass> SchemaTables::classesByHash() {{ return hashTable; }}
 std::span<const EnumInfo* const> SchemaTables::enumerations() {{ return enumerationTable; }}
 std::span<const SelectInfo* const> SchemaTables::selects() {{ return selectTable; }}
+std::span<const char* const> SchemaTables::attributeNames() {{ return attributeNameTable; }}
 
 }}  // namespace qor::fc
 )",
-                                       classes, hashes, enumerations, selects);
+                                       classes, hashes, enumerations, selects, names);
 }
 
 }  // namespace qor::schema

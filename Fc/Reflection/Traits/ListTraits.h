@@ -1,106 +1,87 @@
 #pragma once
 
-#include <optional>
-#include <string>
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
 #include <type_traits>
 #include <utility>
-#include <variant>
 #include <vector>
 
-#include "Fc/HelperFunctions.h"
 #include "Fc/Reflection/Traits/ScalarTraits.h"  // the list of bytes, which is none
+#include "Fc/Reflection/TypeOperations.h"
+#include "Qor/Platform/Export.h"
 
 namespace qor::fc {
 
-/// "(a, b, c)"; empty when one element has no text.
-template <class List>
-std::optional<std::string> listAsString(const List& list) {
-  std::string text = "(";
-  bool first = true;
-  for (const auto& element : list) {
-    const auto part = ValueTraits<std::remove_cvref_t<decltype(element)>>::getAsString(element);
-    if (!part) return std::nullopt;
-    if (!first) text += ", ";
-    first = false;
-    text += *part;
-  }
-  return text + ")";
-}
+/// For all lists.
+extern QOR_API const TypeFunctions listFunctions;
+
+/// What differs from one type of elements to the next: a few functions on a `std::vector` of it.
+struct ListOperations : TypeOperations {
+  struct Elements {
+    std::byte* first;
+    std::size_t count;
+  };
+
+  const TypeOperations* element;
+  std::size_t elementSize;
+  Elements (*elements)(void* list);
+  /// The address of a fresh element at the end.
+  void* (*append)(void* list);
+  /// Leaves the elements from `from` on and before `to`, in as little memory as they need.
+  void (*keep)(void* list, std::size_t from, std::size_t to);
+  /// Swaps two elements.
+  void (*exchange)(void* a, void* b);
+  /// The assignment of the vector; null where elements hold entities, which a copy doesn't share.
+  void (*copy)(void* list, const void* source);
+};
+
+/// Whether elements of type `T` may be copied as they stand, since they hold no entities.
+template <class T>
+struct IsPlainElement : std::bool_constant<operationsOf<T>.family == TypeFamily::value ||
+                                           operationsOf<T>.family == TypeFamily::tuple ||
+                                           operationsOf<T>.family == TypeFamily::enumeration> {};
+template <class T>
+struct IsPlainElement<std::vector<T>> : IsPlainElement<T> {};
+template <>
+struct IsPlainElement<std::vector<std::uint8_t>> : std::true_type {};
 
 template <class T>
 struct ValueTraits<std::vector<T>> {
   using List = std::vector<T>;
-  using Traits = ValueTraits<T>;
-  static constexpr TypeFamily family = TypeFamily::list;
-  static constexpr bool entitiesOnly = Traits::entitiesOnly;
-  static constexpr const EnumInfo* enumeration = Traits::enumeration;
-  static constexpr const SelectInfo* select = Traits::select;
 
-  static std::optional<std::string> getAsString(const List& m) {
-    if constexpr (entitiesOnly)
-      return getMemberAsStringObject();
-    else
-      return listAsString(m);
+  static ListOperations::Elements elements(void* list) {
+    List& m = *static_cast<List*>(list);
+    return {reinterpret_cast<std::byte*>(m.data()), m.size()};
   }
-  static bool setFromString(List&, const std::string&) {
-    return entitiesOnly ? setMemberFromStringObject() : setMemberFromStringPrimitive();
+  static void* append(void* list) { return &static_cast<List*>(list)->emplace_back(); }
+  static void keep(void* list, std::size_t from, std::size_t to) {
+    List& m = *static_cast<List*>(list);
+    if (to - from == m.capacity()) return;
+    T* first = m.data();
+    m = List(std::make_move_iterator(first + from), std::make_move_iterator(first + to));
   }
-  static LocalValue getLocalValue(const List& m) {
-    LocalValue::List values;
-    values.reserve(m.size());
-    for (const T& element : m) values.push_back(Traits::getLocalValue(element));
-    return LocalValue(std::move(values));
+  static void exchange(void* a, void* b) {
+    using std::swap;
+    swap(*static_cast<T*>(a), *static_cast<T*>(b));
   }
-  static bool setLocalValue(List& m, const LocalValue& v) {
-    if (v.isEmpty()) {
-      m.clear();
-      return true;
-    }
-    const auto* values = std::get_if<LocalValue::List>(&v.value);
-    if (!values) return false;
-    List list(values->size());
-    for (std::size_t i = 0; i < list.size(); ++i)
-      if (!Traits::setLocalValue(list[i], (*values)[i])) return false;
-    m = std::move(list);
-    return true;
+  static void copy(void* list, const void* source) {
+    *static_cast<List*>(list) = *static_cast<const List*>(source);
   }
-  static void forEachEntity(const List& m, TypeOperations::EntityCallback callback) {
-    for (const T& element : m) Traits::forEachEntity(element, callback);
+  static constexpr auto copyOfPlain() -> decltype(ListOperations::copy) {
+    if constexpr (IsPlainElement<T>::value) return copy;
+    return nullptr;
   }
-  static void forEachTarget(const List& m, TypeOperations::EntityCallback callback) {
-    for (const T& element : m) TypeOperationsMaker<T>::forEachTarget(&element, callback);
-  }
-  /// An element that doesn't fit is left out, the others stay.
-  static bool read(List& m, ValueSource& source, const TypeOperations& self) {
-    if (source.next() != ValueSource::Kind::list)
-      return rejectNext(source, Rejection::wrongKind, self);
-    m.clear();
-    source.openList();
-    while (source.more()) {
-      if (!Traits::read(m.emplace_back(), source, operationsOf<T>)) m.pop_back();
-    }
-    m.shrink_to_fit();
-    return true;
-  }
-  static void write(const List& m, ValueSink& sink) {
-    sink.openList();
-    for (const T& element : m) Traits::write(element, sink);
-    sink.closeList();
-  }
-  static void assign(List& m, const List& source, FcCopySettings& settings) {
-    if constexpr (std::is_base_of_v<PlainValueTraits, Traits> &&
-                  Traits::family != TypeFamily::select) {
-      m = source;
-    } else {
-      m.clear();
-      m.reserve(source.size());
-      for (const T& element : source) Traits::assign(m.emplace_back(), element, settings);
-    }
-  }
-  static std::weak_ordering compare(const List& a, const List& b,
-                                    TypeOperations::PairCallback defer) {
-    return listOrder(a, b, defer);
-  }
+  static constexpr const TypeOperations& element = operationsOf<T>;
+  static constexpr ListOperations operations{
+      {TypeFamily::list, element.entitiesOnly, element.enumeration, element.select, &listFunctions},
+      &element,
+      sizeof(T),
+      elements,
+      append,
+      keep,
+      exchange,
+      copyOfPlain()};
 };
 
 }  // namespace qor::fc

@@ -1,70 +1,46 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
-#include <optional>
-#include <string>
-#include <variant>
+#include <utility>
 
-#include "Fc/FcBase.h"
-#include "Fc/HelperFunctions.h"
 #include "Fc/Reflection/Traits/TraitsBase.h"
+#include "Fc/Reflection/TypeOperations.h"
+#include "Qor/Platform/Export.h"
 
 namespace qor::fc {
 
+/// For all references.
+extern QOR_API const TypeFunctions referenceFunctions;
+
+/// What differs from one class of targets to the next: its range of ids, and two functions on a
+/// `std::shared_ptr` to it.
+struct ReferenceOperations : TypeOperations {
+  std::uint32_t firstClassId;
+  std::uint32_t lastClassId;
+  /// The entity; null for none.
+  FcBase* (*entity)(const void* reference);
+  /// Puts `entity`, null or one whose class fits, into the reference, and what was there into
+  /// `entity`.
+  void (*exchange)(void* reference, std::shared_ptr<FcBase>& entity);
+};
+
 template <class T>
 struct ValueTraits<std::shared_ptr<T>> {
-  using Reference = std::shared_ptr<T>;
-  static constexpr TypeFamily family = TypeFamily::reference;
-  static constexpr bool entitiesOnly = true;
-  static constexpr const EnumInfo* enumeration = nullptr;
-  static constexpr const SelectInfo* select = nullptr;
-
-  static std::optional<std::string> getAsString(const Reference&) {
-    return getMemberAsStringObject();
+  static FcBase* entity(const void* reference) {
+    return static_cast<const std::shared_ptr<T>*>(reference)->get();
   }
-  static bool setFromString(Reference&, const std::string&) { return setMemberFromStringObject(); }
-  static LocalValue getLocalValue(const Reference& m) {
-    return m ? LocalValue(std::static_pointer_cast<FcBase>(m)) : LocalValue(details::EmptyValue());
+  static void exchange(void* reference, std::shared_ptr<FcBase>& entity) {
+    auto value = std::static_pointer_cast<T>(std::move(entity));
+    value.swap(*static_cast<std::shared_ptr<T>*>(reference));
+    entity = std::move(value);
   }
-  static bool setLocalValue(Reference& m, const LocalValue& v) {
-    if (v.isEmpty()) {
-      m.reset();
-      return true;
-    }
-    const auto* entity = std::get_if<std::shared_ptr<FcBase>>(&v.value);
-    if (!entity) return false;
-    m = fcCast<T>(*entity);
-    return true;
-  }
-  static void forEachEntity(const Reference& m, TypeOperations::EntityCallback callback) {
-    if (m) callback(*m);
-  }
-  static bool read(Reference& m, ValueSource& source, const TypeOperations& self) {
-    m.reset();
-    if (source.next() != ValueSource::Kind::entity) {
-      if (skipNull(source)) return true;
-      return rejectNext(source, Rejection::wrongKind, self);
-    }
-    const std::shared_ptr<FcBase>* entity = source.takeEntity();
-    if (!entity) return false;
-    m = fcCast<T>(*entity);
-    if (!m) source.rejected(Rejection::wrongClass, (*entity)->ifcNameUpper(), self);
-    return m != nullptr;
-  }
-  static void write(const Reference& m, ValueSink& sink) {
-    if (m)
-      sink.entity(*m);
-    else
-      sink.null();
-  }
-  static void assign(Reference& m, const Reference& source, FcCopySettings& settings) {
-    m = source ? fcCast<T>(source->allocateAndQueueCopy(settings)) : nullptr;
-  }
-  static std::weak_ordering compare(const Reference& a, const Reference& b,
-                                    TypeOperations::PairCallback defer) {
-    if (a && b) defer(*a, *b);
-    return (a != nullptr) <=> (b != nullptr);
-  }
+  static constexpr ReferenceOperations operations{
+      {TypeFamily::reference, true, nullptr, nullptr, &referenceFunctions},
+      T::firstClassId,
+      T::lastClassId,
+      entity,
+      exchange};
 };
 
 }  // namespace qor::fc

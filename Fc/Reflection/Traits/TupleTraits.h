@@ -4,51 +4,79 @@
 #include <cstddef>
 #include <optional>
 #include <string>
-#include <type_traits>
 #include <utility>
 #include <variant>
 #include <vector>
 
 #include "Fc/HelperFunctions.h"
 #include "Fc/Reflection/CountedTriple.h"
+#include "Fc/Reflection/Traits/DefinedTypeTraits.h"
 #include "Fc/Reflection/Traits/ListTraits.h"
 
 namespace qor::fc {
 
-/// Reads a list of exactly, or with `atLeast` given of at least that many, elements into `out`;
-/// false and a report otherwise.
+/// What tuples of numbers share: they are short and many, so that their code is made for each type.
 template <class T, std::size_t N>
-bool readTuple(std::array<T, N>& out, std::size_t& count, std::size_t atLeast, ValueSource& source,
-               const TypeOperations& self) {
-  if (source.next() != ValueSource::Kind::list)
-    return rejectNext(source, Rejection::wrongKind, self);
-  bool sound = true;
-  count = 0;
-  source.openList();
-  while (source.more()) {
-    if (count < N)
-      sound = ValueTraits<T>::read(out[count], source, operationsOf<T>) && sound;
-    else
-      source.skip();
-    ++count;
+struct TupleTraitsBase {
+  using Numbers = std::array<T, N>;
+
+  /// "(a, b, c)"; empty when one element has no text.
+  static std::optional<std::string> textOf(const Numbers& numbers) {
+    std::string text;
+    for (const T& number : numbers) {
+      const auto part = ValueTraits<T>::getAsString(number);
+      if (!part) return std::nullopt;
+      text += (text.empty() ? "(" : ", ") + *part;
+    }
+    return text + ")";
   }
-  if (sound && (count > N || count < atLeast)) {
-    source.rejected(Rejection::wrongCount, {}, self);
-    return false;
+  /// Reads a list of exactly, or with `atLeast` given of at least that many, elements into `out`;
+  /// false and a report otherwise.
+  static bool readNumbers(Numbers& out, std::size_t& count, std::size_t atLeast,
+                          ValueSource& source, const TypeOperations& self) {
+    if (source.next() != ValueSource::Kind::list)
+      return rejectNext(source, Rejection::wrongKind, self);
+    bool sound = true;
+    count = 0;
+    source.openList();
+    while (source.more()) {
+      if (count < N)
+        sound = ValueTraits<T>::read(out[count], source, operationsOf<T>) && sound;
+      else
+        source.skip();
+      ++count;
+    }
+    if (sound && (count > N || count < atLeast)) {
+      source.rejected(Rejection::wrongCount, {}, self);
+      return false;
+    }
+    return sound;
   }
-  return sound;
-}
+  template <class List>
+  static void write(const List& m, ValueSink& sink) {
+    sink.openList();
+    for (const T& number : m) ValueTraits<T>::write(number, sink);
+    sink.closeList();
+  }
+  /// A shorter list is less than a longer one, lists of one length go by their first difference.
+  template <class List>
+  static std::weak_ordering compare(const List& a, const List& b) {
+    if (a.size() != b.size()) return a.size() <=> b.size();
+    for (std::size_t i = 0; i < a.size(); ++i)
+      if (const auto order = orderOf(a[i].value(), b[i].value()); order != 0) return order;
+    return std::weak_ordering::equivalent;
+  }
+};
 
 /// A list whose length the schema fixes: two or three numbers.
 template <class T, std::size_t N>
-struct ValueTraits<std::array<T, N>> : PlainValueTraits {
+struct ValueTraits<std::array<T, N>> : TupleTraitsBase<T, N> {
   using Tuple = std::array<T, N>;
-  using Number = std::remove_cvref_t<decltype(std::get<0>(
-      std::declval<std::array<typename T::ValueType, 1>>()))>;
-  using Numbers = std::array<Number, N>;
-  static constexpr TypeFamily family = TypeFamily::tuple;
+  using Numbers = std::array<typename T::ValueType, N>;
+  static constexpr TypeOperations operations{TypeFamily::tuple, false, nullptr, nullptr,
+                                             &TypedFunctions<Tuple>::table};
 
-  static std::optional<std::string> getAsString(const Tuple& m) { return listAsString(m); }
+  static std::optional<std::string> getAsString(const Tuple& m) { return ValueTraits::textOf(m); }
   static bool setFromString(Tuple&, const std::string&) { return setMemberFromStringPrimitive(); }
   static LocalValue getLocalValue(const Tuple& m) {
     Numbers numbers;
@@ -64,37 +92,30 @@ struct ValueTraits<std::array<T, N>> : PlainValueTraits {
   static bool read(Tuple& m, ValueSource& source, const TypeOperations& self) {
     Tuple numbers;
     std::size_t count = 0;
-    if (!readTuple(numbers, count, N, source, self)) return false;
+    if (!ValueTraits::readNumbers(numbers, count, N, source, self)) return false;
     m = numbers;
     return true;
-  }
-  static void write(const Tuple& m, ValueSink& sink) {
-    sink.openList();
-    for (const T& number : m) ValueTraits<T>::write(number, sink);
-    sink.closeList();
-  }
-  static std::weak_ordering compare(const Tuple& a, const Tuple& b,
-                                    TypeOperations::PairCallback defer) {
-    return listOrder(a, b, defer);
   }
 };
 
 /// Coordinates and ratios: a list to reflection, three numbers as text.
 template <class T>
-struct ValueTraits<CountedTriple<T>> : PlainValueTraits {
+struct ValueTraits<CountedTriple<T>> : TupleTraitsBase<T, CountedTriple<T>::capacity> {
   using Triple = CountedTriple<T>;
-  static constexpr TypeFamily family = TypeFamily::list;
+  static constexpr TypeOperations operations{TypeFamily::list, false, nullptr, nullptr,
+                                             &TypedFunctions<Triple>::table};
 
   static std::optional<std::string> getAsString(const Triple& m) {
-    return listAsString(std::array<T, Triple::capacity>{m[0], m[1], m[2]});
+    return ValueTraits::textOf({m[0], m[1], m[2]});
   }
   static bool setFromString(Triple&, const std::string&) { return setMemberFromStringPrimitive(); }
   static LocalValue getLocalValue(const Triple& m) {
-    return ValueTraits<std::vector<T>>::getLocalValue({m.begin(), m.end()});
+    const std::vector<T> values(m.begin(), m.end());
+    return operationsOf<std::vector<T>>.getLocalValue(&values);
   }
   static bool setLocalValue(Triple& m, const LocalValue& v) {
     std::vector<T> values;
-    if (!ValueTraits<std::vector<T>>::setLocalValue(values, v) || values.size() > Triple::capacity)
+    if (!operationsOf<std::vector<T>>.setLocalValue(&values, v) || values.size() > Triple::capacity)
       return false;
     m.clear();
     for (const T& value : values) m.pushBack(value);
@@ -103,19 +124,10 @@ struct ValueTraits<CountedTriple<T>> : PlainValueTraits {
   static bool read(Triple& m, ValueSource& source, const TypeOperations& self) {
     std::array<T, Triple::capacity> numbers;
     std::size_t count = 0;
-    if (!readTuple(numbers, count, 0, source, self)) return false;
+    if (!ValueTraits::readNumbers(numbers, count, 0, source, self)) return false;
     m.clear();
     for (std::size_t i = 0; i < count; ++i) m.pushBack(numbers[i]);
     return true;
-  }
-  static void write(const Triple& m, ValueSink& sink) {
-    sink.openList();
-    for (const T& number : m) ValueTraits<T>::write(number, sink);
-    sink.closeList();
-  }
-  static std::weak_ordering compare(const Triple& a, const Triple& b,
-                                    TypeOperations::PairCallback defer) {
-    return listOrder(a, b, defer);
   }
 };
 

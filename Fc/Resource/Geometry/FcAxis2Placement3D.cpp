@@ -102,7 +102,7 @@ void FcAxis2Placement3D::transform(const Matrix& matrix) {
 }
 
 std::shared_ptr<FcAxis2Placement3D> makePlacement(const Matrix& matrix) {
-  return std::allocate_shared<FcAxis2Placement3D>(EntityAllocator<FcAxis2Placement3D>(), matrix);
+  return std::make_shared<FcAxis2Placement3D>(matrix);
 }
 
 }  // namespace qor::fc::resource::geometry

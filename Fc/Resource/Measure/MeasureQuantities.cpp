@@ -77,9 +77,12 @@ std::unique_ptr<unit::QuantityPresentationBase> createMeasurePresentation(std::s
                                                                           double number) {
   if (const unit::QuantityBase* quantity = quantityOfMeasure(name))
     return quantity->createPresentation(number);
-  reportUnimplementedCase(
-      "qor::fc::helper::createQuantityPresentationFromValue: Not "
-      "implemented unit for this");
+  report({.kind = AssertInfo::unimplementedCase,
+          .message =
+              "qor::fc::helper::createQuantityPresentationFromValue: Not implemented unit for "
+              "this",
+          .function = "qor::fc::helper::createQuantityPresentationFromValue",
+          .source = "Utilities/UnitHelper"});
   return nullptr;
 }
 

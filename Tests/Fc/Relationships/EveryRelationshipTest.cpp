@@ -79,7 +79,8 @@ TEST(Relationships, AreTheSameInBothDirections) {
 // An instance of the class, or of the first subclass that has any.
 std::shared_ptr<FcBase> instanceOf(const ClassInfo& info) {
   for (std::uint32_t id = info.classId; id <= info.classIdLast; ++id)
-    if (const auto create = Factory::classes()[id - 1]->create) return create();
+    if (const ClassInfo& candidate = *Factory::classes()[id - 1]; !candidate.isAbstract())
+      return candidate.create();
   return nullptr;
 }
 
