@@ -1,6 +1,7 @@
 // What items answer by tasks of the complex geometry processor.
 
 #include <memory>
+#include <source_location>
 
 #include "Fc/ComplexGeometry/FcCalculateDistanceTask.h"
 #include "Fc/ComplexGeometry/FcComplexGeometryProcessorInterface.h"
@@ -13,9 +14,11 @@
 namespace qor::fc::resource::geometry {
 namespace {
 
-const FcComplexGeometryProcessorInterface* processorFor(const FcRepresentationItem& item) {
+const FcComplexGeometryProcessorInterface* processorFor(
+    const FcRepresentationItem& item,
+    const std::source_location& where = std::source_location::current()) {
   const auto* processor = getCurrentComplexGeometryProcessor();
-  if (!processor) report(item, "No FcComplexGeometryProcessorInterface implementation set.");
+  if (!processor) report(item, "No FcComplexGeometryProcessorInterface implementation set.", where);
   return processor;
 }
 

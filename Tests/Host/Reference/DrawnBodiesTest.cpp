@@ -5,9 +5,11 @@
 #include <map>
 
 #include "Fc/Core/Kernel/FcProduct.h"
+#include "Fc/Core/ProductExtension/FcAnnotation.h"
 #include "Fc/Core/ProductExtension/FcElement.h"
 #include "Fc/Core/ProductExtension/FcFeatureElementSubtraction.h"
 #include "Fc/Resource/GeometricConstraint/FcGridPlacement.h"
+#include "Fc/Resource/GeometricModel/FcSurfaceCurveSweptAreaSolid.h"
 #include "Fc/Resource/Representation/FcProductRepresentation.h"
 #include "Fc/Resource/Representation/FcRepresentation.h"
 #include "Host/Cli/RepresentationChoice.h"
@@ -43,9 +45,21 @@ bool hasBody(const FcProduct& product, const RepresentationChoice& bodies) {
   return false;
 }
 
-/// Openings are what is taken away, and no place is computed on a grid.
+/// A solid of a class that draws nothing.
+bool holdsUndrawnSolid(const FcProduct& product) {
+  for (const auto& representation : product.Representation()->Representations())
+    for (const auto& item : representation->Items())
+      if (fc::fcCast<fc::resource::geometricmodel::FcSurfaceCurveSweptAreaSolid>(item)) return true;
+  return false;
+}
+
+/// Openings are what is taken away, no place is computed on a grid, and a walk doesn't meet
+/// annotations that no place contains.
 bool isLeftOut(const FcProduct& product) {
-  return fc::fcCast<fc::core::productextension::FcFeatureElementSubtraction>(&product) ||
+  const auto* annotation = fc::fcCast<fc::core::productextension::FcAnnotation>(&product);
+  if (annotation && annotation->ContainedInStructure().empty()) return true;
+  return holdsUndrawnSolid(product) ||
+         fc::fcCast<fc::core::productextension::FcFeatureElementSubtraction>(&product) ||
          fc::fcCast<fc::resource::geometricconstraint::FcGridPlacement>(
              product.ObjectPlacement().get());
 }
