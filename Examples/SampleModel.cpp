@@ -53,9 +53,9 @@
 namespace sample {
 namespace {
 
-// The house stands on [0, length] by [0, width], its ridge along Y. All in metres.
-constexpr double length = 8;
-constexpr double width = 6;
+// The house stands on [0, houseLength] by [0, houseWidth], its ridge along Y. All in metres.
+constexpr double houseLength = 8;
+constexpr double houseWidth = 6;
 constexpr double storeyHeight = 2.8;
 constexpr double wallThickness = 0.24;
 constexpr double slabThickness = 0.2;
@@ -65,7 +65,7 @@ constexpr double kneeHeight = 1.2;  // of the outer faces of the walls below the
 constexpr double rise = 0.75;
 constexpr double cosine = 0.8;
 constexpr double sine = 0.6;
-constexpr double ridgeHeight = kneeHeight + rise * length / 2;
+constexpr double ridgeHeight = kneeHeight + rise * houseLength / 2;
 constexpr double roofHeight = 0.25;  // 0.2 thick, measured upright
 constexpr double eaves = 0.5;        // how far the roof reaches beyond the walls
 constexpr double verge = 0.35;
@@ -147,8 +147,8 @@ class SampleHouse {
     auto room = createSpatial<FcSpace>("0.1", at(wallThickness, wallThickness, 0), storey);
     room->setLongName("Living room");
     m_shapes.showBody(*room, RepresentationType::SweptSolid,
-                      {m_shapes.box({0, 0, 0}, length - 2 * wallThickness,
-                                    width - 2 * wallThickness, storeyHeight - slabThickness)});
+                      {m_shapes.box({0, 0, 0}, houseLength - 2 * wallThickness,
+                                    houseWidth - 2 * wallThickness, storeyHeight - slabThickness)});
     return room;
   }
 
@@ -156,10 +156,10 @@ class SampleHouse {
 
   void buildGround(const Storey& storey) {
     const auto slab = createBaseSlab(storey);
-    const auto south = createWall("South wall", southFrame(), length, storeyHeight, storey);
-    const auto east = createWall("East wall", eastFrame(), width, storeyHeight, storey);
-    const auto north = createWall("North wall", northFrame(), length, storeyHeight, storey);
-    const auto west = createWall("West wall", westFrame(), width, storeyHeight, storey);
+    const auto south = createWall("South wall", southFrame(), houseLength, storeyHeight, storey);
+    const auto east = createWall("East wall", eastFrame(), houseWidth, storeyHeight, storey);
+    const auto north = createWall("North wall", northFrame(), houseLength, storeyHeight, storey);
+    const auto west = createWall("West wall", westFrame(), houseWidth, storeyHeight, storey);
     m_model.contain(storey, {slab, south, east, north, west, createDoorstep(storey),
                              m_openings.addFrontDoor(south, 1.2),
                              m_openings.addWindow("K\u00FCchenfenster", south, 4.75, 0.9),  // UTF-8
@@ -182,17 +182,17 @@ class SampleHouse {
         {slab, south, east, north, west, createRoof(storey), createBalcony(storey),
          m_steel.createRailing(storey), m_openings.addWindow("South window", south, 1.6, 0.9),
          m_openings.addBalconyDoor(south, 5),
-         m_openings.addRoundWindow("South round window", south, length / 2, 3.1),
+         m_openings.addRoundWindow("South round window", south, houseLength / 2, 3.1),
          m_openings.addWindow("Gable window", north, 3.25, 0.9),
-         m_openings.addRoundWindow("North round window", north, length / 2, 3.1)});
+         m_openings.addRoundWindow("North round window", north, houseLength / 2, 3.1)});
   }
 
   // Walls: outlines mitred at the corners, so that the bodies meet and don't overlap.
 
   static math::Matrix southFrame() { return wallFrame({0, 0, 0}, {1, 0, 0}); }
-  static math::Matrix eastFrame() { return wallFrame({length, 0, 0}, {0, 1, 0}); }
-  static math::Matrix northFrame() { return wallFrame({length, width, 0}, {-1, 0, 0}); }
-  static math::Matrix westFrame() { return wallFrame({0, width, 0}, {0, -1, 0}); }
+  static math::Matrix eastFrame() { return wallFrame({houseLength, 0, 0}, {0, 1, 0}); }
+  static math::Matrix northFrame() { return wallFrame({houseLength, houseWidth, 0}, {-1, 0, 0}); }
+  static math::Matrix westFrame() { return wallFrame({0, houseWidth, 0}, {0, -1, 0}); }
 
   Item mitredWall(double along, double height) {
     return m_shapes.extrude(m_shapes.polygon({{0, 0},
@@ -218,18 +218,18 @@ class SampleHouse {
   }
   /// Cut off below both pitches of the roof.
   Wall createGable(const std::string& name, const math::Matrix& frame, const Storey& storey) {
-    const Item whole = mitredWall(length, ridgeHeight + 0.5);
+    const Item whole = mitredWall(houseLength, ridgeHeight + 0.5);
     const Item left =
         m_shapes.cutOffAbove(whole, roofPlane({0, 0, kneeHeight}, {-sine, 0, cosine}));
     const Item both =
-        m_shapes.cutOffAbove(left, roofPlane({length, 0, kneeHeight}, {sine, 0, cosine}));
-    return createWall(name, frame, length, RepresentationType::Clipping, both, storey);
+        m_shapes.cutOffAbove(left, roofPlane({houseLength, 0, kneeHeight}, {sine, 0, cosine}));
+    return createWall(name, frame, houseLength, RepresentationType::Clipping, both, storey);
   }
   /// Its top slopes with the roof.
   Wall createKneeWall(const std::string& name, const math::Matrix& frame, const Storey& storey) {
-    const Item body = m_shapes.cutOffAbove(mitredWall(width, kneeHeight + 0.5),
+    const Item body = m_shapes.cutOffAbove(mitredWall(houseWidth, kneeHeight + 0.5),
                                            roofPlane({0, 0, kneeHeight}, {0, -sine, cosine}));
-    return createWall(name, frame, width, RepresentationType::Clipping, body, storey);
+    return createWall(name, frame, houseWidth, RepresentationType::Clipping, body, storey);
   }
 
   // Slabs, with their tops at the height of the floor
@@ -245,7 +245,7 @@ class SampleHouse {
   }
   Slab createBaseSlab(const Storey& storey) {
     return createSlab("Base slab", FcSlabTypeEnum::BASESLAB,
-                      m_shapes.box({0, 0, 0}, length, width, slabThickness), storey);
+                      m_shapes.box({0, 0, 0}, houseLength, houseWidth, slabThickness), storey);
   }
   Slab createDoorstep(const Storey& storey) {
     return createSlab("Doorstep", FcSlabTypeEnum::LANDING,
@@ -253,7 +253,7 @@ class SampleHouse {
   }
   /// Between the walls, with openings for stair and chimney.
   Slab createFloorSlab(const Storey& storey) {
-    const double x = length - wallThickness, y = width - wallThickness;
+    const double x = houseLength - wallThickness, y = houseWidth - wallThickness;
     const auto outline = m_shapes.polygon(
         {{wallThickness, wallThickness}, {x, wallThickness}, {x, y}, {wallThickness, y}});
     const auto slab = createSlab("Floor slab", FcSlabTypeEnum::FLOOR,
@@ -275,15 +275,15 @@ class SampleHouse {
     auto roof = m_model.createRoot<FcRoof>("Roof");
     m_model.place(*roof, {}, storey);
     roof->setPredefinedType(FcRoofTypeEnum::GABLE_ROOF);
-    const double low = kneeHeight - rise * eaves, high = ridgeHeight, middle = length / 2;
+    const double low = kneeHeight - rise * eaves, high = ridgeHeight, middle = houseLength / 2;
     const auto west = createPitch(
         "West pitch",
         {{-eaves, low}, {middle, high}, {middle, high + roofHeight}, {-eaves, low + roofHeight}},
         roof);
     const auto east = createPitch("East pitch",
                                   {{middle, high},
-                                   {length + eaves, low},
-                                   {length + eaves, low + roofHeight},
+                                   {houseLength + eaves, low},
+                                   {houseLength + eaves, low + roofHeight},
                                    {middle, high + roofHeight}},
                                   roof);
     m_openings.cut(east, "Chimney hole", at(5.2, 3.6, 0), m_shapes.box({0, 0, 0}, 0.6, 0.6, 5));
@@ -295,8 +295,8 @@ class SampleHouse {
     auto pitch = m_model.createRoot<FcSlab>(name);
     m_model.place(*pitch, {}, roof);
     pitch->setPredefinedType(FcSlabTypeEnum::ROOF);
-    const Item body =
-        m_shapes.extrude(m_shapes.polygon(section), width + 2 * verge, crossSection(width + verge));
+    const Item body = m_shapes.extrude(m_shapes.polygon(section), houseWidth + 2 * verge,
+                                       crossSection(houseWidth + verge));
     m_shapes.showBody(*pitch, RepresentationType::SweptSolid,
                       {m_shapes.painted(substance::slate, body)});
     return pitch;
@@ -318,7 +318,7 @@ class SampleHouse {
     m_model.place(*stair, at(2.4, 0, 0), storey);
     stair->setPredefinedType(FcStairTypeEnum::STRAIGHT_RUN_STAIR);
     const Item body =
-        m_shapes.extrude(m_shapes.polygon(steps), 1, crossSection(width - wallThickness));
+        m_shapes.extrude(m_shapes.polygon(steps), 1, crossSection(houseWidth - wallThickness));
     m_shapes.showBody(*stair, RepresentationType::SweptSolid,
                       {m_shapes.painted(substance::oak, body)});
     return stair;
@@ -355,7 +355,7 @@ class SampleHouse {
     for (const auto& wall : m_model.all<FcWall>()) m_model.setType(*wall, *type);
     m_facts.describeWalls();
     m_facts.describe(*type);
-    m_facts.measure(m_model.all<FcWall>().front(), length, storeyHeight);
+    m_facts.measure(m_model.all<FcWall>().front(), houseLength, storeyHeight);
     m_facts.classifyWalls();
     m_facts.setMaterial<FcWall>(substance::brick.name);
     m_facts.setMaterial<FcColumn>(substance::steel.name);

@@ -20,7 +20,7 @@ using math::Matrix;
 using math::Point3d;
 using math::Vector3d;
 
-constexpr double width = 1600;
+constexpr double pictureWidth = 1600;
 constexpr double lowest = 300;  // of the drawing, without what is below and above it
 constexpr double highest = 1100;
 constexpr double titleHeight = 50;
@@ -29,7 +29,7 @@ constexpr double textSize = 13;
 
 double heightOf(View view, const math::Extent& box) {
   const Vector3d size = box.transformExtent(viewFrame(view, box.center())).size();
-  const double wanted = size.x > 0 ? width * size.y / size.x : highest;
+  const double wanted = size.x > 0 ? pictureWidth * size.y / size.x : highest;
   return std::clamp(wanted, lowest, highest);
 }
 
@@ -122,7 +122,7 @@ class Drawing {
 };
 
 std::string scaleBar(double pixelsPerMetre, double y) {
-  const double metres = roundLength(width / 5 / pixelsPerMetre);
+  const double metres = roundLength(pictureWidth / 5 / pixelsPerMetre);
   const double left = 40, right = left + metres * pixelsPerMetre;
   return fmt::format(
       "<path stroke=\"#222\" stroke-width=\"2\" d=\"M{0:.2f} {2:.2f}v8h{3:.2f}v-8\"/>\n"
@@ -136,7 +136,7 @@ void writeSvg(const Scene& scene, View view, const std::string& title, std::ostr
   math::Extent box = scene.box();
   if (!box.isValid()) box = {{0, 0, 0}, {1, 1, 1}};
   const double height = heightOf(view, box);
-  const Camera camera(view, box, width, height);
+  const Camera camera(view, box, pictureWidth, height);
   Drawing drawing(scene, camera);
   for (const SceneObject& object : scene.objects) drawing.add(object);
   const double whole = titleHeight + height + footHeight;
@@ -149,7 +149,7 @@ void writeSvg(const Scene& scene, View view, const std::string& title, std::ostr
              "<rect width=\"100%\" height=\"100%\" fill=\"white\"/>\n"
              "<text x=\"40\" y=\"34\" font-size=\"22\" fill=\"#222\">{3}</text>\n"
              "<g transform=\"translate(0 {4})\">\n",
-             width, whole, textSize, xmlText(title), titleHeight)
+             pictureWidth, whole, textSize, xmlText(title), titleHeight)
       << drawing.text() << "</g>\n"
       << scaleBar(camera.pixelsPerMetre(), whole - footHeight / 2 - 8) << "</svg>\n";
 }
