@@ -54,7 +54,7 @@ const std::map<std::type_index, StringHash>& Factory::getFcClasses() {
 std::span<const ClassInfo* const> Factory::classes() { return SchemaTables::classes(); }
 
 const ClassInfo* Factory::find(const StringHash& name) {
-  const auto table = SchemaTables::classesByHash();
+  static const auto table = SchemaTables::classesByHash();
   const auto found = std::lower_bound(
       table.begin(), table.end(), name.hash,
       [](const SchemaTables::HashedClass& entry, std::uint32_t hash) { return entry.hash < hash; });

@@ -10,7 +10,14 @@
 
 namespace qor::fc {
 
-/// The whole schema as constant tables.
+/// The classes and types of one group of the schema.
+struct GroupTables {
+  std::span<const ClassInfo* const> classes;
+  std::span<const EnumInfo* const> enumerations;
+  std::span<const SelectInfo* const> selects;
+};
+
+/// The whole schema as constant tables, put together from those of the groups on the first call.
 class QOR_API SchemaTables {
  public:
   struct HashedClass {
@@ -27,6 +34,9 @@ class QOR_API SchemaTables {
   static std::span<const SelectInfo* const> selects();
   /// The names of all attributes, forward and inverse, each once, in ascending order.
   static std::span<const char* const> attributeNames();
+
+ private:
+  static std::span<const GroupTables* const> groups();
 };
 
 }  // namespace qor::fc

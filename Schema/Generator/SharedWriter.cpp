@@ -3,7 +3,6 @@
 #include <fmt/format.h>
 #include <algorithm>
 
-#include "Qor/String/StringHash.h"
 #include "Schema/Generator/ClassWriter.h"
 #include "Schema/Generator/HeaderText.h"
 #include "Schema/Generator/TypeWriter.h"
@@ -38,6 +37,34 @@ std::string qualified(const SchemaModel& model, const std::string& ifcName) {
   return fmt::format("{}::{}", model.group(ifcName).name, fcName(ifcName));
 }
 
+template <class Elements>
+std::string pointerTable(const char* type, const char* name, const char* member,
+                         const std::vector<Elements>& elements, const Group& group,
+                         std::string& span) {
+  std::string rows;
+  for (const auto& element : elements)
+    if (element.group == group.name)
+      rows += fmt::format("    &{}::{},\n", fcName(element.name), member);
+  span = rows.empty() ? "{}" : name;
+  return rows.empty()
+             ? ""
+             : fmt::format("static constinit const {}* const {}[] = {{\n{}}};\n", type, name, rows);
+}
+
+// What the tables of the whole schema are put together from, so that no source needs every class.
+std::string groupTables(const SchemaModel& model, const Group& group) {
+  std::string classes, enumerations, selects;
+  std::string text =
+      pointerTable("ClassInfo", "classes", "record", model.table().entities, group, classes) +
+      pointerTable("EnumInfo", "enumerations", "table", model.table().enumerations, group,
+                   enumerations) +
+      pointerTable("SelectInfo", "selects", "table", model.table().selects, group, selects);
+  return text + fmt::format(
+                    "extern const GroupTables groupTables;\n"
+                    "constinit const GroupTables groupTables{{{}, {}, {}}};\n\n",
+                    classes, enumerations, selects);
+}
+
 }  // namespace
 
 std::string groupSource(const SchemaModel& model, const Group& group) {
@@ -59,8 +86,12 @@ std::string groupSource(const SchemaModel& model, const Group& group) {
     }
     body += classSource(model, entity);
   }
+  for (const Enumeration& enumeration : model.table().enumerations)
+    if (enumeration.group == group.name) files.insert(headerOf(model, enumeration.name));
+  body += groupTables(model, group);
   files.insert({"Fc/FcVisitorBase.h", "Fc/FcVisitorBaseNonConst.h", "Fc/Reflection/Links.h",
-                "Fc/Reflection/MakeEntity.h", "Fc/Reflection/ValueTraits.h"});
+                "Fc/Reflection/MakeEntity.h", "Fc/Reflection/SchemaTables.h",
+                "Fc/Reflection/ValueTraits.h"});
   return fmt::format(R"({0}#include <cstddef>
 
 // What the standard leaves to the compiler, all of them do: the members of these classes have fixed places.
@@ -119,51 +150,32 @@ std::string visitorSource(const SchemaModel& model, bool isConst) {
 }
 
 std::string schemaTablesSource(const SchemaModel& model) {
-  std::set<std::string> files{"Fc/Reflection/SchemaTables.h"};
-  std::vector<std::pair<std::uint32_t, const Entity*>> byHash;
-  std::string classes, hashes, enumerations, selects;
-  for (const Entity* entity : model.byId()) {
-    files.insert(headerOf(model, entity->name));
-    classes += fmt::format("    &{}::record,\n", qualified(model, entity->name));
-    byHash.emplace_back(StringHash::of(entity->name).hash, entity);
+  std::set<std::string_view> names;
+  for (const Entity& entity : model.table().entities) names.insert(groupNamed(entity.group).name);
+  std::string declarations, groups, attributes;
+  for (const std::string_view name : names) {
+    declarations +=
+        fmt::format("namespace {} {{\nextern const GroupTables groupTables;\n}}\n", name);
+    groups += fmt::format("    &{}::groupTables,\n", name);
   }
-  std::sort(byHash.begin(), byHash.end());
-  for (const auto& [hash, entity] : byHash)
-    hashes += fmt::format("    {{0x{:08X}, &{}::record}},\n", hash, qualified(model, entity->name));
-  for (const Enumeration& enumeration : model.table().enumerations) {
-    files.insert(headerOf(model, enumeration.name));
-    enumerations += fmt::format("    &{}::table,\n", qualified(model, enumeration.name));
-  }
-  for (const Select& select : model.table().selects) {
-    files.insert(headerOf(model, select.name));
-    selects += fmt::format("    &{}::table,\n", qualified(model, select.name));
-  }
-  std::string names;
   for (const std::string& name : model.attributeNames())
-    names += fmt::format("    \"{}\",\n", name);
-  return includes(files) + fmt::format(R"(
+    attributes += fmt::format("    \"{}\",\n", name);
+  return fmt::format(R"(#include "Fc/Reflection/SchemaTables.h"
+
 namespace qor::fc {{
 
-static constinit const ClassInfo* const classTable[] = {{
-{}}};
-static constinit const SchemaTables::HashedClass hashTable[] = {{
-{}}};
-static constinit const EnumInfo* const enumerationTable[] = {{
-{}}};
-static constinit const SelectInfo* const selectTable[] = {{
+{}
+static constinit const GroupTables* const groupTable[] = {{
 {}}};
 static constinit const char* const attributeNameTable[] = {{
 {}}};
 
-std::span<const ClassInfo* const> SchemaTables::classes() {{ return classTable; }}
-std::span<const SchemaTables::HashedClass> SchemaTables::classesByHash() {{ return hashTable; }}
-std::span<const EnumInfo* const> SchemaTables::enumerations() {{ return enumerationTable; }}
-std::span<const SelectInfo* const> SchemaTables::selects() {{ return selectTable; }}
+std::span<const GroupTables* const> SchemaTables::groups() {{ return groupTable; }}
 std::span<const char* const> SchemaTables::attributeNames() {{ return attributeNameTable; }}
 
 }}  // namespace qor::fc
 )",
-                                       classes, hashes, enumerations, selects, names);
+                     declarations, groups, attributes);
 }
 
 }  // namespace qor::schema
