@@ -5,11 +5,13 @@
 #include <map>
 
 #include "Fc/Core/Kernel/FcProduct.h"
-#include "Fc/Core/ProductExtension/FcAnnotation.h"
 #include "Fc/Core/ProductExtension/FcElement.h"
 #include "Fc/Core/ProductExtension/FcFeatureElementSubtraction.h"
 #include "Fc/Resource/GeometricConstraint/FcGridPlacement.h"
 #include "Fc/Resource/GeometricModel/FcSurfaceCurveSweptAreaSolid.h"
+#include "Fc/Resource/Geometry/FcMappedItem.h"
+#include "Fc/Resource/Geometry/FcPoint.h"
+#include "Fc/Resource/Geometry/FcRepresentationMap.h"
 #include "Fc/Resource/Representation/FcProductRepresentation.h"
 #include "Fc/Resource/Representation/FcRepresentation.h"
 #include "Host/Cli/RepresentationChoice.h"
@@ -45,20 +47,29 @@ bool hasBody(const FcProduct& product, const RepresentationChoice& bodies) {
   return false;
 }
 
-/// A solid of a class that draws nothing.
-bool holdsUndrawnSolid(const FcProduct& product) {
-  for (const auto& representation : product.Representation()->Representations())
-    for (const auto& item : representation->Items())
-      if (fc::fcCast<fc::resource::geometricmodel::FcSurfaceCurveSweptAreaSolid>(item)) return true;
+/// There is a point in it, or a solid of a class that draws nothing.
+bool holdsNothingToDraw(const fc::resource::representation::FcRepresentation& representation) {
+  for (const auto& item : representation.Items()) {
+    if (fc::fcCast<fc::resource::geometry::FcPoint>(item) ||
+        fc::fcCast<fc::resource::geometricmodel::FcSurfaceCurveSweptAreaSolid>(item))
+      return true;
+    const auto map = fc::fcCast<fc::resource::geometry::FcMappedItem>(item);
+    if (map && map->MappingSource() && map->MappingSource()->MappedRepresentation() &&
+        holdsNothingToDraw(*map->MappingSource()->MappedRepresentation()))
+      return true;
+  }
   return false;
 }
 
-/// Openings are what is taken away, no place is computed on a grid, and a walk doesn't meet
-/// annotations that no place contains.
+bool holdsNothingToDraw(const FcProduct& product) {
+  for (const auto& representation : product.Representation()->Representations())
+    if (representation && holdsNothingToDraw(*representation)) return true;
+  return false;
+}
+
+/// Openings are what is taken away, and no place is computed on a grid.
 bool isLeftOut(const FcProduct& product) {
-  const auto* annotation = fc::fcCast<fc::core::productextension::FcAnnotation>(&product);
-  if (annotation && annotation->ContainedInStructure().empty()) return true;
-  return holdsUndrawnSolid(product) ||
+  return holdsNothingToDraw(product) ||
          fc::fcCast<fc::core::productextension::FcFeatureElementSubtraction>(&product) ||
          fc::fcCast<fc::resource::geometricconstraint::FcGridPlacement>(
              product.ObjectPlacement().get());
