@@ -10,7 +10,7 @@
 #include "Fc/Core/ProductExtension/FcRelContainedInSpatialStructure.h"
 #include "Fc/Data.h"
 #include "Fc/Document/Document.h"
-#include "Fc/Drawing/FcDrawInterfaceWrapper.h"
+#include "Fc/Document/FcDrawInterfaceWrapper.h"
 #include "Fc/Drawing/FcGenerateParams.h"
 #include "Fc/Resource/GeometricConstraint/FcLocalPlacement.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"

@@ -11,8 +11,6 @@
 #include "Fc/Reflection/EnumInfo.h"
 #include "Fc/Reflection/InverseEntries.h"
 #include "Fc/Reflection/Links.h"
-#include "Fc/Reflection/NumberOf.h"
-#include "Fc/Resource/Measure/MeasureQuantities.h"
 
 namespace qor::fc {
 
@@ -27,12 +25,6 @@ std::string localizedAttribute(const ClassInfo& info, const std::string& name,
   key += name;
   key += suffix;
   return localizeWithFallback(key, name);
-}
-
-const unit::QuantityBase* quantityOf(const AttributeInfo* attribute) {
-  if (!attribute || !attribute->aggregates.empty() || !attribute->typeName.starts_with("Ifc"))
-    return nullptr;
-  return resource::measure::quantityOfMeasure(attribute->typeName.substr(3));
 }
 
 void linkAll(FcBase& holder, const ClassInfo& info) {
@@ -101,25 +93,6 @@ bool FcBase::setLocalValue(LocalValue value, const object::PropertyId& id) {
 bool FcBase::isOptional(const object::PropertyId& id) const {
   const AttributeInfo* attribute = classInfo().findAttribute(id.name());
   return attribute && attribute->optional;
-}
-
-std::optional<double> FcBase::getAttributeAsSiUnit(const Data&, const std::string& name) const {
-  const AttributeInfo* attribute = classInfo().findAttribute(name);
-  if (!attribute || !resource::measure::isMeasure(attribute->typeName)) return std::nullopt;
-  return numberOf(attribute->type->getLocalValue(attribute->of(*this)));
-}
-
-bool FcBase::hasQuantityPresentationLocal(const object::PropertyId& id) const {
-  return quantityOf(classInfo().findAttribute(id.name())) != nullptr;
-}
-
-std::unique_ptr<unit::QuantityPresentationBase> FcBase::createQuantityPresentationLocal(
-    const object::PropertyId& id) const {
-  const AttributeInfo* attribute = classInfo().findAttribute(id.name());
-  const unit::QuantityBase* quantity = quantityOf(attribute);
-  if (!quantity) return nullptr;
-  const auto number = numberOf(attribute->type->getLocalValue(attribute->of(*this)));
-  return number ? quantity->createPresentation(*number) : nullptr;
 }
 
 std::string FcBase::getPropertyName(const object::PropertyId& id) const {

@@ -1,6 +1,6 @@
 #include "Fc/FcParams.h"
 
-#include "Fc/Drawing/FcDrawParams.h"
+#include "Qor/Draw/DrawInterfaceBase.h"
 
 namespace qor::fc {
 
@@ -15,10 +15,6 @@ FcParams::FcParams(const math::CurveDiscretization& discretization)
 
 FcParams::FcParams(const generate::draw::DrawInterfaceBase& target)
     : FcParams(target.curveDiscretization()) {}
-
-FcParams::FcParams(const FcDrawParams& params) : FcParams(params->curveDiscretization()) {
-  skipExpensiveClipping = params.skipExpensiveClipping;
-}
 
 FcParams& FcParams::operator=(const FcParams& other) {
   if (this != &other) *this = FcParams(other);

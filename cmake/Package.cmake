@@ -6,7 +6,8 @@ include(CMakePackageConfigHelpers)
 
 set(FC_PACKAGE_DIR lib/cmake/Fc)
 
-install(DIRECTORY Qor Fc "${CMAKE_BINARY_DIR}/generated/Fc" DESTINATION include FILES_MATCHING PATTERN "*.h")
+install(DIRECTORY Qor Fc "${CMAKE_BINARY_DIR}/generated/Fc" DESTINATION include FILES_MATCHING PATTERN "*.h"
+  PATTERN Bridge EXCLUDE PATTERN Precompiled.h EXCLUDE)
 export(EXPORT FcTargets NAMESPACE Fc:: FILE "${CMAKE_BINARY_DIR}/FcTargets.cmake") # for FC_PREBUILT
 install(EXPORT FcTargets NAMESPACE Fc:: DESTINATION ${FC_PACKAGE_DIR})
 

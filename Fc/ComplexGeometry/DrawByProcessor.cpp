@@ -1,4 +1,4 @@
-#include "Fc/ComplexGeometry/DrawByProcessor.h"
+#include "Fc/Drawing/DrawByProcessor.h"
 
 #include <memory>
 #include <utility>

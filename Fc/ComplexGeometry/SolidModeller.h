@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "Fc/ComplexGeometry/OpenCascadeTypes.h"
+#include "Fc/Model/OpenCascadeTypes.h"
 #include "Qor/Draw/PolygonalFaceSetOpenGL.h"
 #include "Qor/Math/Matrix.h"
 #include "Qor/Math/Polygon.h"

@@ -1,6 +1,6 @@
 #include "Fc/Document/DocumentInterface.h"
 
-#include "Fc/Drawing/FcDrawInterfaceWrapper.h"
+#include "Fc/Document/FcDrawInterfaceWrapper.h"
 
 namespace qor::fc::document {
 

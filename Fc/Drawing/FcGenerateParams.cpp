@@ -32,7 +32,7 @@ DrawnRoots& drawnRoots() {
 
 FcGenerateParams::FcGenerateParams(generate::GenerateInterface& target,
                                    const ObjectInterfaceFactory& objects,
-                                   const DrawStatus& drawStatus, const Data& data,
+                                   const DrawStatusInterface& drawStatus, const Data& data,
                                    RepresentationInterface* representationFilter,
                                    const RepresentationContextInterface* contextFilter,
                                    ObjectInterface* connectionLine)

@@ -7,10 +7,10 @@
 #include <unordered_set>
 #include <vector>
 
+#include "Fc/Drawing/DrawStatusInterface.h"
 #include "Fc/Drawing/FcDrawInterface.h"
 #include "Fc/Drawing/GenerateFilters.h"
 #include "Fc/Drawing/ObjectInterfaceFactory.h"
-#include "Fc/Tree/DrawStatus.h"
 #include "Qor/Draw/GenerateInterface.h"
 #include "Qor/Id/Guid.h"
 
@@ -38,7 +38,7 @@ class QOR_API FcGenerateParams {
   /// colours; when it is an `FcDrawInterface` too, the walk draws into it. The last three may be
   /// null: no choice among representations, none among contexts, no connection lines of cables.
   FcGenerateParams(generate::GenerateInterface& target, const ObjectInterfaceFactory& objects,
-                   const DrawStatus& drawStatus, const Data& data,
+                   const DrawStatusInterface& drawStatus, const Data& data,
                    RepresentationInterface* representationFilter,
                    const RepresentationContextInterface* contextFilter,
                    ObjectInterface* connectionLine);
@@ -60,7 +60,7 @@ class QOR_API FcGenerateParams {
   /// True: the product with this guid isn't opened as an object, nor drawn; its parts are.
   std::function<bool(const Guid&)> skipObjectCallback;
   /// Told of each root that the draw status shows differently.
-  std::function<void(const FcRoot&, DrawStatus::ObjectRepresentationState)>
+  std::function<void(const FcRoot&, DrawStatusInterface::ObjectRepresentationState)>
       representationStateCallback;
   /// Goes into the `FcDrawParams` of all items.
   bool skipExpensiveClipping = false;
@@ -125,7 +125,7 @@ class QOR_API FcGenerateParams {
   generate::GenerateInterface& m_target;
   FcDrawInterface* m_drawInterface;
   const ObjectInterfaceFactory& m_objects;
-  const DrawStatus& m_drawStatus;
+  const DrawStatusInterface& m_drawStatus;
   const Data& m_data;
   RepresentationInterface* m_representationFilter;
   const RepresentationContextInterface* m_contextFilter;

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "Fc/Model/Report.h"
+#include "Qor/Assert/Report.h"
 #include "Qor/Draw/PolygonOrientation.h"
 #include "Qor/Math/Epsilon.h"
 

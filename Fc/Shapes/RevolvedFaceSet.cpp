@@ -5,7 +5,7 @@
 #include <numbers>
 #include <utility>
 
-#include "Fc/Model/Report.h"
+#include "Qor/Assert/Report.h"
 #include "Fc/Shapes/SweepFaces.h"
 #include "Qor/Math/Epsilon.h"
 

@@ -4,7 +4,7 @@
 #include <utility>
 #include <variant>
 
-#include "Fc/Model/Report.h"
+#include "Qor/Assert/Report.h"
 
 namespace qor::fc::resource::geometricmodel {
 

@@ -8,6 +8,7 @@
 #include <typeindex>
 #include <variant>
 
+#include "Fc/Drawing/DrawStatusInterface.h"
 #include "Fc/Tree/EventHandlerContainer.h"
 #include "Qor/Platform/Export.h"
 
@@ -31,7 +32,7 @@ class FcRepresentation;
 /// Keys are plain pointers into a model and aren't followed until a status is written:
 /// `removeProject` makes a status forget a model that is about to go. Belongs to the thread of the
 /// model; events are fired on the thread that made the change, before the call returns.
-class QOR_API DrawStatus {
+class QOR_API DrawStatus : public DrawStatusInterface {
  public:
   /// Compared by kind (entity, context, class), then by the value. An entity of the model is keyed
   /// as `const FcRoot*`, a class as the `typeid` of its C++ class; a class doesn't stand for its
@@ -41,7 +42,6 @@ class QOR_API DrawStatus {
                                 std::type_index>;
   using StateSet = std::set<StateKey>;
 
-  enum class ObjectRepresentationState { Transparent = 0, Wireframe = 1 };
   enum class ObserverOperation { Disabled = 0, Enabled = 1 };
 
   using DisabledStatesEvent = EventHandlerContainer<DrawStatus, void, StateSet, ObserverOperation>;
@@ -73,7 +73,8 @@ class QOR_API DrawStatus {
   std::optional<ObjectRepresentationState> getRepresentationState(const StateKey& key) const;
   /// What is set for the class of the object, else for the object itself if it is a root, else for
   /// its type object.
-  std::optional<ObjectRepresentationState> getRepresentationState(const FcBase& object) const;
+  std::optional<ObjectRepresentationState> getRepresentationState(
+      const FcBase& object) const override;
   /// No value means as usual. Fires the event whether or not the key changed.
   void setRepresentationState(const StateKey& key, std::optional<ObjectRepresentationState> state);
   /// The same for all keys, with one event.
@@ -81,9 +82,9 @@ class QOR_API DrawStatus {
 
   /// False when the class of the object, the object itself or its type object is disabled. At most
   /// three look-ups.
-  bool shouldDraw(const FcBase& object) const;
+  bool shouldDraw(const FcBase& object) const override;
   /// False when its geometric context is disabled.
-  bool shouldDraw(const resource::representation::FcRepresentation& representation) const;
+  bool shouldDraw(const resource::representation::FcRepresentation& representation) const override;
 
   /// Takes over the disabled set of `other`, and tells first what this disabled, then what it
   /// enabled. Representation states stay.

@@ -5,6 +5,7 @@
 #include "Fc/ComplexGeometry/FcComplexGeometryProcessorInterface.h"
 #include "Fc/ComplexGeometry/FcExplicitGeometryTask.h"
 #include "Fc/ComplexGeometry/FcPolygonalFaceSetResult.h"
+#include "Fc/Drawing/MarkerCone.h"
 #include "Fc/FcParams.h"
 #include "Fc/Model/Report.h"
 #include "Fc/Reflection/MakeEntity.h"
@@ -17,7 +18,6 @@
 #include "Fc/Resource/Representation/FcProductRepresentation.h"
 #include "Fc/Resource/Representation/FcRepresentation.h"
 #include "Fc/Utilities/DrawForDebug.h"
-#include "Fc/Utilities/MarkerCone.h"
 
 namespace qor::fc::utilities {
 

@@ -13,7 +13,7 @@
 
 #include "Fc/Core/Kernel/FcProduct.h"
 #include "Fc/Document/Document.h"
-#include "Fc/Drawing/FcDrawInterfaceWrapper.h"
+#include "Fc/Document/FcDrawInterfaceWrapper.h"
 #include "Fc/Drawing/FcGenerateParams.h"
 #include "Fc/Resource/Geometry/FcRepresentationItem.h"
 #include "Fc/Resource/Geometry/FcRepresentationMap.h"

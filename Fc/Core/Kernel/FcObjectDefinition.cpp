@@ -10,17 +10,13 @@
 #include "Fc/Core/ProductExtension/FcElementType.h"
 #include "Fc/Core/ProductExtension/Pset_BuildingCommon.h"
 #include "Fc/Data.h"
-#include "Fc/Domain/Electrical/Pset_ElectricalDeviceCommon.h"
 #include "Fc/Drawing/FcGenerateParams.h"
-#include "Fc/Shared/BuildingServiceElements/FcDistributionPort.h"
 
 namespace qor::fc::core::kernel {
 
-using domain::electrical::Pset_ElectricalDeviceCommon;
 using productextension::FcElementQuantity;
 using productextension::FcElementType;
 using productextension::Pset_BuildingCommon;
-using shared::buildingserviceelements::FcDistributionPort;
 
 namespace {
 
@@ -47,16 +43,6 @@ void FcObjectDefinition::doGenerate(FcGenerateParams& params) const {
     parts.insert(parts.end(), relation->RelatedObjects().begin(), relation->RelatedObjects().end());
   });
   if (!parts.empty()) params.afterwards(std::move(parts));
-}
-
-std::vector<std::shared_ptr<const FcDistributionPort>> FcObjectDefinition::getDistributionPorts()
-    const {
-  std::vector<std::shared_ptr<const FcDistributionPort>> ports;
-  IsNestedBy().forEach([&ports](const std::shared_ptr<FcRelNests>& relation) {
-    for (const auto& part : relation->RelatedObjects())
-      if (auto port = fcCast<FcDistributionPort>(part)) ports.push_back(std::move(port));
-  });
-  return ports;
 }
 
 std::shared_ptr<FcObjectDefinition> FcObjectDefinition::self() {
@@ -178,8 +164,6 @@ FcObjectDefinition::getPropertySetDefinitionNonConst(const std::string&) const;
 template QOR_API std::shared_ptr<FcElementQuantity>
 FcObjectDefinition::getPropertySetDefinitionNonConst(const std::string&) const;
 template QOR_API std::shared_ptr<Pset_BuildingCommon>
-FcObjectDefinition::getPropertySetDefinitionNonConst(const std::string&) const;
-template QOR_API std::shared_ptr<Pset_ElectricalDeviceCommon>
 FcObjectDefinition::getPropertySetDefinitionNonConst(const std::string&) const;
 template QOR_API std::shared_ptr<FcPropertySet>
 FcObjectDefinition::getOrCreatePropertySetDefinition(Data&, const std::string&);

@@ -5,7 +5,6 @@
 #include "Fc/Resource/Geometry/FcRepresentationMap.h"
 #include "Fc/Resource/Representation/FcGeometricRepresentationSubContext.h"
 #include "Fc/Resource/Representation/FcRepresentation.h"
-#include "Fc/Shared/BuildingServiceElements/FcDistributionPort.h"
 
 namespace qor::fc::core::kernel {
 
@@ -13,7 +12,6 @@ using generate::draw::TransformationGuard;
 using resource::representation::FcGeometricRepresentationContext;
 using resource::representation::FcGeometricRepresentationSubContext;
 using resource::representation::FcRepresentationContext;
-using shared::buildingserviceelements::FcDistributionPort;
 
 namespace {
 
@@ -65,16 +63,7 @@ void FcTypeProduct::drawAsObject(FcGenerateParams& params) const {
   if (RepresentationMaps() && params.isEnabled(*this))
     for (const auto& map : *RepresentationMaps())
       if (map) map->generate(params);
-  for (const auto& port : getDistributionPorts()) {
-    ObjectInterface* const portObject =
-        params.object(std::const_pointer_cast<FcDistributionPort>(port));
-    if (!portObject) continue;
-    const OpenObject openPort(params.generateInterface(), portObject);
-    const TransformationGuard portGuard(target);
-    if (const auto placement = port->absolutePlacement())
-      target.vTransformationMultiply(*placement, math::MatrixMultiplyOrder::left);
-    port->generate(params);
-  }
+  drawPorts(params);
 }
 
 std::shared_ptr<const FcRepresentationContext> FcTypeProduct::getRepresentationContexts(

@@ -29,6 +29,8 @@ class QOR_API FcTypeProduct : public FcTypeProductAttributes {
 
  private:
   void drawAsObject(FcGenerateParams& params) const;
+  /// Each as an object of its own.
+  void drawPorts(FcGenerateParams& params) const;
 };
 
 }  // namespace qor::fc::core::kernel

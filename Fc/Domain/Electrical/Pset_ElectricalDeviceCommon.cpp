@@ -1,5 +1,7 @@
 #include "Fc/Domain/Electrical/Pset_ElectricalDeviceCommon.h"
 
+#include "Fc/Core/Kernel/FcPropertySet.h"
+
 namespace qor::fc::domain::electrical {
 
 using namespace resource::measure;
@@ -42,3 +44,15 @@ void Pset_ElectricalDeviceCommon::setNumberOfPowerSupplyPorts(std::int64_t value
 }
 
 }  // namespace qor::fc::domain::electrical
+
+namespace qor::fc::core::kernel {
+
+template <>
+std::shared_ptr<domain::electrical::Pset_ElectricalDeviceCommon>
+FcObjectDefinition::getPropertySetDefinitionNonConst(const std::string& name) const {
+  auto set = getPropertySetDefinitionNonConst<FcPropertySet>(name);
+  return set ? std::make_shared<domain::electrical::Pset_ElectricalDeviceCommon>(std::move(set))
+             : nullptr;
+}
+
+}  // namespace qor::fc::core::kernel

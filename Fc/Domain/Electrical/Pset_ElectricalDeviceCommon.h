@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Fc/Core/Kernel/FcObjectDefinition.h"
 #include "Fc/Core/Kernel/PropertySetView.h"
 
 namespace qor::fc::domain::electrical {
@@ -43,3 +44,11 @@ class QOR_API Pset_ElectricalDeviceCommon : public core::kernel::PropertySetView
 };
 
 }  // namespace qor::fc::domain::electrical
+
+namespace qor::fc::core::kernel {
+
+template <>
+QOR_API std::shared_ptr<domain::electrical::Pset_ElectricalDeviceCommon>
+FcObjectDefinition::getPropertySetDefinitionNonConst(const std::string& name) const;
+
+}  // namespace qor::fc::core::kernel

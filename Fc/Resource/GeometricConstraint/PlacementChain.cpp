@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "Fc/Core/Kernel/FcProduct.h"
 #include "Fc/Model/Report.h"
 #include "Fc/Resource/GeometricConstraint/FcLinearPlacement.h"
 #include "Fc/Resource/GeometricConstraint/FcLocalPlacement.h"
@@ -34,13 +33,14 @@ const FcObjectPlacement* closingPlacement(const FcObjectPlacement* start) {
 
 /// " of IFCWALL 3fa... (name)" for the first object that stands there; empty for none.
 std::string placedObject(const FcObjectPlacement& placement) {
-  for (const auto& product : placement.PlacesObject().lockAll()) {
-    std::string text =
-        std::string(" of ") + product->ifcNameUpper() + " " + product->GlobalId().toString(false);
-    if (product->Name()) text += " (" + *product->Name() + ")";
-    return text;
-  }
-  return {};
+  std::string text;
+  placement.PlacesObject().InverseEntries::forEach([&text](const std::shared_ptr<FcBase>& product) {
+    if (!text.empty()) return;
+    text = std::string(" of ") + product->ifcNameUpper() + " " +
+           product->getAttributeAsString("GlobalId").value_or("");
+    if (const auto name = product->getAttributeAsString("Name")) text += " (" + *name + ")";
+  });
+  return text;
 }
 
 void reportCycle(const FcObjectPlacement& start, const FcObjectPlacement& closing) {

@@ -3,7 +3,7 @@
 #include <optional>
 #include <vector>
 
-#include "Fc/ComplexGeometry/OpenCascadeTypes.h"
+#include "Fc/Model/OpenCascadeTypes.h"
 #include "Fc/Resource/GeometricModel/FcBooleanOperandAlternatives.h"
 #include "Qor/Math/Extent.h"
 

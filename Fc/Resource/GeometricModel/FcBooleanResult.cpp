@@ -1,6 +1,6 @@
 #include "Fc/Resource/GeometricModel/FcBooleanResult.h"
 
-#include "Fc/ComplexGeometry/DrawByProcessor.h"
+#include "Fc/Drawing/DrawByProcessor.h"
 #include "Fc/FcParams.h"
 #include "Fc/Model/ConversionGuard.h"
 #include "Fc/Resource/GeometricModel/BooleanOperators.h"

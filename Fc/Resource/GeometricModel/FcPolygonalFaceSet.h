@@ -3,7 +3,7 @@
 #include <functional>
 #include <utility>
 
-#include "Fc/ComplexGeometry/OpenCascadeTypes.h"
+#include "Fc/Model/OpenCascadeTypes.h"
 #include "Fc/Resource/GeometricModel/FcPolygonalFaceSetAttributes.h"
 #include "Fc/Shapes/FaceSetWithMaterial.h"
 #include "Fc/Shapes/SweepFaces.h"

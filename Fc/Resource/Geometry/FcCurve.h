@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "Fc/ComplexGeometry/OpenCascadeTypes.h"
+#include "Fc/Model/OpenCascadeTypes.h"
 #include "Fc/Resource/Geometry/FcCurveAttributes.h"
 #include "Fc/Resource/Geometry/FcTrimmingSelect.h"
 

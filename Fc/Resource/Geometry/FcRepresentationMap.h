@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "Fc/ComplexGeometry/OpenCascadeTypes.h"
+#include "Fc/Model/OpenCascadeTypes.h"
 #include "Fc/Resource/Geometry/FcRepresentationMapAttributes.h"
 #include "Qor/Math/Extent.h"
 

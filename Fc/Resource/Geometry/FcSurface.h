@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Fc/ComplexGeometry/OpenCascadeTypes.h"
+#include "Fc/Model/OpenCascadeTypes.h"
 #include "Fc/Resource/Geometry/FcSurfaceAttributes.h"
 
 namespace qor::fc::resource::geometry {

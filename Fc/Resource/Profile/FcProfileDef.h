@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "Fc/ComplexGeometry/OpenCascadeTypes.h"
+#include "Fc/Model/OpenCascadeTypes.h"
 #include "Fc/Resource/Profile/FcProfileDefAttributes.h"
 #include "Qor/Draw/Profile2D.h"
 #include "Qor/Math/Extent.h"

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "Fc/ComplexGeometry/DrawByProcessor.h"
+#include "Fc/Drawing/DrawByProcessor.h"
 #include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/Model/Report.h"
 #include "Fc/Resource/BoxUnion.h"

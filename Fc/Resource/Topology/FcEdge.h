@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "Fc/ComplexGeometry/OpenCascadeTypes.h"
+#include "Fc/Model/OpenCascadeTypes.h"
 #include "Fc/Resource/Topology/FcEdgeAttributes.h"
 #include "Qor/Math/Point.h"
 

@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "Fc/ComplexGeometry/OpenCascadeTypes.h"
+#include "Fc/Model/OpenCascadeTypes.h"
 #include "Fc/Resource/Topology/FcShellAlternatives.h"
 #include "Qor/Math/Extent.h"
 #include "Qor/Math/Matrix.h"

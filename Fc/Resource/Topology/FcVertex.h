@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "Fc/ComplexGeometry/OpenCascadeTypes.h"
+#include "Fc/Model/OpenCascadeTypes.h"
 #include "Fc/Resource/Topology/FcVertexAttributes.h"
 
 namespace qor::fc::resource::topology {

@@ -2,7 +2,7 @@
 
 #include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/Drawing/FcGenerateParams.h"
-#include "Fc/Utilities/MarkerCone.h"
+#include "Fc/Drawing/MarkerCone.h"
 
 namespace qor::fc::shared::buildingserviceelements {
 

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "Fc/Drawing/FcDrawInterfaceWrapper.h"
+#include "Fc/Document/FcDrawInterfaceWrapper.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
 #include "Qor/Math/Epsilon.h"
 #include "Tests/Fc/Draw/Drawing.h"

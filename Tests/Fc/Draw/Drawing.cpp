@@ -2,7 +2,7 @@
 
 #include "Fc/Core/ProductExtension/FcRelContainedInSpatialStructure.h"
 #include "Fc/Document/Document.h"
-#include "Fc/Drawing/FcDrawInterfaceWrapper.h"
+#include "Fc/Document/FcDrawInterfaceWrapper.h"
 #include "Fc/Resource/GeometricConstraint/FcLocalPlacement.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"

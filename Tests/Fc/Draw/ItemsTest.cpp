@@ -1,8 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "Fc/Document/FcDrawInterfaceWrapper.h"
 #include "Fc/Drawing/FcClip.h"
-#include "Fc/Drawing/FcDrawInterfaceWrapper.h"
 #include "Fc/Factory.h"
 #include "Fc/FcParams.h"
 #include "Fc/Model/NotImplemented.h"

@@ -1,9 +1,9 @@
-#include "Fc/Drawing/FcDrawInterfaceWrapper.h"
+#include "Fc/Document/FcDrawInterfaceWrapper.h"
 
-#include "Fc/Drawing/ItemAppearance.h"
 #include "Fc/Resource/Geometry/FcRepresentationItem.h"
 #include "Fc/Resource/PresentationAppearance/FcSurfaceStyleShading.h"
 #include "Fc/Resource/PresentationAppearance/FcSurfaceStyleWithTextures.h"
+#include "Fc/Resource/PresentationAppearance/ItemAppearance.h"
 
 namespace qor::fc {
 

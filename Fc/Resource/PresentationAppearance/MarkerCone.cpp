@@ -1,4 +1,4 @@
-#include "Fc/Utilities/MarkerCone.h"
+#include "Fc/Drawing/MarkerCone.h"
 
 #include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/Reflection/MakeEntity.h"

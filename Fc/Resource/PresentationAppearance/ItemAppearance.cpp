@@ -1,4 +1,4 @@
-#include "Fc/Drawing/ItemAppearance.h"
+#include "Fc/Resource/PresentationAppearance/ItemAppearance.h"
 
 #include "Fc/Resource/Geometry/FcRepresentationItem.h"
 #include "Fc/Resource/PresentationAppearance/FcColourRgb.h"
