@@ -11,6 +11,7 @@ build=(g++ cmake ninja-build ccache mold
   libtbb-dev libfmt-dev libcli11-dev nlohmann-json3-dev libpugixml-dev libpng-dev
   libglu1-mesa-dev libtinygltf-dev)
 test=(libgtest-dev libgmock-dev)
+command -v npm > /dev/null || test+=(npm) # for gltf_validator.sh; others than Debian's bring npm along with node
 bench=(libbenchmark-dev)
 fuzz=(clang libclang-rt-14-dev)
 
