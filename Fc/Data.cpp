@@ -73,7 +73,9 @@ bool Data::entityDelete(std::shared_ptr<FcBase> entity) {
   const auto found = std::find(begin, end, entity);
   if (found == end) return false;
   m_entities.erase(found);
-  if (const auto root = fcCast<FcRoot>(entity); root && !root->getGuid().isNull()) {
+  if (const auto root = fcCast<FcRoot>(entity); root && root->getGuid().isNull()) {
+    std::erase(m_pendingGuidEntities, root);  // or it would be found once it has one
+  } else if (root) {
     guidUpdate();
     m_guidEntityMap.erase(root->getGuid());
   }

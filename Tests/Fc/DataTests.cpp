@@ -179,6 +179,21 @@ TEST(Data, DeletesFromTheListAndTheGuidsAlone) {
   EXPECT_EQ(data->size(), 2U);
 }
 
+TEST(Data, FindsNoDeletedRootThatGetsItsGuidLater) {
+  const ExpectAsserts none;
+  const auto data = std::make_shared<Data>();
+  const auto deletedBefore = data->create<FcWall>(), deletedAfter = data->create<FcWall>();
+  const auto kept = data->create<FcWall>();
+  EXPECT_TRUE(data->entityDelete(deletedBefore));
+  EXPECT_EQ(data->entityByGuid(Guid::generate()), nullptr);
+  EXPECT_TRUE(data->entityDelete(deletedAfter));
+  for (const auto& wall : {deletedBefore, deletedAfter, kept}) {
+    const Guid guid = Guid::generate();
+    wall->setGuid(guid);
+    EXPECT_EQ(data->entityByGuid(guid), wall == kept ? kept : nullptr);
+  }
+}
+
 TEST(Data, KnowsTheProjectThatWasAddedLast) {
   const auto data = std::make_shared<Data>();
   const auto first = data->create<FcProject>();
