@@ -1,7 +1,6 @@
 #include "Tests/Support/RecordingTarget.h"
 
 #include <cstdio>
-#include <stdexcept>
 
 #include "Fc/Core/Kernel/FcRoot.h"
 #include "Fc/Drawing/ObjectInterface.h"
@@ -29,8 +28,33 @@ std::vector<std::string> RecordingTarget::callsOf(const std::string& word) const
   return found;
 }
 
+void RecordingTarget::mayFail() const {
+  if (m_callsThatMayFail++ == callsBeforeFailure) throw Failure();
+}
+
+void RecordingTarget::record(std::string call) {
+  mayFail();
+  calls.push_back(std::move(call));
+}
+
+void RecordingTarget::open(std::string call) {
+  record(std::move(call));
+  ++m_depth;
+}
+
+void RecordingTarget::close(std::string call) {
+  calls.push_back(std::move(call));
+  --m_depth;
+}
+
+math::Matrix RecordingTarget::transformationGet() const {
+  mayFail();
+  return m_frame;
+}
+
 void RecordingTarget::vTransformationMultiply(const math::Matrix& matrix,
                                               math::MatrixMultiplyOrder order) {
+  mayFail();
   m_frame = order == math::MatrixMultiplyOrder::left ? matrix * m_frame : m_frame * matrix;
 }
 
@@ -45,7 +69,6 @@ std::string RecordingTarget::text(const std::vector<math::Point3d>& points) cons
 }
 
 void RecordingTarget::vPolyline(const std::vector<math::Point3d>& points) {
-  if (!problem.empty()) throw std::runtime_error(problem);
   lastPoints = points.data();
   if (points.size() > 100) return record("polyline of " + std::to_string(points.size()));
   record("polyline" + text(points));
@@ -71,18 +94,14 @@ void RecordingTarget::vTextLiteral(const char* text, std::size_t length) {
 }
 
 void RecordingTarget::startObject(const generate::ObjectInterface* object) {
-  ++m_depth;
   const auto* const holder = dynamic_cast<const fc::ObjectInterface*>(object);
   const auto* const root =
       holder ? dynamic_cast<const fc::core::kernel::FcRoot*>(holder->objectGet()) : nullptr;
-  record(root ? std::string("start ") + root->ifcName() + " " + root->Name().value_or("")
-              : "start nothing");
+  open(root ? std::string("start ") + root->ifcName() + " " + root->Name().value_or("")
+            : "start nothing");
 }
 
-void RecordingTarget::stopObject() {
-  --m_depth;
-  record("stop");
-}
+void RecordingTarget::stopObject() { close("stop"); }
 
 bool RecordingTarget::boAttribute(const generate::AttributeInterface& attribute) {
   record("attribute " + attribute.name() + " " + attribute.valueAsText());
@@ -98,9 +117,15 @@ void RecordingTarget::setMaterial(std::shared_ptr<const generate::draw::Material
          test::text(color.blue));
 }
 
+std::shared_ptr<const generate::draw::Material> RecordingTarget::getMaterial() const {
+  mayFail();
+  return m_material;
+}
+
 std::uint32_t RecordingBlockTarget::startBlock(const std::string& name) {
-  const bool isKnown = m_blocks[name]++ > 0;
-  record(isKnown ? "block again" : "block");
+  const bool isKnown = m_blocks.contains(name);
+  open(isKnown ? "block again" : "block");
+  m_blocks.insert(name);
   return isKnown ? 1 : 0;
 }
 

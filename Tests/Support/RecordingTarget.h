@@ -1,8 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <map>
 #include <memory>
+#include <set>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -24,13 +27,18 @@ namespace qor::test {
 ///     stop
 class RecordingTarget : public generate::draw::DrawInterface {
  public:
+  struct Failure : std::runtime_error {
+    Failure() : std::runtime_error("the target is full") {}
+  };
+
   RecordingTarget() = default;
   explicit RecordingTarget(const math::CurveDiscretization& discretization)
       : DrawInterfaceBase(discretization) {}
 
   std::vector<std::string> calls;
-  /// What is thrown at the first call for a polyline, if anything.
-  std::string problem;
+  /// That many calls return before one throws `Failure`. Those that close a scope never do, since
+  /// they are made while it is left.
+  std::size_t callsBeforeFailure = std::numeric_limits<std::size_t>::max();
   /// The address of the points of the last polyline, and how many materials were made.
   const math::Point3d* lastPoints = nullptr;
   std::map<const generate::draw::Material*, std::shared_ptr<const generate::draw::Material>>
@@ -38,11 +46,11 @@ class RecordingTarget : public generate::draw::DrawInterface {
 
   /// The calls with that first word.
   std::vector<std::string> callsOf(const std::string& word) const;
-  /// Objects that are open.
+  /// Objects and blocks that are open.
   int depth() const { return m_depth; }
 
   void vTransformationSet(const math::Matrix& matrix) override { m_frame = matrix; }
-  math::Matrix transformationGet() const override { return m_frame; }
+  math::Matrix transformationGet() const override;
   void vTransformationMultiply(const math::Matrix& matrix,
                                math::MatrixMultiplyOrder order) override;
   void vPolyline(const std::vector<math::Point3d>& points) override;
@@ -57,31 +65,33 @@ class RecordingTarget : public generate::draw::DrawInterface {
   void stopObject() override;
   bool boAttribute(const generate::AttributeInterface& attribute) override;
   void setMaterial(std::shared_ptr<const generate::draw::Material> material) override;
-  std::shared_ptr<const generate::draw::Material> getMaterial() const override {
-    return m_material;
-  }
+  std::shared_ptr<const generate::draw::Material> getMaterial() const override;
   void setColor(const generate::draw::Color& /*color*/) override {}
   generate::draw::Color getColor() const override { return {}; }
 
  protected:
-  void record(std::string call) { calls.push_back(std::move(call)); }
+  void open(std::string call);
+  void close(std::string call);
 
  private:
+  void mayFail() const;
+  void record(std::string call);
   std::string text(const std::vector<math::Point3d>& points) const;
 
   math::Matrix m_frame;
   std::shared_ptr<const generate::draw::Material> m_material;
   int m_depth = 0;
+  mutable std::size_t m_callsThatMayFail = 0;
 };
 
 /// One that keeps blocks: "block" for a new one, "block again" for one that it has, "end".
 class RecordingBlockTarget : public RecordingTarget, public generate::draw::BlockInterface {
  public:
   std::uint32_t startBlock(const std::string& name) override;
-  void stopBlock() override { record("end"); }
+  void stopBlock() override { close("end"); }
 
  private:
-  std::map<std::string, int> m_blocks;
+  std::set<std::string> m_blocks;
 };
 
 }  // namespace qor::test

@@ -3,18 +3,38 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "Fc/Core/ProductExtension/FcOpeningElement.h"
+#include "Fc/Core/ProductExtension/FcRelSpaceBoundary.h"
+#include "Fc/Core/ProductExtension/FcRelVoidsElement.h"
+#include "Fc/Core/ProductExtension/FcSpace.h"
 #include "Fc/Document/FcDrawInterfaceWrapper.h"
+#include "Fc/Resource/GeometricConstraint/FcConnectionPointGeometry.h"
+#include "Fc/Resource/GeometricModel/FcBlock.h"
+#include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
+#include "Fc/Resource/PresentationAppearance/FcColourRgb.h"
+#include "Fc/Resource/PresentationAppearance/FcCurveStyle.h"
+#include "Fc/Resource/PresentationAppearance/FcStyledItem.h"
+#include "Fc/Resource/PresentationDefinition/FcTextLiteral.h"
 #include "Qor/Math/Epsilon.h"
 #include "Tests/Fc/Draw/Drawing.h"
 #include "Tests/Support/ExpectAsserts.h"
+#include "Tests/Support/Make.h"
 
 namespace qor::fc {
 namespace {
 
+using core::kernel::FcProduct;
+using namespace core::productextension;
 using document::Document;
 using math::Epsilon;
 using math::EpsilonSave;
+using resource::geometricconstraint::FcConnectionPointGeometry;
+using resource::geometricmodel::FcBlock;
+using resource::geometry::makePlacement;
+using resource::geometry::makePoint;
+using namespace resource::presentationappearance;
+using resource::presentationdefinition::FcTextLiteral;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -72,7 +92,7 @@ TEST(Documents, DrawWhatTheirStatusSays) {
   EXPECT_THAT(target.calls, ElementsAre("start IfcBuildingStorey Storey", "stop"));
 }
 
-TEST(Documents, KeepTheTolerancesOfTheCallerAlsoWhenATargetThrows) {
+TEST(Documents, DrawWithTolerancesForAModelAndKeepThoseOfTheCaller) {
   test::SmallModel model;
   model.give(*model.storey, {model.shape("Body", {model.line()})});
   const EpsilonSave save;
@@ -81,14 +101,76 @@ TEST(Documents, KeepTheTolerancesOfTheCallerAlsoWhenATargetThrows) {
   Document(model.data).generate(plain);
   EXPECT_EQ(plain.length, 1000.0 * 1e-9);
   EXPECT_EQ(Epsilon::current().length, 0.5);
+}
 
-  test::RecordingTarget target;
-  target.problem = "full";
-  model.place(*model.storey, math::Matrix::createTranslation({1, 0, 0}));
-  EXPECT_THROW(Document(model.data).generate(target), std::runtime_error);
-  EXPECT_EQ(Epsilon::current().length, 0.5);
-  EXPECT_EQ(target.depth(), 0);
-  EXPECT_EQ(target.transformationGet(), math::Matrix());
+/// Everything that opens a scope on a target: objects and their parts, openings, blocks within
+/// blocks, a boundary, a text; and a style, a placement, lines and faces.
+test::SmallModel modelOfEveryScope() {
+  test::SmallModel model;
+  const auto wall = model.wall("Wall"), part = model.wall("Part"), cut = model.wall("Cut");
+  wall->aggregatesConnect(*model.data, part);
+  model.place(*wall, math::Matrix::createTranslation({1, 0, 0}));
+  const auto inner = model.map({model.line(1)});
+  const auto outer = model.map({model.mapped(inner), model.line(2)});
+  const auto styled = model.line(3);
+  const auto colour = test::make<FcColourRgb>({{"Red", 1}, {"Green", 0}, {"Blue", 0}});
+  const auto style = test::make<FcCurveStyle>({{"CurveColour", colour}});
+  test::give(*model.data->create<FcStyledItem>(),
+             {{"Item", styled}, {"Styles", std::vector{style}}});
+  const auto text = test::make<FcTextLiteral>(
+      {{"Literal", "Room"}, {"Placement", makePlacement(math::Matrix())}});
+  const auto block = test::make<FcBlock>({{"XLength", 1}, {"YLength", 1}, {"ZLength", 1}});
+  model.give(*wall, {model.shape("Body", {model.mapped(outer), styled, text}),
+                     model.shape("Axis", {model.mapped(inner), block})});
+  const auto opening = model.make<FcOpeningElement>("Opening");
+  for (const auto& product :
+       {std::static_pointer_cast<FcProduct>(cut), std::static_pointer_cast<FcProduct>(opening)})
+    model.give(*product, {model.shape("Axis", {model.line(4)}), model.shape("Body", {block})});
+  test::give(*model.make<FcRelVoidsElement>(),
+             {{"RelatingBuildingElement", cut}, {"RelatedOpeningElement", opening}});
+  const auto space = model.make<FcSpace>("Space");
+  model.storey->aggregatesConnect(*model.data, space);
+  const auto place = test::make<FcConnectionPointGeometry>(
+      {{"PointOnRelatingElement", makePoint(math::Point3d(1, 2, 3))}});
+  test::give(*model.make<FcRelSpaceBoundary>("Boundary"),
+             {{"RelatingSpace", space}, {"ConnectionGeometry", place}});
+  return model;
+}
+
+TEST(Documents, LeaveNothingBehindWhereverATargetThrows) {
+  const test::SmallModel model = modelOfEveryScope();
+  const Document document(model.data);
+  const auto drawnAgain = [&] {
+    test::RecordingBlockTarget target;
+    document.generate(target);
+    return target.calls;
+  };
+  const auto expected = drawnAgain();
+  const auto frame = math::Matrix::createTranslation({0, 0, 5});
+  const EpsilonSave save;
+  Epsilon::current().length = 0.5;
+  for (std::size_t failing = 0;; ++failing) {
+    SCOPED_TRACE(failing);
+    test::RecordingBlockTarget target;
+    target.vTransformationSet(frame);
+    target.callsBeforeFailure = failing;
+    FcDrawInterfaceWrapper wrapper(target);
+    bool hasThrown = false;
+    try {
+      document.generate(static_cast<FcDrawInterface&>(wrapper));
+    } catch (const test::RecordingTarget::Failure&) {
+      hasThrown = true;
+    }
+    target.callsBeforeFailure = std::numeric_limits<std::size_t>::max();
+    EXPECT_EQ(target.depth(), 0);
+    EXPECT_EQ(target.transformationGet(), frame);
+    EXPECT_FALSE(wrapper.isClipping());
+    EXPECT_EQ(Epsilon::current().length, 0.5);
+    EXPECT_EQ(drawnAgain(), expected);
+    if (hasThrown) continue;
+    EXPECT_GT(failing, expected.size()) << "no call is left out";
+    break;
+  }
 }
 
 TEST(Documents, TellOfAllRootsByOneObject) {

@@ -7,6 +7,7 @@
 #include "Items.h"
 #include "Tests/Qor/Math/RandomGeometry.h"
 #include "Tests/Support/ExpectAsserts.h"
+#include "Tests/Support/Make.h"
 
 namespace qor::fc::resource::geometry {
 namespace {
@@ -38,6 +39,27 @@ TEST(TransformationOperator, CompletesItsAxes) {
   EXPECT_EQ(op.getTransformation(), Matrix({}, {0, 1, 0}, {1, 0, 0}));
   op.setAxis2(makeDirection(Vector3d(0, 1, -1)));  // made perpendicular to the first: a mirror
   EXPECT_EQ(op.getTransformation(), Matrix({0, 1, 0}, {0, 0, -1}, {1, 0, 0}, {}));
+}
+
+TEST(TransformationOperator, ScalesTurnsMirrorsAndMovesAsItsAttributesSay) {
+  RandomGeometry random;
+  for (int i = 0; i < 300; ++i) {
+    const Matrix frame = random.frame(100);
+    const double hand = i % 2 ? -1 : 1;
+    const Vector3d scales(random.number(0.1, 5), random.number(0.1, 5), random.number(0.1, 5));
+    // Axes of any length; the first needn't be perpendicular to the third.
+    const auto op = test::make<NonUniform3D>({{"Axis1", makeDirection(frame.x() * 3 + frame.z())},
+                                              {"Axis2", makeDirection(frame.y() * (hand * 0.5))},
+                                              {"Axis3", makeDirection(frame.z() * 2)},
+                                              {"LocalOrigin", makePoint(frame.origin())},
+                                              {"Scale", scales.x},
+                                              {"Scale2", scales.y},
+                                              {"Scale3", scales.z}});
+    EXPECT_LT(deviation(op->getTransformation(),
+                        Matrix(frame.x() * scales.x, frame.y() * (hand * scales.y),
+                               frame.z() * scales.z, frame.origin())),
+              1e-12);
+  }
 }
 
 TEST(TransformationOperator, TakesMissingScalesFromTheFirst) {

@@ -5,16 +5,28 @@
 #include <cmath>
 #include <sstream>
 
+#include "Fc/Document/FcDrawInterfaceWrapper.h"
 #include "Fc/Reflection/MakeEntity.h"
+#include "Fc/Resource/GeometricModel/FcBlock.h"
+#include "Fc/Resource/Geometry/FcCartesianPoint.h"
+#include "Fc/Resource/Geometry/FcCartesianTransformationOperator3DnonUniform.h"
+#include "Fc/Resource/Geometry/FcDirection.h"
+#include "Fc/Resource/Geometry/FcMappedItem.h"
+#include "Fc/Resource/Geometry/FcRepresentationMap.h"
+#include "Fc/Resource/Representation/FcShapeRepresentation.h"
 #include "Fc/Shared/BuildingElements/FcWall.h"
 #include "Host/Targets/RecordingTarget.h"
 #include "Host/Targets/SceneMeasure.h"
 #include "Tests/Support/ExpectAsserts.h"
+#include "Tests/Support/Make.h"
 #include "Tests/Support/SolidMesh.h"
 
 namespace qor::host::targets {
 namespace {
 
+using fc::resource::geometricmodel::FcBlock;
+using namespace fc::resource::geometry;
+using fc::resource::representation::FcShapeRepresentation;
 using fc::shared::buildingelements::FcWall;
 using generate::draw::Color;
 using generate::draw::Material;
@@ -61,16 +73,34 @@ TEST(SceneTarget, KeepsContentInTheFrameOfTheObject) {
   EXPECT_EQ(measureOf(scene).box, math::Extent({1e6 + 0.5, 2, 3}, {1e6 + 1.5, 3, 4}));
 }
 
-TEST(SceneTarget, TurnsFacesOutwardInMirroredFrames) {
-  for (const double mirror : {1.0, -1.0}) {
-    SceneTarget target(discretization);
+TEST(SceneTarget, KeepsBodiesWholeAndOutwardUnderMirrorsAndUnevenScales) {
+  const auto box = test::make<FcBlock>({{"XLength", 1}, {"YLength", 2}, {"ZLength", 3}});
+  const auto shape = test::make<FcShapeRepresentation>({{"Items", std::vector{box}}});
+  const auto map = test::make<FcRepresentationMap>({{"MappedRepresentation", shape}});
+  SceneTarget target(discretization);
+  fc::FcDrawInterfaceWrapper wrapper(target);
+  // The second use of the map is that of a block.
+  for (const double hand : {-1.0, 1.0, -1.0}) {
+    const auto op = test::make<FcCartesianTransformationOperator3DnonUniform>(
+        {{"Axis2", makeDirection(math::Vector3d(0, hand, 0))},
+         {"LocalOrigin", makePoint(Point3d(10, 0, 0))},
+         {"Scale", 2},
+         {"Scale2", 0.5}});
+    const auto item = test::make<FcMappedItem>({{"MappingSource", map}, {"MappingTarget", op}});
     target.startObject(nullptr);
-    target.vTransformationMultiply({}, left);
-    target.vTransformationMultiply(Matrix::createScale(mirror, 1, 2), left);
-    target.polygonalFaceSet(boxFaces(1, 1, 1));
+    target.vTransformationMultiply({}, left);  // that of the object
+    target.vTransformationMultiply(Matrix::createScale(1, hand, 3), left);
+    box->draw(fc::FcDrawParams(wrapper));
+    item->draw(fc::FcDrawParams(wrapper));
+    target.vTransformationSet(Matrix::createTranslation({0, 50, 0}));
+    item->draw(fc::FcDrawParams(wrapper));
     target.stopObject();
-    const MeshMeasure measure = measureOf(target.takeScene());
-    EXPECT_NEAR(measure.volume, 2, 1e-12);
+  }
+  const Scene scene = target.takeScene();
+  ASSERT_EQ(scene.objects.size(), 3u);
+  for (const SceneObject& object : scene.objects) {
+    const MeshMeasure measure = measureObject(scene, object);
+    EXPECT_NEAR(measure.volume, 6 * 3 + 12 * 3 + 12, 1e-12);
     EXPECT_TRUE(measure.closed);
   }
 }
