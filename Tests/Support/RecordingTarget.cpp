@@ -37,6 +37,12 @@ void RecordingTarget::record(std::string call) {
   calls.push_back(std::move(call));
 }
 
+template <class T>
+void RecordingTarget::keep(std::vector<Drawn<T>>& list, T what) {
+  list.push_back({std::move(what), m_frame, {}});
+  if (m_material) list.back().colour = m_material->getSurfaceColor();
+}
+
 void RecordingTarget::open(std::string call) {
   record(std::move(call));
   ++m_depth;
@@ -70,8 +76,9 @@ std::string RecordingTarget::text(const std::vector<math::Point3d>& points) cons
 
 void RecordingTarget::vPolyline(const std::vector<math::Point3d>& points) {
   lastPoints = points.data();
-  if (points.size() > 100) return record("polyline of " + std::to_string(points.size()));
-  record("polyline" + text(points));
+  record(points.size() > 100 ? "polyline of " + std::to_string(points.size())
+                             : "polyline" + text(points));
+  keep(polylines, points);
 }
 
 void RecordingTarget::vPolygon(const std::vector<Loop3d>& loops,
@@ -79,18 +86,28 @@ void RecordingTarget::vPolygon(const std::vector<Loop3d>& loops,
   std::string line = "polygon";
   for (std::size_t i = 0; i < loops.size(); ++i) line += (i > 0 ? " |" : "") + text(loops[i]);
   record(std::move(line));
+  keep(polygons, loops);
+}
+
+void RecordingTarget::vPolygon(const std::vector<Loop2d>& loops,
+                               std::optional<generate::draw::SurfaceDrawType> /*type*/) {
+  record("flat polygon of " + std::to_string(loops.size()));
+  keep(flatPolygons, loops);
 }
 
 void RecordingTarget::triangulatedFaceSet(generate::draw::TriangulatedFaceSetOpenGL&& faceSet) {
   record("triangles " + test::text(faceSet.coordinates().size(), faceSet.triangles.size()));
+  keep(triangulatedSets, std::move(faceSet));
 }
 
 void RecordingTarget::polygonalFaceSet(generate::draw::PolygonalFaceSetOpenGL&& faceSet) {
   record("polygons " + test::text(faceSet.coordinates.size(), faceSet.faces.size()));
+  keep(polygonalSets, std::move(faceSet));
 }
 
 void RecordingTarget::vTextLiteral(const char* text, std::size_t length) {
   record("text " + std::string(text, length) + this->text({math::Point3d()}));
+  keep(texts, std::string(text, length));
 }
 
 void RecordingTarget::startObject(const generate::ObjectInterface* object) {

@@ -14,8 +14,8 @@
 
 namespace qor::test {
 
-/// A host's draw target that writes down what it is told, a line a call. Points are those of the
-/// project: what arrives times the present frame, with numbers as "%g":
+/// A host's draw target that keeps what it is told, and writes it down, a line a call. Points in
+/// lines are those of the project: what arrives times the present frame, with numbers as "%g":
 ///
 ///     start IfcWall South
 ///     material 1 0 0
@@ -35,6 +35,21 @@ class RecordingTarget : public generate::draw::DrawInterface {
   explicit RecordingTarget(const math::CurveDiscretization& discretization)
       : DrawInterfaceBase(discretization) {}
 
+  /// What came, with the frame and the surface colour of that moment.
+  template <class T>
+  struct Drawn {
+    T what;
+    math::Matrix frame;
+    std::optional<generate::draw::Color> colour;
+  };
+  std::vector<Drawn<generate::draw::PolygonalFaceSetOpenGL>> polygonalSets;
+  std::vector<Drawn<generate::draw::TriangulatedFaceSetOpenGL>> triangulatedSets;
+  std::vector<Drawn<std::vector<Loop3d>>> polygons;
+  std::vector<Drawn<std::vector<Loop2d>>> flatPolygons;
+  std::vector<Drawn<std::vector<math::Point3d>>> polylines;
+  std::vector<Drawn<std::string>> texts;
+
+  /// Each call as a line.
   std::vector<std::string> calls;
   /// That many calls return before one throws `Failure`. Those that close a scope never do, since
   /// they are made while it is left.
@@ -54,8 +69,9 @@ class RecordingTarget : public generate::draw::DrawInterface {
   void vTransformationMultiply(const math::Matrix& matrix,
                                math::MatrixMultiplyOrder order) override;
   void vPolyline(const std::vector<math::Point3d>& points) override;
-  using DrawInterfaceBase::vPolygon;
   void vPolygon(const std::vector<Loop3d>& loops,
+                std::optional<generate::draw::SurfaceDrawType> type) override;
+  void vPolygon(const std::vector<Loop2d>& loops,
                 std::optional<generate::draw::SurfaceDrawType> type) override;
   using DrawInterfaceBase::triangulatedFaceSet;
   void triangulatedFaceSet(generate::draw::TriangulatedFaceSetOpenGL&& faceSet) override;
@@ -76,6 +92,8 @@ class RecordingTarget : public generate::draw::DrawInterface {
  private:
   void mayFail() const;
   void record(std::string call);
+  template <class T>
+  void keep(std::vector<Drawn<T>>& list, T what);
   std::string text(const std::vector<math::Point3d>& points) const;
 
   math::Matrix m_frame;

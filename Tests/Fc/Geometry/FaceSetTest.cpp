@@ -32,7 +32,6 @@ using namespace presentationappearance;
 using test::DrawRecorder;
 using test::ExpectAsserts;
 using test::make;
-using test::MaterialRecorder;
 using testing::ElementsAre;
 using testing::SizeIs;
 
@@ -141,15 +140,34 @@ TEST(PolygonalFaceSet, WithoutPointsGivesNothing) {
   EXPECT_FALSE(set->boundingBox(params));
 }
 
+/// Knows no materials.
+class PlainTarget : public FcDrawInterface {
+ public:
+  int sets = 0;
+  void polygonalFaceSet(PolygonalFaceSetOpenGL&&) override { ++sets; }
+  void vTransformationSet(const Matrix&) override {}
+  Matrix transformationGet() const override { return {}; }
+  void vTransformationMultiply(const Matrix&, math::MatrixMultiplyOrder) override {}
+  void vPolyline(const std::vector<Point3d>&) override {}
+  using DrawInterfaceBase::vPolygon;
+  void vPolygon(const std::vector<Loop3d>&,
+                std::optional<generate::draw::SurfaceDrawType>) override {}
+  void vTextLiteral(const char*, std::size_t) override {}
+  void drawConstRepresentationItem(std::shared_ptr<const geometry::FcRepresentationItem>,
+                                   const FcDrawParams&, generate::draw::SurfaceDrawType) override {}
+  void drawRepresentationItem(std::shared_ptr<geometry::FcRepresentationItem>, const FcDrawParams&,
+                              generate::draw::SurfaceDrawType) override {}
+};
+
 TEST(PolygonalFaceSet, ComesInOneSetForEachColourThatIsUsed) {
   const auto set =
       polygonal({face({4, 3, 2, 1}), faceWithVoids({1, 2, 6, 5}, {{5, 4, 3}}), face({5, 6, 3})});
   const auto map = colour(set, {3, 1, 3});
-  MaterialRecorder target;
+  DrawRecorder target;
   target.draw(*set);
-
-  EXPECT_THAT(target.colours, ElementsAre(Color(1, 0, 0), Color(0, 0, 1)));
   ASSERT_THAT(target.polygonalSets, SizeIs(2));
+  EXPECT_EQ(target.polygonalSets[0].colour, Color(1, 0, 0));
+  EXPECT_EQ(target.polygonalSets[1].colour, Color(0, 0, 1));
   const PolygonalFaceSetOpenGL& red = target.polygonalSets[0].what;
   EXPECT_THAT(red.faces, ElementsAre(Face{{0, 1, 2, 3}, {{3, 4, 5}}}));
   EXPECT_THAT(red.coordinates, ElementsAre(Point3d(0, 0, 0), Point3d(1, 0, 0), Point3d(1, 0, 1),
@@ -158,9 +176,9 @@ TEST(PolygonalFaceSet, ComesInOneSetForEachColourThatIsUsed) {
   EXPECT_THAT(outerRings(blue), ElementsAre(Indices{0, 1, 2, 3}, Indices{4, 5, 1}));
   EXPECT_EQ(blue.coordinates.front(), Point3d(0, 1, 0)) << "numbered in the order of first use";
 
-  DrawRecorder withoutMaterials;
-  withoutMaterials.draw(*set);
-  EXPECT_THAT(withoutMaterials.polygonalSets, SizeIs(1));
+  PlainTarget plain;
+  set->draw(FcDrawParams(plain));
+  EXPECT_EQ(plain.sets, 1);
 }
 
 /// With colours that don't fit, it comes in one part without a colour.

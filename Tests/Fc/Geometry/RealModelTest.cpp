@@ -31,7 +31,7 @@ using namespace geometricmodel;
 using math::Matrix;
 using math::Point3d;
 using math::Vector3d;
-using test::MaterialRecorder;
+using test::DrawRecorder;
 using test::SolidMesh;
 
 // Frames computed once more, from the numbers of the file alone.
@@ -69,7 +69,7 @@ std::optional<Matrix> absoluteFrame(const FcObjectPlacement* placement) {
   return frame;
 }
 
-SolidMesh meshOf(const MaterialRecorder& target) {
+SolidMesh meshOf(const DrawRecorder& target) {
   SolidMesh mesh(1e-6);
   for (const auto& set : target.polygonalSets) mesh.add(set.what);
   for (const auto& set : target.triangulatedSets)
@@ -130,7 +130,7 @@ TEST_P(RealModelGeometry, FacetedBrepsAreClosedAndLookOutward) {
   const test::ExpectAsserts noAsserts;
   int open = 0;
   for (const auto& brep : data->entities<FcFacetedBrep>()) {
-    MaterialRecorder target;
+    DrawRecorder target;
     target.draw(*brep);
     const SolidMesh mesh = meshOf(target);
     if (!mesh.problem().empty())
@@ -145,7 +145,7 @@ TEST_P(RealModelGeometry, FacetedBrepsAreClosedAndLookOutward) {
 TEST_P(RealModelGeometry, TessellatedSetsDrawEachFaceThatTheyHold) {
   const test::ExpectAsserts noAsserts;
   for (const auto& set : data->entities<FcTessellatedFaceSet>()) {
-    MaterialRecorder target;
+    DrawRecorder target;
     target.draw(*set);
     std::size_t drawn = 0;
     for (const auto& part : target.polygonalSets) drawn += part.what.faces.size();
