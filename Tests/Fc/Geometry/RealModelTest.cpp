@@ -15,11 +15,10 @@
 #include "Fc/Resource/GeometricModel/FcTriangulatedFaceSet.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement2D.h"
 #include "Fc/Resource/Geometry/FcCurve.h"
-#include "Host/StepFile/StepReader.h"
 #include "Items.h"
 #include "Tests/Support/ExpectAsserts.h"
+#include "Tests/Support/RealModel.h"
 #include "Tests/Support/RecordingTarget.h"
-#include "Tests/Support/SharedModels.h"
 #include "Tests/Support/SolidMesh.h"
 
 namespace qor::fc::resource::geometry {
@@ -85,10 +84,7 @@ const std::map<std::string, int> openInTheFile{
     {"AC20-FZK-Haus.ifc", 1},      // four faces meet at one edge
     {"Ifc4_SampleHouse.ifc", 1}};  // the front of a roof twice, once within the body
 
-class RealModelGeometry : public test::ModelTest {
- protected:
-  const std::shared_ptr<Data> data = host::step::readStepFile(GetParam()).data;
-};
+using RealModelGeometry = test::RealModelTest;
 
 TEST_P(RealModelGeometry, OpensEachProductWhereItsNumbersSayWithinTheFrameOfTheTarget) {
   const Matrix outer = Matrix::createZRotate(0.3) * Matrix::createTranslation({5, -7, 2});

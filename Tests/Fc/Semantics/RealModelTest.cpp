@@ -8,8 +8,7 @@
 #include "Fc/Core/Kernel/FcTypeProduct.h"
 #include "Fc/Resource/Property/FcProperty.h"
 #include "Fc/Utilities/MergedPset.h"
-#include "Host/StepFile/StepReader.h"
-#include "Tests/Support/SharedModels.h"
+#include "Tests/Support/RealModel.h"
 
 namespace qor::fc {
 namespace {
@@ -43,10 +42,7 @@ std::set<std::string> namesIn(const FcPropertySet& set) {
   return names;
 }
 
-class RealModelPropertySets : public test::ModelTest {
- protected:
-  const std::shared_ptr<Data> data = host::step::readStepFile(GetParam()).data;
-};
+using RealModelPropertySets = test::RealModelTest;
 
 TEST_P(RealModelPropertySets, TellsEachSetOnEachOfItsObjects) {
   std::multiset<Attachment> found;
