@@ -23,6 +23,12 @@ std::vector<fs::path> sharedModels() {
   return models;
 }
 
+std::vector<fs::path> allModels() {
+  std::vector<fs::path> models = sharedModels();
+  models.push_back(sourceFile("Examples/sample.ifc"));
+  return models;
+}
+
 std::vector<fs::path> sharedBuildings() {
   std::vector<fs::path> models = sharedModels();
   std::erase_if(models,

@@ -18,7 +18,10 @@ std::filesystem::path sourceFile(const std::string& relative);
 /// All IFC files under the folder "models", sorted by path; empty when the folder isn't there.
 std::vector<std::filesystem::path> sharedModels();
 
-/// Those of them under "models/buildings".
+/// These and the model of the repository, which is there on every machine.
+std::vector<std::filesystem::path> allModels();
+
+/// Those of the shared ones under "models/buildings".
 std::vector<std::filesystem::path> sharedBuildings();
 
 /// The bytes of a file; none where it can't be read.

@@ -27,7 +27,7 @@ class Quiet {
 
 /// Those that don't take too long for many walks.
 std::vector<std::filesystem::path> smallModels() {
-  std::vector<std::filesystem::path> models = test::sharedModels();
+  std::vector<std::filesystem::path> models = test::allModels();
   std::erase_if(models, [](const auto& path) { return std::filesystem::file_size(path) > 100000; });
   return models;
 }

@@ -3,7 +3,6 @@
 
 #include <cmath>
 #include <functional>
-#include <limits>
 #include <numbers>
 
 #include "Fc/FcParams.h"
@@ -100,38 +99,6 @@ TEST(Primitive, IsAClosedBodyOfItsVolumeInItsBoxWhereverItStands) {
               Extent(c.box.minimum() + shift, c.box.maximum() + shift));
     c.primitive->setPosition(geometry::makePlacement(placed));
     EXPECT_TRUE(isClosedSolidOfVolume(meshOf(*c.primitive), c.volume, c.relativeError));
-  }
-}
-
-TEST(Primitive, OfASizeThatIsntPositiveDrawsNothingAndHasNoBox) {
-  const auto positive = [](const char* what) {
-    return std::string("By definition of IfcPositiveLengthMeasure, the ") + what +
-           " must be strictly positive";
-  };
-  const std::string blockX =
-      "Assertion failed in FcBlock::ValidXYZLengths: XLength must be strictly positive";
-  const std::string pyramidHeight =
-      "Assertion failed in FcRectangularPyramid::ValidXYLengthsHeight: Height must be strictly "
-      "positive";
-  const double none = std::numeric_limits<double>::quiet_NaN();
-  const struct {
-    std::shared_ptr<FcCsgPrimitive3D> primitive;
-    std::string message;
-  } cases[] = {{block(0, 1, 1), blockX},
-               {block(-1, 1, 1), blockX},
-               {block(none, 1, 1), blockX},
-               {pyramid(1, 1, 1e-7), pyramidHeight},
-               {cone(1, 0), positive("height")},
-               {cone(-1, 1), positive("bottom radius")},
-               {cylinder(1, -1), positive("height")},
-               {cylinder(0, 1), positive("radius")},
-               {cylinder(none, 1), positive("radius")}};
-  for (const auto& c : cases) {
-    const ExpectAsserts expected({c.message, c.message});
-    DrawRecorder target;
-    target.draw(*c.primitive);
-    EXPECT_TRUE(target.empty());
-    EXPECT_FALSE(c.primitive->boundingBox(params));
   }
 }
 

@@ -155,7 +155,7 @@ TEST_P(RealModelGeometry, TessellatedSetsDrawEachFaceThatTheyHold) {
   }
 }
 
-FC_INSTANTIATE_FOR_MODELS(RealModelGeometry, test::sharedModels());
+FC_INSTANTIATE_FOR_MODELS(RealModelGeometry, test::allModels());
 
 }  // namespace
 }  // namespace qor::fc::resource::geometry

@@ -74,7 +74,7 @@ TEST_P(RealModelPropertySets, MergesEachSetWithThatOfTheType) {
   }
 }
 
-FC_INSTANTIATE_FOR_MODELS(RealModelPropertySets, test::sharedModels());
+FC_INSTANTIATE_FOR_MODELS(RealModelPropertySets, test::allModels());
 
 }  // namespace
 }  // namespace qor::fc
