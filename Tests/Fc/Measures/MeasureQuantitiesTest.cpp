@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
-
 #include "Fc/Resource/Measure/FcValue.h"
 #include "Fc/Utilities/UnitHelper.h"
 #include "Qor/Unit/Quantities.h"
@@ -21,44 +19,22 @@ struct Row {
   const char* shown;  // 2.5
 };
 
+// One of each form: of the SI and not, by its exponents and by a unit of its own, whole and not.
 const Row rows[] = {
     {"AreaMeasure", 2, {2, 0, 0, 0, 0, 0, 0}, "2.500 m²"},
     {"CountMeasure", 6, {0, 0, 0, 0, 0, 0, 0}, "2.5"},
-    {"ElectricCurrentMeasure", 46, {0, 0, 0, 1, 0, 0, 0}, "2.5 A"},
-    {"LengthMeasure", 1, {1, 0, 0, 0, 0, 0, 0}, "2.500 m"},
-    {"NonNegativeLengthMeasure", 1, {1, 0, 0, 0, 0, 0, 0}, "2.500 m"},
     {"PositiveLengthMeasure", 1, {1, 0, 0, 0, 0, 0, 0}, "2.500 m"},
-    {"MassMeasure", 39, {0, 1, 0, 0, 0, 0, 0}, "2.500 kg"},
     {"NormalisedRatioMeasure", 8, {0, 0, 0, 0, 0, 0, 0}, "2.5"},
-    {"PositiveRatioMeasure", 8, {0, 0, 0, 0, 0, 0, 0}, "2.5"},
-    {"RatioMeasure", 8, {0, 0, 0, 0, 0, 0, 0}, "2.5"},
     {"PlaneAngleMeasure", 5, {0, 0, 0, 0, 0, 0, 0}, "143.24°"},
-    {"PositivePlaneAngleMeasure", 5, {0, 0, 0, 0, 0, 0, 0}, "143.24°"},
     {"ThermodynamicTemperatureMeasure", 9, {0, 0, 0, 0, 1, 0, 0}, "2.50 K"},
     {"TimeMeasure", 0, {0, 0, 1, 0, 0, 0, 0}, "2.5 s"},
-    {"VolumeMeasure", 3, {3, 0, 0, 0, 0, 0, 0}, "2.500 m³"},
-    {"AbsorbedDoseMeasure", 51, {2, 0, -2, 0, 0, 0, 0}, "2.5 Gy"},
-    {"CurvatureMeasure", 47, {-1, 0, 0, 0, 0, 0, 0}, "2.5 1/m"},
     {"ElectricResistanceMeasure", 45, {2, 1, -3, -2, 0, 0, 0}, "2.5 Ω"},
-    {"ElectricVoltageMeasure", 44, {2, 1, -3, -1, 0, 0, 0}, "2.5 V"},
-    {"ForceMeasure", 34, {1, 1, -2, 0, 0, 0, 0}, "2.5 N"},
-    {"FrequencyMeasure", 48, {0, 0, -1, 0, 0, 0, 0}, "2.5 Hz"},
-    {"IlluminanceMeasure", 43, {-2, 0, 0, 0, 0, 0, 1}, "2.5 lx"},
-    {"LinearForceMeasure", 35, {0, 1, -2, 0, 0, 0, 0}, "2.5 N/m"},
     {"LinearMomentMeasure", 36, {1, 1, -2, 0, 0, 0, 0}, "2.5 N·m/m"},
-    {"LinearVelocityMeasure", 4, {1, 0, -1, 0, 0, 0, 0}, "2.500 m/s"},
     {"LuminousFluxMeasure", 41, {0, 0, 0, 0, 0, 0, 1}, "2.5 lm"},
-    {"MassDensityMeasure", 21, {-3, 1, 0, 0, 0, 0, 0}, "2.500 kg/m³"},
-    {"MassFlowRateMeasure", 31, {0, 1, -1, 0, 0, 0, 0}, "2.5 kg/s"},
     {"MolecularWeightMeasure", 40, {0, 1, 0, 0, 0, -1, 0}, "2.5 kg/mol"},
-    {"PowerMeasure", 11, {2, 1, -3, 0, 0, 0, 0}, "2.5 W"},
-    {"PressureMeasure", 10, {-1, 1, -2, 0, 0, 0, 0}, "2.5 Pa"},
-    {"RotationalFrequencyMeasure", 49, {0, 0, -1, 0, 0, 0, 0}, "2.5 1/s"},
     {"SpecificHeatCapacityMeasure", 23, {2, 0, -2, 0, -1, 0, 0}, "2.5 J/(kg·K)"},
-    {"ThermalConductivityMeasure", 17, {1, 1, -3, 0, -1, 0, 0}, "2.500 W/(m·K)"},
     {"ThermalTransmittanceMeasure", 12, {0, 1, -3, 0, -1, 0, 0}, "2.500 W/(m²·K)"},
     {"TorqueMeasure", 37, {2, 1, -2, 0, 0, 0, 0}, "2.5 N·m"},
-    {"VolumetricFlowRateMeasure", 16, {3, 0, -1, 0, 0, 0, 0}, "2.5 m³/s"},
     {"WarpingMomentMeasure", 38, {3, 1, -3, 0, 0, 0, 0}, "2.5 N·m²"},
 };
 
@@ -120,27 +96,26 @@ TEST(MeasureQuantities, HaveUnitsOfTheirOwnWhereTheExponentsDontNameThem) {
   EXPECT_TRUE((hasUnit<Unit<0, Frequency>>("FrequencyMeasure")));
 }
 
-// All measures of the schema but those of the table: nothing, and an assert for each way to ask.
-TEST(MeasureQuantities, AreNoneForAllOtherMeasures) {
-  std::set<std::string> known;
-  for (const Row& row : rows) known.insert(row.measure);
+// Each measure of the schema is shown or tells, for each way to ask, that it isn't.
+TEST(MeasureQuantities, AreOfMeasuresOfTheSchemaAndNoneForTheOthers) {
   std::vector<std::string> names = FcMeasureValue::enumNames();
   for (const std::string& name : FcDerivedMeasureValue::enumNames()) names.push_back(name);
-  std::size_t others = 0;
+  std::size_t shown = 0;
   for (const std::string& name : names) {
-    EXPECT_TRUE(isMeasure("Ifc" + name));
-    if (known.contains(name)) continue;
     SCOPED_TRACE(name);
-    ++others;
-    const test::ExpectAsserts expected({notImplemented, notImplemented});
+    EXPECT_TRUE(isMeasure("Ifc" + name));
+    const bool isShown = quantityOfMeasure(name) != nullptr;
+    shown += isShown;
+    using Asserts = std::vector<test::ExpectedAssert>;
+    const test::ExpectAsserts expected(isShown ? Asserts{} : Asserts(2, notImplemented));
     FcValue value;
     ASSERT_TRUE(value.setTypeFromString(name));
     EXPECT_TRUE(value.hasQuantityPresentation());
-    EXPECT_EQ(value.createQuantityPresentation(), nullptr);
-    EXPECT_EQ(helper::appendUnit(2.5, name), std::nullopt);
-    EXPECT_EQ(quantityOfMeasure(name), nullptr);
+    EXPECT_EQ(value.createQuantityPresentation() != nullptr, isShown);
+    EXPECT_EQ(helper::appendUnit(2.5, name).has_value(), isShown);
   }
-  EXPECT_EQ(others, 56u);
+  EXPECT_EQ(shown, 38u);
+  EXPECT_EQ(names.size(), 94u);
   const test::ExpectAsserts expected({notImplemented, notImplemented});
   EXPECT_EQ(FcMeasureValue().createQuantityPresentation(), nullptr);
   EXPECT_EQ(FcDerivedMeasureValue().createQuantityPresentation(), nullptr);
