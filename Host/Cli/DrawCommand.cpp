@@ -12,6 +12,7 @@
 #include "Fc/Core/ProductExtension/FcOpeningElement.h"
 #include "Fc/Core/ProductExtension/FcSpace.h"
 #include "Host/Cli/AttributeValue.h"
+#include "Host/Cli/DrawingReport.h"
 #include "Host/Cli/EntityLabel.h"
 #include "Host/Cli/LoadModel.h"
 #include "Host/Cli/OutputFile.h"
@@ -115,26 +116,23 @@ struct Counts {
   std::size_t objects = 0, blocks, triangles = 0, lines = 0, texts = 0;
 };
 
-void print(const DrawOptions& options, const Scene& scene, Console& console) {
+void print(const DrawOptions& options, const Scene& scene, const DrawingReport& report,
+           std::ostream& out) {
   const Counts counts(scene);
-  std::ostream& out = console.out;
-  if (counts.objects == 0 && counts.blocks == 0)
-    console.err
-        << "fctool: nothing was drawn: what has a shape is hidden (--spaces, --openings and "
-           "--status show it), couldn't be made (the lines above say why) or belongs to no product "
-           "(--id draws any one entity)\n";
   if (options.json) {
     nlohmann::ordered_json json{{"file", options.file.string()}, {"objects", counts.objects},
                                 {"blocks", counts.blocks},       {"triangles", counts.triangles},
                                 {"lines", counts.lines},         {"texts", counts.texts}};
     json["outputs"] = nlohmann::ordered_json::array();
     for (const auto& output : options.outputs) json["outputs"].push_back(output.string());
+    if (options.why) json["why"] = report.why();
     out << toText(json);
     return;
   }
   out << fmt::format("{} objects, {} shared blocks, {} triangles, {} lines, {} texts\n",
                      counts.objects, counts.blocks, counts.triangles, counts.lines, counts.texts);
   for (const auto& output : options.outputs) out << fmt::format("{}\n", printable(output.string()));
+  report.printWhy(out);
 }
 
 std::string titleOf(const DrawOptions& options) {
@@ -156,8 +154,9 @@ void choose(const DrawOptions& options, fc::DrawStatus& status) {
 ExitCode trace(const DrawOptions& options, const step::ReadResult& model, const Plan& plan,
                const fc::DrawStatus& status, RepresentationChoice* choice, Console& console) {
   targets::RecordingTarget target(plan.discretization, console.out);
-  const bool drawn = drawModel(model, options, status, choice, target, console);
-  return drawn ? exitCodeOf(model) : ExitCode::impossible;
+  DrawingReport report(model, options);
+  const bool drawn = drawModel(model, options, status, choice, target, report, console);
+  return drawn ? report.end(console.err) : ExitCode::impossible;
 }
 
 }  // namespace
@@ -175,13 +174,15 @@ ExitCode runDraw(const DrawOptions& options, Console& console) {
   if (options.trace) return trace(options, *model, *plan, *status, choice, console);
 
   targets::SceneTarget target(plan->discretization);
-  if (!drawModel(*model, options, *status, choice, target, console)) return ExitCode::impossible;
+  DrawingReport report(*model, options);
+  if (!drawModel(*model, options, *status, choice, target, report, console))
+    return ExitCode::impossible;
   Scene scene = target.takeScene();
   arrangeAsTree(scene, *model->data, numbersOf(*model));
   for (const auto& output : options.outputs)
     if (!writeScene(output, scene, *plan, titleOf(options), console)) return ExitCode::impossible;
-  print(options, scene, console);
-  return exitCodeOf(*model);
+  print(options, scene, report, console.out);
+  return report.end(console.err);
 }
 
 }  // namespace qor::host::cli
