@@ -1,5 +1,7 @@
 #include "Fc/Drawing/FcClip.h"
 
+#include <algorithm>
+
 #include "Fc/ComplexGeometry/FcComplexGeometryProcessorInterface.h"
 #include "Fc/ComplexGeometry/FcImplicitClippingTask.h"
 #include "Fc/ComplexGeometry/FcPolygonalFaceSetResult.h"
@@ -7,6 +9,11 @@
 
 namespace qor::fc {
 namespace {
+
+bool isNothing(const std::vector<generate::draw::PolygonalFaceSetOpenGL>& faceSets) {
+  return std::all_of(faceSets.begin(), faceSets.end(),
+                     [](const auto& faceSet) { return faceSet.faces.empty(); });
+}
 
 /// The target draws what is left of an item.
 class DrawingClipped {
@@ -26,6 +33,7 @@ void FcClip::drawItemClipped(
     const std::shared_ptr<const resource::geometry::FcRepresentationItem>& item,
     const FcDrawParams& params) {
   auto faceSets = getClippedItems(item, params->transformationGet(), FcParams(params), *this);
+  if (isNothing(faceSets)) ++m_cutAwayCount;
   const DrawingClipped drawing(m_drawingClipped);
   for (auto& faceSet : faceSets) params->polygonalFaceSet(std::move(faceSet));
 }

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstdint>
 #include <deque>
 #include <map>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -60,7 +62,8 @@ class QOR_API FcDrawInterfaceWrapper : public FcDrawInterface,
   void drawRepresentationItem(std::shared_ptr<resource::geometry::FcRepresentationItem> item,
                               const FcDrawParams& params,
                               generate::draw::SurfaceDrawType type) override;
-  generate::draw::BlockInterface* blockInterface() override { return m_blocks; }
+  std::optional<std::uint64_t> shownCount() const override { return m_shownCount; }
+  generate::draw::BlockInterface* blockInterface() override;
 
   void startObject(const generate::ObjectInterface* object) override;
   void stopObject() override;
@@ -88,12 +91,16 @@ class QOR_API FcDrawInterfaceWrapper : public FcDrawInterface,
     std::shared_ptr<const FcBase> textures;
   };
 
+  class CountedBlocks;
+
+  void countShown(bool isSomething) { m_shownCount += isSomething ? 1 : 0; }
   const Material& materialOf(const Shading& shading, const Textures* textures);
   const Material& materialOf(const generate::draw::Color& color);
 
   generate::draw::DrawInterfaceBase& m_target;
   generate::draw::DrawInterface* m_objects;
-  generate::draw::BlockInterface* m_blocks;
+  std::unique_ptr<CountedBlocks> m_blocks;  ///< null when the target keeps none
+  std::uint64_t m_shownCount = 0;           ///< calls with something in them
   std::deque<OpenObject> m_openObjects;
   std::map<std::pair<const Shading*, const Textures*>, StyleMaterial> m_materialByStyle;
   std::map<generate::draw::Color, Material, generate::draw::ColorLess> m_materialByColor;

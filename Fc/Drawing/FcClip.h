@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -38,6 +39,9 @@ class QOR_API FcClip {
   /// The item is to be cut before it is drawn.
   bool isClipping() const { return !m_drawingClipped && !m_clipObjects.empty(); }
 
+  /// How many items were cut so far of which nothing was left.
+  std::uint64_t cutAwayCount() const { return m_cutAwayCount; }
+
   /// Draws what the clip objects leave of the item, in the target's present frame. Without a
   /// processor of complex geometry that is nothing.
   void drawItemClipped(const std::shared_ptr<const resource::geometry::FcRepresentationItem>& item,
@@ -51,6 +55,7 @@ class QOR_API FcClip {
  private:
   std::vector<ClipObject> m_clipObjects;
   bool m_drawingClipped = false;
+  std::uint64_t m_cutAwayCount = 0;
 };
 
 /// Adds clip objects for a scope. Workers nest like a stack: each takes away what was added since

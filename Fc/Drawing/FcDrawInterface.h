@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
+#include <optional>
 
 #include "Fc/Drawing/FcClip.h"
 #include "Qor/Draw/BlockInterface.h"
@@ -31,6 +33,10 @@ class QOR_API FcDrawInterface : public virtual generate::draw::DrawInterfaceBase
   virtual void presentationLayerNotice(
       std::shared_ptr<const resource::presentationorganization::FcPresentationLayerAssignment>
       /*layer*/) {}
+  /// How often something to see was drawn so far: `DrawOutcomes` tells by it whether a product was.
+  /// Empty for a target that doesn't count; then each that was asked for, without a report, is
+  /// taken for drawn.
+  virtual std::optional<std::uint64_t> shownCount() const { return std::nullopt; }
   /// Who keeps blocks for this target: itself when it is a `BlockInterface`, null for nobody.
   virtual generate::draw::BlockInterface* blockInterface() {
     return dynamic_cast<generate::draw::BlockInterface*>(this);

@@ -17,6 +17,7 @@
 namespace qor::fc {
 
 class Data;
+class DrawOutcomes;
 
 namespace core::kernel {
 class FcProduct;
@@ -62,6 +63,9 @@ class QOR_API FcGenerateParams {
   /// Told of each root that the draw status shows differently.
   std::function<void(const FcRoot&, DrawStatusInterface::ObjectRepresentationState)>
       representationStateCallback;
+  /// Keeps what becomes of each product, for a host that asks why something isn't seen. Not owned;
+  /// null keeps nothing, and costs nothing.
+  DrawOutcomes* outcomes = nullptr;
   /// Goes into the `FcDrawParams` of all items.
   bool skipExpensiveClipping = false;
   /// Ports draw a small cone.

@@ -6,6 +6,7 @@
 
 #include "Qor/Assert/Report.h"
 #include "Fc/Shapes/SweepFaces.h"
+#include "Fc/Shapes/SweptRings.h"
 
 namespace qor::fc::resource::geometricmodel {
 
@@ -35,12 +36,7 @@ class PathSweep {
         m_path(path),
         m_reference(reference),
         m_closed(closed),
-        m_points(getPointsInProfileForGeneratingFaceSet(profile, path.size() - 1, false)),
-        m_n(m_points.size()),
-        m_counter(m_n - 1),
-        m_isSoft(mayHaveSoftEdges(profile)) {
-    (m_isSoft ? m_soft : m_hard).reserve((path.size() - 1) * m_n + 2);
-  }
+        m_rings(profile, path.size() - 1, false) {}
 
   /// False when the path is too short for a body.
   bool run() {
@@ -55,8 +51,8 @@ class PathSweep {
 
   PolygonalFaceSetOpenGL faceSet(const std::optional<Matrix>& frame) && {
     if (frame)
-      for (Point3d& point : m_points) point = point * *frame;
-    return sweptFaceSet(std::move(m_points), m_n, std::move(m_hard), std::move(m_soft));
+      for (Point3d& point : m_rings.points()) point = point * *frame;
+    return std::move(m_rings).finish();
   }
 
  private:
@@ -67,15 +63,16 @@ class PathSweep {
       if (const auto seam = mitrePlane(before, start, m_path[1])) {
         place(sectionFrame(before, start, m_reference));
         if (moveLastRing(*seam, start - before)) return;
-        m_points = getPointsInProfileForGeneratingFaceSet(m_profile, m_path.size() - 1, false);
+        m_rings.points() =
+            getPointsInProfileForGeneratingFaceSet(m_profile, m_path.size() - 1, false);
       }
     }
     place(sectionFrame(start, m_path[1], m_reference));
-    if (!m_closed) m_hard.push_back(generateBottomFace(m_profile));
+    if (!m_closed) m_rings.addBottom();
   }
 
   void place(const Matrix& frame) {
-    for (Point3d& point : m_points) point = point * frame;
+    for (Point3d& point : m_rings.points()) point = point * frame;
   }
 
   bool finishAt(const Point3d& station) {
@@ -93,34 +90,33 @@ class PathSweep {
   }
 
   void addTop() {
-    if (m_hard.empty())
+    if (!m_rings.hasHardFaces())
       report("hardEdgeFaceset.m_faces is empty");
-    else if (!m_closed) {  // a closed path that starts on a straight stretch ends where it began
-      const std::size_t offset = m_isSoft ? m_n : m_points.size() - m_n;
-      m_hard.push_back(generateTopFace(m_hard.front(), static_cast<std::uint32_t>(offset),
-                                       m_profile.contours().size() >= 2));
-    }
+    else if (!m_closed)  // a closed path that starts on a straight stretch ends where it began
+      m_rings.addTop(m_profile.contours().size() >= 2);
   }
 
   /// The last ring carried on along the leg to the plane; false, and no ring, where it doesn't
   /// reach it.
   bool addRing(const std::optional<Plane>& plane, const Vector3d& leg) {
     if (!plane) return false;
-    const std::size_t size = m_points.size();
-    for (std::size_t i = size - m_n; i < size; ++i) m_points.push_back(m_points[i]);
+    std::vector<Point3d>& points = m_rings.points();
+    const std::size_t size = points.size();
+    for (std::size_t i = size - m_rings.ringSize(); i < size; ++i) points.push_back(points[i]);
     if (!moveLastRing(*plane, leg)) {
-      m_points.resize(size);
+      points.resize(size);
       return false;
     }
-    addIndexedFacesForSides(m_profile, m_n, m_counter, m_isSoft ? m_soft : m_hard, nullptr);
+    m_rings.addSides();
     return true;
   }
 
   bool moveLastRing(const Plane& plane, const Vector3d& leg) {
-    for (std::size_t i = m_points.size() - m_n; i < m_points.size(); ++i) {
-      const auto moved = plane.projectAlongVectorEitherDirection(m_points[i], leg);
+    std::vector<Point3d>& points = m_rings.points();
+    for (std::size_t i = points.size() - m_rings.ringSize(); i < points.size(); ++i) {
+      const auto moved = plane.projectAlongVectorEitherDirection(points[i], leg);
       if (!moved) return false;
-      m_points[i] = *moved;
+      points[i] = *moved;
     }
     return true;
   }
@@ -129,12 +125,7 @@ class PathSweep {
   const std::vector<Point3d>& m_path;
   const Vector3d& m_reference;
   bool m_closed;
-  std::vector<Point3d> m_points;
-  std::size_t m_n;
-  std::size_t m_counter;
-  bool m_isSoft;
-  SweptFaces m_hard;
-  SweptFaces m_soft;
+  SweptRings m_rings;
 };
 
 }  // namespace

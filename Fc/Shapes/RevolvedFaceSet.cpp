@@ -7,6 +7,7 @@
 
 #include "Qor/Assert/Report.h"
 #include "Fc/Shapes/SweepFaces.h"
+#include "Fc/Shapes/SweptRings.h"
 #include "Qor/Math/Epsilon.h"
 
 namespace qor::fc::resource::geometricmodel {
@@ -61,72 +62,13 @@ bool checkAgainstAxis(const RevolutionAxis& axis, const Contour& outer, double r
   return true;
 }
 
-/// Rings and faces of a body that turns, from the bottom up.
-class Revolution {
- public:
-  Revolution(const Profile2D& profile, const RevolutionAxis& axis, std::size_t segments,
-             bool reverse)
-      : m_profile(profile),
-        m_axis(axis),
-        m_points(getPointsInProfileForGeneratingFaceSet(profile, segments, reverse)),
-        m_n(m_points.size()),
-        m_counter(m_n - 1),
-        m_isSoft(mayHaveSoftEdges(profile)) {
-    (m_isSoft ? m_soft : m_hard).reserve(segments * m_n + 2);
-  }
-
-  void addBottom() { m_hard.push_back(generateBottomFace(m_profile)); }
-
-  /// Point `i` of the ring before it is turned is `place(i)`.
-  template <typename Place>
-  void addRing(double angle, const Place& place) {
-    const Matrix turn = turnAround(m_axis, angle);
-    for (std::size_t i = 0; i < m_n; ++i) m_points.push_back(place(i) * turn);
-    addIndexedFacesForSides(m_profile, m_n, m_counter, sides(), nullptr);
-  }
-  void addRing(double angle) {
-    addRing(angle, [this](std::size_t i) { return m_points[i]; });
-  }
-
-  void joinLastRingToFirst() {
-    const auto back = static_cast<std::uint32_t>(m_points.size() - m_n);
-    std::uint32_t first = 0;
-    for (const Contour& contour : m_profile.contours()) {
-      const auto count = static_cast<std::uint32_t>(contour.size());
-      for (std::uint32_t j = 0; count > 1 && j < count; ++j) {
-        const std::uint32_t k = first + j;
-        const std::uint32_t next = first + (j + 1) % count;
-        sides().push_back({{back + k, back + next, next, k}, {}});
-      }
-      first += count;
-    }
-  }
-
-  /// Over the last ring; the bottom is there already.
-  void addTop(bool hasVoids) {
-    const std::size_t offset = m_isSoft ? m_n : m_points.size() - m_n;
-    m_hard.push_back(generateTopFace(m_hard.front(), static_cast<std::uint32_t>(offset), hasVoids));
-  }
-
-  const Point3d& firstRing(std::size_t i) const { return m_points[i]; }
-  std::size_t ringSize() const { return m_n; }
-
-  PolygonalFaceSetOpenGL finish() && {
-    return sweptFaceSet(std::move(m_points), m_n, std::move(m_hard), std::move(m_soft));
-  }
-
- private:
-  SweptFaces& sides() { return m_isSoft ? m_soft : m_hard; }
-
-  const Profile2D& m_profile;
-  const RevolutionAxis& m_axis;
-  std::vector<Point3d> m_points;
-  std::size_t m_n;
-  std::size_t m_counter;
-  bool m_isSoft;
-  SweptFaces m_hard;
-  SweptFaces m_soft;
-};
+/// Adds a ring turned by this angle from the first; before that its point `i` is `place(i)`.
+template <typename Place>
+void addTurnedRing(SweptRings& body, const RevolutionAxis& axis, double angle, const Place& place) {
+  const Matrix turn = turnAround(axis, angle);
+  for (std::size_t i = 0; i < body.ringSize(); ++i) body.points().push_back(place(i) * turn);
+  body.addSides();
+}
 
 }  // namespace
 
@@ -158,13 +100,15 @@ std::optional<PolygonalFaceSetOpenGL> revolvedFaceSet(
       std::abs(angle - 2 * std::numbers::pi) <= Epsilon::current().angle && segments > 1;
   const double step = angle / static_cast<double>(segments);
 
-  Revolution body(profile, axis, segments, liesRightOfAxis(axis, outer));
+  SweptRings body(profile, segments, liesRightOfAxis(axis, outer));
+  const auto first = [&body](std::size_t i) { return body.points()[i]; };
   if (!fullTurn) body.addBottom();
-  for (std::size_t i = 1; i < segments; ++i) body.addRing(step * static_cast<double>(i));
+  for (std::size_t i = 1; i < segments; ++i)
+    addTurnedRing(body, axis, step * static_cast<double>(i), first);
   if (fullTurn) {
     body.joinLastRingToFirst();
   } else {
-    body.addRing(angle);
+    addTurnedRing(body, axis, angle, first);
     body.addTop(profile.contours().size() >= 2);
   }
   return std::move(body).finish();
@@ -184,12 +128,13 @@ std::optional<PolygonalFaceSetOpenGL> taperedRevolvedFaceSet(
   // Each ring holds its points in the order of the first, or the quads would cross.
   const bool reverse = liesRightOfAxis(axis, outer);
   const std::vector<Point3d> last = getPointsInProfileForGeneratingFaceSet(end, 0, reverse);
-  Revolution body(start, axis, segments, reverse);
+  SweptRings body(start, segments, reverse);
   body.addBottom();
   for (std::size_t i = 1; i <= segments; ++i) {
     const double fraction = static_cast<double>(i) / static_cast<double>(segments);
-    body.addRing(angle * fraction, [&](std::size_t point) {
-      return body.firstRing(point) + (last[point] - body.firstRing(point)) * fraction;
+    addTurnedRing(body, axis, angle * fraction, [&](std::size_t point) {
+      const Point3d& first = body.points()[point];
+      return first + (last[point] - first) * fraction;
     });
   }
   body.addTop(end.contours().size() >= 2);

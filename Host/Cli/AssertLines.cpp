@@ -18,16 +18,29 @@ AssertLines::~AssertLines() {
     if (count > 1) m_err << fmt::format("{}: {} times in all\n", text, count);
 }
 
+std::uint64_t AssertLines::count() const {
+  const std::lock_guard lock(m_mutex);
+  return m_count;
+}
+
+/// ", #4711 IFCEXTRUDEDAREASOLID, at #12 IFCWALL 'South wall'".
+std::string AssertLines::whereOf(const AssertInfo& info) const {
+  const std::string object = m_watch.object();
+  std::string where = object.empty() ? object : ", at " + object;
+  if (!info.subject) return where;
+  const std::string subject = m_watch.nameOf(*static_cast<const fc::FcBase*>(info.subject));
+  return subject == object ? where : ", " + subject + where;
+}
+
 void AssertLines::take(const AssertInfo& info) {
   std::string text =
       fmt::format("fctool: assert: {} ({})", printable(info.message), printable(info.function));
   const std::lock_guard lock(m_mutex);
+  ++m_count;
   if (const auto told = m_told.find(text); told != m_told.end()) {
     ++told->second;
   } else if (m_told.size() < maxLines) {
-    const std::string object = m_watch.object();
-    m_err << m_watch.lineStart() << (object.empty() ? text : fmt::format("{}, at {}", text, object))
-          << "\n";
+    m_err << m_watch.lineStart() << text << whereOf(info) << "\n";
     m_told.emplace(std::move(text), 1);
   }
 }

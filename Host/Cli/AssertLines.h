@@ -13,8 +13,8 @@
 namespace qor::host::cli {
 
 /// While it lives, it writes the engine's asserts to a stream, each text once, in one line that
-/// names the object that the program is at. How often a text came is told in the end. From any
-/// thread.
+/// names the entity that breaks the rule and the object that the program is at. How often a text
+/// came is told in the end. From any thread.
 class AssertLines {
  public:
   /// So many different texts are told; the rest is left out, so that memory stays bounded.
@@ -26,12 +26,17 @@ class AssertLines {
   AssertLines& operator=(const AssertLines&) = delete;
   ~AssertLines();
 
+  /// Of all that came so far.
+  std::uint64_t count() const;
+
  private:
+  std::string whereOf(const AssertInfo& info) const;
   void take(const AssertInfo& info);
 
   std::ostream& m_err;
   const Watch& m_watch;
-  std::mutex m_mutex;
+  mutable std::mutex m_mutex;
+  std::uint64_t m_count = 0;
   std::map<std::string, std::uint64_t> m_told;  ///< with how often each came
   Assert::Handler m_previous;
 };

@@ -53,7 +53,9 @@ class CommandLine {
     } catch (const CLI::ParseError& error) {
       return finish(error, console);
     }
-    return m_command(console);
+    const AssertLines asserts(console.err, console.watch);
+    const ExitCode code = m_command(console);
+    return code == ExitCode::success && asserts.count() > 0 ? ExitCode::problems : code;
   }
 
  private:
@@ -127,6 +129,9 @@ class CommandLine {
     command.add_option("--status", options.status, "File of a draw status");
     command.add_flag("--no-openings", options.noOpenings,
                      "Leave bodies as they are before their openings are cut out");
+    command.add_option("--why", options.why, "Say of each product why it isn't drawn, or of one")
+        ->expected(0, 1)
+        ->type_name("[GUID]");
     command.add_flag("--skip-expensive", options.skipExpensive,
                      "Leave out cuts by tessellated bodies and boundary representations");
   }
@@ -135,7 +140,8 @@ class CommandLine {
     addDrawing(command, m_draw);
     command.add_option("-o", m_draw.outputs, "A file to write: .glb, .obj, .png or .svg")
         ->allow_extra_args(false);
-    command.add_flag("--trace", m_draw.trace, "Print each call that a draw target gets");
+    command.add_flag("--trace", m_draw.trace, "Print each call that a draw target gets")
+        ->excludes("--why");
     command.add_flag("--spaces", m_draw.spaces, "Show spaces too, which cover what is in them");
     command.add_flag("--openings", m_draw.openings, "Show openings too, as bodies");
     command.add_option("--view", m_draw.view, "Of pictures: plan, front, side or iso");
@@ -145,12 +151,15 @@ class CommandLine {
     CLI::App& command =
         add("measure", "Box, area and volume of each product", m_measure, runMeasure);
     addDrawing(command, m_measure);
-    command.add_flag("--surfaces", m_measure.surfaces,
-                     "Outlines of the planar faces of each body instead");
+    command
+        .add_flag("--surfaces", m_measure.surfaces,
+                  "Outlines of the planar faces of each body instead")
+        ->excludes("--why");
     command
         .add_option("--distance", m_measure.distance,
                     "The least distance between the bodies of two objects instead")
         ->expected(2)
+        ->excludes("--why")
         ->type_name("GUID");
   }
   void addStatus() {
@@ -187,7 +196,6 @@ class CommandLine {
 }  // namespace
 
 ExitCode runFctool(int argc, const char* const* argv, Console& console) noexcept try {
-  const AssertLines asserts(console.err, console.watch);
   return CommandLine().run(argc, argv, console);
 } catch (const std::bad_alloc&) {
   console.err << "fctool: out of memory\n";

@@ -1,17 +1,22 @@
 #include "Host/Cli/DrawCommand.h"
 
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
 #include <algorithm>
+#include <iterator>
 #include <nlohmann/json.hpp>
 #include <ostream>
+#include <string_view>
 #include <typeindex>
 #include <typeinfo>
 #include <utility>
+#include <vector>
 
 #include "Fc/Core/ProductExtension/FcOpeningElement.h"
 #include "Fc/Core/ProductExtension/FcSpace.h"
 #include "Host/Cli/AttributeValue.h"
+#include "Host/Cli/DrawingReport.h"
 #include "Host/Cli/EntityLabel.h"
 #include "Host/Cli/LoadModel.h"
 #include "Host/Cli/OutputFile.h"
@@ -50,18 +55,73 @@ std::optional<Size> sizeOf(const std::string& text) {
   return std::max(size->first, size->second) <= most ? size : std::nullopt;
 }
 
+/// What is written into a file, and how it is shown where the file is a picture.
+struct Drawn {
+  const Scene& scene;
+  const Plan& plan;
+  std::string title;
+};
+
+bool writeGlbFile(const std::filesystem::path& path, const Drawn& drawn, Console& console) {
+  return writeFile(path, console,
+                   [&](std::ostream& out) { return targets::writeGlb(drawn.scene, out); });
+}
+
+bool writeObjFiles(const std::filesystem::path& path, const Drawn& drawn, Console& console) {
+  std::filesystem::path materialPath = path;
+  materialPath.replace_extension(".mtl");
+  return writeFile(path, console, [&](std::ostream& out) {
+    return writeFile(materialPath, console, [&](std::ostream& materials) {
+      targets::writeObj(drawn.scene, materialPath.filename().string(), out, materials);
+      return true;
+    });
+  });
+}
+
+bool writePngFile(const std::filesystem::path& path, const Drawn& drawn, Console& console) {
+  return writeFile(path, console, [&](std::ostream& out) {
+    const Plan& plan = drawn.plan;
+    out << image::toPng(targets::pictureOf(drawn.scene, plan.view, plan.width, plan.height));
+    return true;
+  });
+}
+
+bool writeSvgFile(const std::filesystem::path& path, const Drawn& drawn, Console& console) {
+  return writeFile(path, console, [&](std::ostream& out) {
+    targets::writeSvg(drawn.scene, drawn.plan.view, drawn.title, out);
+    return true;
+  });
+}
+
+/// A kind of file, by the ending of its name. The writer gives false, after a line that says why.
+struct Format {
+  std::string_view ending;
+  bool (*write)(const std::filesystem::path& path, const Drawn& drawn, Console& console);
+};
+
+constexpr Format formats[] = {{".glb", writeGlbFile},
+                              {".obj", writeObjFiles},
+                              {".png", writePngFile},
+                              {".svg", writeSvgFile}};
+
+/// Null, after a line that says why, for an ending that none has.
+const Format* formatOf(const std::filesystem::path& path, Console& console) {
+  const auto found = std::ranges::find(formats, path.extension().string(), &Format::ending);
+  if (found != std::end(formats)) return found;
+  std::vector<std::string_view> endings;
+  for (const Format& format : formats) endings.push_back(format.ending);
+  refuse(console,
+         fmt::format("{} ends in none of {}", inQuotes(path.string()), fmt::join(endings, ", ")));
+  return nullptr;
+}
+
 std::optional<Plan> planOf(const DrawOptions& options, Console& console) {
   const auto discretization = discretizationOf(options, console);
   if (!discretization) return std::nullopt;
   const auto view = targets::viewFromText(options.view);
   const auto size = sizeOf(options.size);
-  for (const auto& output : options.outputs) {
-    const auto ending = output.extension();
-    if (ending == ".glb" || ending == ".obj" || ending == ".png" || ending == ".svg") continue;
-    refuse(console,
-           fmt::format("{} ends in none of .glb, .obj, .png, .svg", inQuotes(output.string())));
-    return std::nullopt;
-  }
+  for (const auto& output : options.outputs)
+    if (!formatOf(output, console)) return std::nullopt;
   if (!view)
     refuse(console, fmt::format("{} is none of plan, front, side, iso", inQuotes(options.view)));
   else if (!size)
@@ -71,30 +131,6 @@ std::optional<Plan> planOf(const DrawOptions& options, Console& console) {
   else
     return Plan{*discretization, *view, size->first, size->second};
   return std::nullopt;
-}
-
-bool writeObjFiles(const std::filesystem::path& path, const Scene& scene, Console& console) {
-  std::filesystem::path materialPath = path;
-  materialPath.replace_extension(".mtl");
-  return writeFile(path, console, [&](std::ostream& out) {
-    return writeFile(materialPath, console, [&](std::ostream& materials) {
-      targets::writeObj(scene, materialPath.filename().string(), out, materials);
-      return true;
-    });
-  });
-}
-
-bool writeScene(const std::filesystem::path& path, const Scene& scene, const Plan& plan,
-                const std::string& title, Console& console) {
-  if (path.extension() == ".obj") return writeObjFiles(path, scene, console);
-  return writeFile(path, console, [&](std::ostream& out) {
-    if (path.extension() == ".glb") return targets::writeGlb(scene, out);
-    if (path.extension() == ".svg")
-      targets::writeSvg(scene, plan.view, title, out);
-    else
-      out << image::toPng(targets::pictureOf(scene, plan.view, plan.width, plan.height));
-    return true;
-  });
 }
 
 /// What a scene holds, a block once.
@@ -115,26 +151,23 @@ struct Counts {
   std::size_t objects = 0, blocks, triangles = 0, lines = 0, texts = 0;
 };
 
-void print(const DrawOptions& options, const Scene& scene, Console& console) {
+void print(const DrawOptions& options, const Scene& scene, const DrawingReport& report,
+           std::ostream& out) {
   const Counts counts(scene);
-  std::ostream& out = console.out;
-  if (counts.objects == 0 && counts.blocks == 0)
-    console.err
-        << "fctool: nothing was drawn: what has a shape is hidden (--spaces, --openings and "
-           "--status show it), couldn't be made (the lines above say why) or belongs to no product "
-           "(--id draws any one entity)\n";
   if (options.json) {
     nlohmann::ordered_json json{{"file", options.file.string()}, {"objects", counts.objects},
                                 {"blocks", counts.blocks},       {"triangles", counts.triangles},
                                 {"lines", counts.lines},         {"texts", counts.texts}};
     json["outputs"] = nlohmann::ordered_json::array();
     for (const auto& output : options.outputs) json["outputs"].push_back(output.string());
+    if (options.why) json["why"] = report.why();
     out << toText(json);
     return;
   }
   out << fmt::format("{} objects, {} shared blocks, {} triangles, {} lines, {} texts\n",
                      counts.objects, counts.blocks, counts.triangles, counts.lines, counts.texts);
   for (const auto& output : options.outputs) out << fmt::format("{}\n", printable(output.string()));
+  report.printWhy(out);
 }
 
 std::string titleOf(const DrawOptions& options) {
@@ -156,8 +189,9 @@ void choose(const DrawOptions& options, fc::DrawStatus& status) {
 ExitCode trace(const DrawOptions& options, const step::ReadResult& model, const Plan& plan,
                const fc::DrawStatus& status, RepresentationChoice* choice, Console& console) {
   targets::RecordingTarget target(plan.discretization, console.out);
-  const bool drawn = drawModel(model, options, status, choice, target, console);
-  return drawn ? exitCodeOf(model) : ExitCode::impossible;
+  DrawingReport report(model, options);
+  const bool drawn = drawModel(model, options, status, choice, target, report, console);
+  return drawn ? report.end(console.err) : ExitCode::impossible;
 }
 
 }  // namespace
@@ -175,13 +209,16 @@ ExitCode runDraw(const DrawOptions& options, Console& console) {
   if (options.trace) return trace(options, *model, *plan, *status, choice, console);
 
   targets::SceneTarget target(plan->discretization);
-  if (!drawModel(*model, options, *status, choice, target, console)) return ExitCode::impossible;
+  DrawingReport report(*model, options);
+  if (!drawModel(*model, options, *status, choice, target, report, console))
+    return ExitCode::impossible;
   Scene scene = target.takeScene();
   arrangeAsTree(scene, *model->data, numbersOf(*model));
+  const Drawn drawn{scene, *plan, titleOf(options)};
   for (const auto& output : options.outputs)
-    if (!writeScene(output, scene, *plan, titleOf(options), console)) return ExitCode::impossible;
-  print(options, scene, console);
-  return exitCodeOf(*model);
+    if (!formatOf(output, console)->write(output, drawn, console)) return ExitCode::impossible;
+  print(options, scene, report, console.out);
+  return report.end(console.err);
 }
 
 }  // namespace qor::host::cli

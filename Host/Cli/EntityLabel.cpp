@@ -21,9 +21,9 @@ std::optional<std::string> nameOf(const fc::FcBase& entity) {
   return text ? std::optional(std::move(*text)) : std::nullopt;
 }
 
-std::string label(const fc::FcBase& entity, std::uint64_t number) {
+std::string label(const fc::FcBase& entity, std::optional<std::uint64_t> number) {
   const std::optional<std::string> name = nameOf(entity);
-  return fmt::format("#{} {}{}", number, entity.ifcNameUpper(),
+  return fmt::format("{}{}{}", number ? fmt::format("#{} ", *number) : "", entity.ifcNameUpper(),
                      name ? " " + inQuotes(*name) : std::string());
 }
 

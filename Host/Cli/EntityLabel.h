@@ -13,8 +13,8 @@ namespace qor::host::cli {
 /// The attribute "Name" of an entity of any class; empty where it has none or it isn't set.
 std::optional<std::string> nameOf(const fc::FcBase& entity);
 
-/// "#12 IFCWALL 'South wall'", in one line.
-std::string label(const fc::FcBase& entity, std::uint64_t number);
+/// "#12 IFCWALL 'South wall'", in one line; "IFCWALL 'South wall'" without a number.
+std::string label(const fc::FcBase& entity, std::optional<std::uint64_t> number);
 
 /// {"id": 12, "class": "IFCWALL", "guid": "1ND...", "name": "South wall"}; what an entity doesn't
 /// have is left out.

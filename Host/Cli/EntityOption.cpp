@@ -11,6 +11,7 @@
 
 namespace qor::host::cli {
 
+using fc::core::kernel::FcProduct;
 using fc::core::kernel::FcRoot;
 
 std::optional<Guid> guidFromText(const std::string& text, Console& console) {
@@ -36,6 +37,16 @@ std::shared_ptr<FcRoot> findRoot(const step::ReadResult& model, const Guid& guid
   refuse(console,
          fmt::format("{} has no entity with the guid {}", inQuotes(file), guid.toString(false)));
   return nullptr;
+}
+
+std::shared_ptr<FcProduct> findProduct(const step::ReadResult& model, const std::string& text,
+                                       const std::string& file, Console& console) {
+  const auto guid = guidFromText(text, console);
+  const auto root = guid ? findRoot(model, *guid, file, console) : nullptr;
+  auto product = fc::fcCast<FcProduct>(root);
+  if (root && !product)
+    refuse(console, fmt::format("{} {} is no product", text, root->ifcNameUpper()));
+  return product;
 }
 
 std::shared_ptr<fc::FcBase> findEntity(const step::ReadResult& model, std::uint64_t id,

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "Fc/Core/Kernel/FcRoot.h"
+#include "Fc/Core/Kernel/FcProduct.h"
 #include "Host/Cli/Console.h"
 #include "Host/StepFile/StepReader.h"
 
@@ -23,6 +23,11 @@ std::optional<std::uint64_t> idFromText(const std::string& text, Console& consol
 /// none.
 std::shared_ptr<fc::core::kernel::FcRoot> findRoot(const step::ReadResult& model, const Guid& guid,
                                                    const std::string& file, Console& console);
+
+/// The product whose guid this text is. Null, after a line that says why, for none.
+std::shared_ptr<fc::core::kernel::FcProduct> findProduct(const step::ReadResult& model,
+                                                         const std::string& guid,
+                                                         const std::string& file, Console& console);
 
 /// The entity with that number. Null, after a line that says why, when the file has none or it was
 /// left out.

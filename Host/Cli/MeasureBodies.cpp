@@ -42,16 +42,6 @@ void printSurfaces(const FcProduct& product, const std::vector<math::Polygon3d>&
   }
 }
 
-std::shared_ptr<FcProduct> findProduct(const step::ReadResult& model, const std::string& text,
-                                       const MeasureOptions& options, Console& console) {
-  const auto guid = guidFromText(text, console);
-  const auto root = guid ? findRoot(model, *guid, options.file.string(), console) : nullptr;
-  auto product = fc::fcCast<FcProduct>(root);
-  if (root && !product)
-    refuse(console, fmt::format("{} {} is no product", text, root->ifcNameUpper()));
-  return product;
-}
-
 }  // namespace
 
 ExitCode measureSurfaces(const step::ReadResult& model, const MeasureOptions& options,
@@ -78,8 +68,9 @@ ExitCode measureSurfaces(const step::ReadResult& model, const MeasureOptions& op
 
 ExitCode measureDistance(const step::ReadResult& model, const MeasureOptions& options,
                          const fc::FcParams& params, Console& console) {
-  const auto first = findProduct(model, options.distance.front(), options, console);
-  const auto second = first ? findProduct(model, options.distance.back(), options, console) : first;
+  const std::string file = options.file.string();
+  const auto first = findProduct(model, options.distance.front(), file, console);
+  const auto second = first ? findProduct(model, options.distance.back(), file, console) : first;
   if (!first || !second) return ExitCode::impossible;
   const ProcessorScope processor;
   const Watch::Walk walk(console.watch, model);

@@ -6,6 +6,7 @@
 #include <ostream>
 
 #include "Fc/FcParams.h"
+#include "Host/Cli/DrawingReport.h"
 #include "Host/Cli/EntityLabel.h"
 #include "Host/Cli/LoadModel.h"
 #include "Host/Cli/MeasureBodies.h"
@@ -63,7 +64,9 @@ ExitCode runMeasure(const MeasureOptions& options, Console& console) {
   RepresentationChoice choice = options.context.empty() ? RepresentationChoice::bodies(*model->data)
                                                         : RepresentationChoice(options.context);
   targets::SceneTarget target(*discretization);
-  if (!drawModel(*model, options, *status, &choice, target, console)) return ExitCode::impossible;
+  DrawingReport report(*model, options);
+  if (!drawModel(*model, options, *status, &choice, target, report, console))
+    return ExitCode::impossible;
   const Scene scene = target.takeScene();
 
   nlohmann::ordered_json products = nlohmann::ordered_json::array();
@@ -75,9 +78,14 @@ ExitCode runMeasure(const MeasureOptions& options, Console& console) {
     else
       printLine(object, measure, console.out);
   }
-  if (options.json)
-    console.out << toText({{"file", options.file.string()}, {"products", std::move(products)}});
-  return exitCodeOf(*model);
+  if (options.json) {
+    nlohmann::ordered_json json{{"file", options.file.string()}, {"products", std::move(products)}};
+    if (options.why) json["why"] = report.why();
+    console.out << toText(json);
+  } else {
+    report.printWhy(console.out);
+  }
+  return report.end(console.err);
 }
 
 }  // namespace qor::host::cli

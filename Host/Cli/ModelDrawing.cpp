@@ -1,12 +1,14 @@
 #include "Host/Cli/ModelDrawing.h"
 
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
 #include <algorithm>
 #include <fstream>
 #include <functional>
 #include <memory>
 #include <ostream>
+#include <set>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -19,6 +21,7 @@
 #include "Fc/Resource/Geometry/FcRepresentationMap.h"
 #include "Fc/Resource/Representation/FcProductRepresentation.h"
 #include "Fc/Resource/Representation/FcRepresentation.h"
+#include "Host/Cli/DrawingReport.h"
 #include "Host/Cli/EntityOption.h"
 #include "Host/Cli/LoadModel.h"
 #include "Host/Cli/ModelTree.h"
@@ -28,7 +31,10 @@
 #include "Host/Cli/Watch.h"
 #include "Host/Cli/WholeNumber.h"
 #include "Host/StepFile/Progress.h"
+#include "Qor/Assert/Assert.h"
+#include "Qor/Draw/Representation.h"
 #include "Qor/Math/Epsilon.h"
+#include "Qor/String/IgnoreCase.h"
 
 namespace qor::host::cli {
 
@@ -94,12 +100,14 @@ class Drawing {
  public:
   Drawing(const std::shared_ptr<fc::Data>& data, const fc::DrawStatus& status,
           RepresentationChoice* choice, generate::draw::DrawInterface& target,
-          const DrawingOptions& options, Watch& watch, const std::function<void(double)>& tell)
+          fc::DrawOutcomes& outcomes, const DrawingOptions& options, Watch& watch,
+          const std::function<void(double)>& tell)
       : m_document(data),
         m_target(target),
         m_wrapper(target, options.noOpenings),
         m_params(m_wrapper, m_document, status, *data, choice, nullptr, nullptr),
         m_progress(tell, data->entities<FcProduct>().size()) {
+    m_params.outcomes = &outcomes;
     m_params.skipExpensiveClipping = options.skipExpensive;
     m_params.skipObjectCallback = [this, &watch](const Guid& guid) {
       watch.at(guid);
@@ -148,6 +156,55 @@ class Drawing {
   std::size_t m_done = 0;
 };
 
+/// Tells outcomes of the reports that come while it lives, beside who is told anyhow.
+class ReportedTo {
+ public:
+  explicit ReportedTo(fc::DrawOutcomes& outcomes) {
+    m_previous = Assert::setHandler({});
+    Assert::setHandler([&outcomes, previous = m_previous](const AssertInfo& info) {
+      outcomes.addReport(info.message);
+      if (previous) previous(info);
+    });
+  }
+  ReportedTo(const ReportedTo&) = delete;
+  ReportedTo& operator=(const ReportedTo&) = delete;
+  ~ReportedTo() { Assert::setHandler(std::move(m_previous)); }
+
+ private:
+  Assert::Handler m_previous;
+};
+
+/// The identifiers of the representations of a model, and those that the schema names.
+std::set<std::string> knownIdentifiers(const fc::Data& data) {
+  using generate::draw::Representation;
+  using generate::draw::RepresentationIdentifier;
+  std::set<std::string> known;
+  for (const std::shared_ptr<FcRepresentation> representation : data.entities<FcRepresentation>())
+    if (const auto& identifier = representation->RepresentationIdentifier())
+      known.insert(*identifier);
+  for (int i = 0; i <= static_cast<int>(RepresentationIdentifier::Reference); ++i)
+    known.insert(Representation::sIdentifier(static_cast<RepresentationIdentifier>(i)));
+  return known;
+}
+
+/// False, after a line that says why, when the options name a context or a product that isn't
+/// there.
+bool canAnswer(const step::ReadResult& model, const DrawingOptions& options, Console& console) {
+  if (options.why && !options.why->empty() &&
+      !findProduct(model, *options.why, options.file.string(), console))
+    return false;
+  if (options.context.empty()) return true;
+  const auto known = knownIdentifiers(*model.data);
+  if (std::ranges::any_of(known, [&](const std::string& identifier) {
+        return equalsIgnoreCase(identifier, options.context);
+      }))
+    return true;
+  refuse(console, fmt::format("{} is the identifier of no representation; known are {}",
+                              inQuotes(options.context),
+                              printable(fmt::format("{}", fmt::join(known, ", ")))));
+  return false;
+}
+
 fc::DrawStatus withAllContexts(const fc::DrawStatus& status) {
   fc::DrawStatus::StateSet disabled = status.getDisabledStates();
   std::erase_if(disabled, [](const fc::DrawStatus::StateKey& key) {
@@ -188,7 +245,8 @@ std::optional<fc::DrawStatus> readDrawStatus(const fc::Data& data,
 
 bool drawModel(const step::ReadResult& model, const DrawingOptions& options,
                const fc::DrawStatus& status, RepresentationChoice* choice,
-               generate::draw::DrawInterface& target, Console& console) {
+               generate::draw::DrawInterface& target, DrawingReport& report, Console& console) {
+  if (!canAnswer(model, options, console)) return false;
   std::vector<std::shared_ptr<fc::FcBase>> roots;
   if (options.id.empty())
     roots = allRoots(model, console);
@@ -207,8 +265,9 @@ bool drawModel(const step::ReadResult& model, const DrawingOptions& options,
   ProgressBar bar("Drawing", console);
   const fc::DrawStatus all = choice ? withAllContexts(status) : fc::DrawStatus();
   const Watch::Walk walk(console.watch, model);
-  Drawing drawing(model.data, choice ? all : status, choice, target, options, console.watch,
-                  bar.callback());
+  const ReportedTo reported(report.outcomes());
+  Drawing drawing(model.data, choice ? all : status, choice, target, report.outcomes(), options,
+                  console.watch, bar.callback());
   for (const auto& root : roots) {
     if (drawing.draw(root)) continue;
     refuse(console,

@@ -23,6 +23,8 @@ struct DrawingOptions {
   std::filesystem::path status{};  ///< file of a draw status; empty for the default one
   bool noOpenings = false;         ///< draw bodies as they are before openings are cut out
   bool skipExpensive = false;      ///< leave out cuts by bodies that take the solid modeller long
+  /// The product that is asked why it isn't seen, by its guid; empty for all, none for no question.
+  std::optional<std::string> why{};
 };
 
 /// How finely curves are drawn; nothing, after a line that says why, when it can't be understood.
@@ -34,12 +36,15 @@ std::optional<math::CurveDiscretization> discretizationOf(const DrawingOptions& 
 std::optional<fc::DrawStatus> readDrawStatus(const fc::Data& data,
                                              const std::filesystem::path& file, Console& console);
 
+class DrawingReport;
+
 /// Draws all projects and the products that none leads to, or the one entity that is asked for,
 /// into a target, with a progress bar. `choice` may be null: then the draw status decides which
-/// representations are drawn; otherwise the choice does, whatever contexts the status hides. False,
-/// after a line that says why, when there is nothing to start from.
+/// representations are drawn; otherwise the choice does, whatever contexts the status hides. The
+/// report gets what becomes of each product. False, after a line that says why, when there is
+/// nothing to start from, or what the options name isn't there.
 bool drawModel(const step::ReadResult& model, const DrawingOptions& options,
                const fc::DrawStatus& status, RepresentationChoice* choice,
-               generate::draw::DrawInterface& target, Console& console);
+               generate::draw::DrawInterface& target, DrawingReport& report, Console& console);
 
 }  // namespace qor::host::cli

@@ -48,8 +48,9 @@ std::string upperCase(std::string_view text) {
 std::string siSymbol(const step::Dimensions& dimensions) {
   constexpr const char* symbols[] = {"m", "kg", "s", "A", "K", "mol", "cd"};
   std::string text;
-  for (std::size_t i = 0; i < dimensions.exponents.size(); ++i) {
-    const int exponent = dimensions.exponents[i];
+  const auto exponents = step::exponentsOf(dimensions);
+  for (std::size_t i = 0; i < exponents.size(); ++i) {
+    const int exponent = exponents[i];
     if (exponent == 0) continue;
     text += fmt::format("{}{}", text.empty() ? "" : " ", symbols[i]);
     if (exponent != 1) text += fmt::format("^{}", exponent);

@@ -56,9 +56,17 @@ std::string Watch::object() const {
 
 std::string Watch::objectWhileLocked() const {
   const auto root = m_model && m_visits > 0 ? m_model->data->entityByGuid(m_guid) : nullptr;
-  if (!root) return {};
-  if (!m_numbers) m_numbers.emplace(*m_model->data, m_model->instances);
-  return label(*root, m_numbers->numberOf(*root));
+  return root ? nameWhileLocked(*root) : std::string();
+}
+
+std::string Watch::nameOf(const fc::FcBase& entity) const {
+  const std::lock_guard lock(m_mutex);
+  return nameWhileLocked(entity);
+}
+
+std::string Watch::nameWhileLocked(const fc::FcBase& entity) const {
+  if (m_model && !m_numbers) m_numbers.emplace(*m_model->data, m_model->instances);
+  return label(entity, m_numbers ? m_numbers->find(entity) : std::nullopt);
 }
 
 void Watch::run() {

@@ -38,6 +38,10 @@ class Watch {
   /// "#12 IFCWALL 'South wall'"; empty when the program is at none.
   std::string object() const;
 
+  /// The same for any entity; without a number when the model that the program is at doesn't list
+  /// it, such as a copy that is being cut.
+  std::string nameOf(const fc::FcBase& entity) const;
+
   /// While a progress bar stands in the last line of `err`, other lines begin by wiping it away.
   void setBarShown(bool isShown) { m_isBarShown = isShown; }
   const char* lineStart() const { return m_isBarShown ? "\r\033[K" : ""; }
@@ -57,6 +61,7 @@ class Watch {
 
  private:
   std::string objectWhileLocked() const;
+  std::string nameWhileLocked(const fc::FcBase& entity) const;
   void run();
   void tell(std::chrono::steady_clock::duration duration) const;
   [[noreturn]] void end() const;

@@ -36,6 +36,11 @@ void EntityNumbers::order(std::uint32_t index, std::uint64_t number) {
   m_next = std::max(m_next, number + 1);
 }
 
+std::optional<std::uint64_t> EntityNumbers::find(const fc::FcBase& entity) const {
+  const std::uint32_t index = m_indices.find(keyOf(entity));
+  return index == NumberMap::none ? std::nullopt : std::optional(m_entities[index].number);
+}
+
 std::uint64_t EntityNumbers::numberOf(const fc::FcBase& entity) {
   std::uint32_t index = m_indices.find(keyOf(entity));
   if (index == NumberMap::none) {

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -20,6 +21,9 @@ class EntityNumbers {
   /// An entity that has none yet, since the model doesn't list it, comes last and gets the next
   /// one.
   std::uint64_t numberOf(const fc::FcBase& entity);
+
+  /// Nothing for an entity that has none yet.
+  std::optional<std::uint64_t> find(const fc::FcBase& entity) const;
 
   /// Grows while `numberOf` meets entities that aren't listed.
   std::size_t size() const { return m_order.size(); }

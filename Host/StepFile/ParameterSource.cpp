@@ -314,34 +314,42 @@ bool ParameterSource::more() {
   while (true) {
     m_at = m_scanner.skipSpace(m_at);
     if (*m_at == ')' || *m_at == ';') {
-      if (m_resumeAt && m_depth == m_resumeDepth) {
-        resume();
-        continue;
-      }
-      if (*m_at == ')') {
-        ++m_at;
-      } else if (!std::exchange(m_damaged, true)) {
-        report(ProblemKind::syntax, [] {
-          return "is a list without its closing parenthesis; read up to the semicolon.";
-        });
-      }
+      if (!endsWrapper()) return closeList();
+      resume();
+    } else if (!m_first && *m_at != ',') {
+      passOver();
+    } else {
+      if (!m_first) ++m_at;
       m_first = false;
-      --m_depth;
-      return false;
+      const bool mayBeWrapper = m_conversion == Conversion::unwrap && !m_resumeAt;
+      if (!mayBeWrapper || !unwrap()) return true;
     }
-    if (!m_first && *m_at != ',') {
-      report(ProblemKind::syntax, [this] {
-        return fmt::format(
-            "is followed by \"{}\", where a comma or a closing parenthesis belongs; passed over.",
-            quote(m_at));
-      });
-      skip();
-      continue;
-    }
-    if (!m_first) ++m_at;
-    m_first = false;
-    if (m_conversion != Conversion::unwrap || m_resumeAt || !unwrap()) return true;
   }
+}
+
+// The list of a wrapper ends, and the one that it stands in goes on.
+bool ParameterSource::endsWrapper() const { return m_resumeAt && m_depth == m_resumeDepth; }
+
+// Always false: nothing more comes.
+bool ParameterSource::closeList() {
+  if (*m_at == ')')
+    ++m_at;
+  else if (!std::exchange(m_damaged, true))
+    report(ProblemKind::syntax,
+           [] { return "is a list without its closing parenthesis; read up to the semicolon."; });
+  m_first = false;
+  --m_depth;
+  return false;
+}
+
+// What stands behind an element and is no comma.
+void ParameterSource::passOver() {
+  report(ProblemKind::syntax, [this] {
+    return fmt::format(
+        "is followed by \"{}\", where a comma or a closing parenthesis belongs; passed over.",
+        quote(m_at));
+  });
+  skip();
 }
 
 bool ParameterSource::unwrap() {

@@ -84,6 +84,9 @@ class ParameterSource final : public fc::ValueSource {
   Kind typedKind();
   bool endsNumber();
   void takeUnquoted(std::string& out);
+  bool endsWrapper() const;
+  bool closeList();
+  void passOver();
   bool unwrap();
   void resume();
   void giveUp();

@@ -173,60 +173,87 @@ std::string classRecord(const SchemaModel& model, const Entity& entity) {
              entity.inverses.empty() ? "{}" : "inverseTable", derived, model.linksTargets(entity));
 }
 
+/// What a class shows of its attributes, and what it keeps.
+struct Declarations {
+  std::string accessors, members;
+};
+
+std::string getter(const std::string& type, const std::string& name) {
+  return fmt::format("  const {0}& {1}() const {{ return m_{1}; }}\n", type, name);
+}
+
+bool needsInitializer(const std::string& type) {
+  return type == "double" || type == "std::int64_t" || type == "bool" || type == "LogicalValue";
+}
+
+void declareForward(const SchemaModel& model, const Entity& entity, HeaderText& header,
+                    Declarations& into) {
+  for (const Attribute& attribute : entity.attributes) {
+    header.use(attribute.type.name);
+    const std::string type = model.memberType(entity, attribute);
+    if (type.find("CountedTriple") != std::string::npos)
+      header.include("Fc/Reflection/CountedTriple.h");
+    into.accessors += getter(type, attribute.name) + setterDeclarations(model, entity, attribute);
+    into.members +=
+        fmt::format("  {} m_{}{};\n", type, attribute.name, needsInitializer(type) ? "{}" : "");
+  }
+}
+
+void declareInverse(const SchemaModel& model, const Entity& entity, HeaderText& header,
+                    Declarations& into) {
+  for (const InverseAttribute& inverse : entity.inverses) {
+    header.include("Fc/Reflection/InverseSet.h");
+    header.use(inverse.entity);
+    const std::string type = inverseType(model, entity, inverse);
+    into.accessors += getter(type, inverse.name);
+    into.members += fmt::format("  {} m_{};\n", type, inverse.name);
+  }
+}
+
+Declarations declarationsOf(const SchemaModel& model, const Entity& entity, HeaderText& header) {
+  Declarations declarations;
+  declareForward(model, entity, header, declarations);
+  if (!entity.attributes.empty() && !entity.inverses.empty()) declarations.accessors += '\n';
+  declareInverse(model, entity, header, declarations);
+  return declarations;
+}
+
+std::string tableDeclarations(const Entity& entity) {
+  std::string tables = "  static const ClassInfo record;\n";
+  const auto add = [&tables](const char* name, std::size_t count) {
+    if (count > 0) tables += fmt::format("  static const AttributeInfo {}[{}];\n", name, count);
+  };
+  add("attributeTable", entity.attributes.size());
+  add("inverseTable", entity.inverses.size());
+  return tables;
+}
+
+/// The constructor of a class that others derive from, and the members.
+std::string hiddenPart(bool isFinal, const std::string& constructor, const std::string& members) {
+  std::string text = isFinal ? "" : constructor;
+  if (!members.empty() && !text.empty()) text += '\n';
+  text += members;
+  if (text.empty()) return text;
+  return (isFinal ? "\n private:\n" : "\n protected:\n") + text;
+}
+
 }  // namespace
 
 std::string generatedClassName(const SchemaModel& model, const Entity& entity) {
   return fcName(entity.name) + (model.isHandWritten(entity) ? "Attributes" : "");
 }
 
+// The destructor is a real function, so that the code of each is that of its own members and not
+// that of all above it; constructors, which store little but zeros, are worth repeating.
 std::string classHeader(const SchemaModel& model, const Entity& entity) {
   const Group& group = groupNamed(entity.group);
   const std::string name = generatedClassName(model, entity);
-  HeaderText header(model, group);
   const bool isRoot = entity.supertype.empty();
-  header.include(isRoot ? "Fc/FcBase.h" : headerOf(model, entity.supertype));
-
-  std::string accessors, members;
-  for (const Attribute& attribute : entity.attributes) {
-    header.use(attribute.type.name);
-    const std::string type = model.memberType(entity, attribute);
-    if (type.find("CountedTriple") != std::string::npos)
-      header.include("Fc/Reflection/CountedTriple.h");
-    accessors +=
-        fmt::format("  const {0}& {1}() const {{ return m_{1}; }}\n", type, attribute.name);
-    accessors += setterDeclarations(model, entity, attribute);
-    members += fmt::format(
-        "  {} m_{}{};\n", type, attribute.name,
-        type == "double" || type == "std::int64_t" || type == "bool" || type == "LogicalValue"
-            ? "{}"
-            : "");
-  }
-  if (!entity.attributes.empty() && !entity.inverses.empty()) accessors += '\n';
-  for (const InverseAttribute& inverse : entity.inverses) {
-    header.include("Fc/Reflection/InverseSet.h");
-    header.use(inverse.entity);
-    const std::string type = inverseType(model, entity, inverse);
-    accessors += fmt::format("  const {0}& {1}() const {{ return m_{1}; }}\n", type, inverse.name);
-    members += fmt::format("  {} m_{};\n", type, inverse.name);
-  }
-
-  std::string tables = "  static const ClassInfo record;\n";
-  if (!entity.attributes.empty())
-    tables +=
-        fmt::format("  static const AttributeInfo attributeTable[{}];\n", entity.attributes.size());
-  if (!entity.inverses.empty())
-    tables +=
-        fmt::format("  static const AttributeInfo inverseTable[{}];\n", entity.inverses.size());
-
-  // The destructor is a real function, so that the code of each is that of its own members and not
-  // that of all above it; constructors, which store little but zeros, are worth repeating.
   const bool isFinal = !entity.abstract && !model.isHandWritten(entity);
   const std::string constructor = fmt::format("  {}() = default;\n", name);
-  std::string hidden = isFinal ? "" : constructor;
-  if (!members.empty() && !hidden.empty()) hidden += '\n';
-  hidden += members;
-  if (!hidden.empty()) hidden = (isFinal ? "\n private:\n" : "\n protected:\n") + hidden;
-
+  HeaderText header(model, group);
+  header.include(isRoot ? "Fc/FcBase.h" : headerOf(model, entity.supertype));
+  const Declarations declared = declarationsOf(model, entity, header);
   return header.around(fmt::format(
       R"(/// {0}, {1}.
 class QOR_API {2} : public {3} {{
@@ -242,8 +269,9 @@ class QOR_API {2} : public {3} {{
 {9}{10}{11}}};
 )",
       entity.name, group.path, name, isRoot ? "FcBase" : model.className(entity.supertype, group),
-      model.firstId(entity), model.lastId(entity), group.name, fcName(entity.name), tables,
-      accessors.empty() ? "" : "\n", accessors, hidden, isFinal ? constructor : ""));
+      model.firstId(entity), model.lastId(entity), group.name, fcName(entity.name),
+      tableDeclarations(entity), declared.accessors.empty() ? "" : "\n", declared.accessors,
+      hiddenPart(isFinal, constructor, declared.members), isFinal ? constructor : ""));
 }
 
 std::string classSource(const SchemaModel& model, const Entity& entity) {

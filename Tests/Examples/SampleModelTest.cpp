@@ -21,8 +21,7 @@ class SampleModel : public testing::Test {
   static std::map<std::string, json> measured(std::vector<std::string> options = {}) {
     options.insert(options.begin(), {"measure", sampleFile(), "--json"});
     const ToolRun run = runTool(options);
-    EXPECT_EQ(run.code, ExitCode::success);
-    EXPECT_EQ(run.err, "") << "an assert";
+    EXPECT_EQ(run.code, ExitCode::success) << run.err;
     std::map<std::string, json> products;
     const json result = run.json();
     for (const json& product : result.at("products")) products[product.at("name")] = product;

@@ -28,8 +28,8 @@ constexpr std::array<std::array<std::string_view, 3>, 8> kFloors = {{
 constexpr std::size_t kModel = 1, kCore = 4, kTop = 7;
 
 /// Sources that stand beside their header, but on a higher floor.
-constexpr std::array<std::string_view, 3> kSourcesOfCore = {"Data.cpp", "FcCopySettings.cpp",
-                                                            "Drawing/FcGenerateParams.cpp"};
+constexpr std::array<std::string_view, 4> kSourcesOfCore = {
+    "Data.cpp", "FcCopySettings.cpp", "Drawing/DrawOutcomes.cpp", "Drawing/FcGenerateParams.cpp"};
 
 bool standsOnOpenCascade(std::string_view file) {
   return file.starts_with("ComplexGeometry/Bridge/") || file.starts_with("HelperFunctionsOC.");

@@ -164,9 +164,9 @@ TEST(Units, EveryMeasureOfTheSchemaHasAUnit) {
   };
   expectUnits(fc::resource::measure::FcMeasureValue::info());
   expectUnits(fc::resource::measure::FcDerivedMeasureValue::info());
-  EXPECT_EQ(measures()[measure::length].type, "IfcLengthMeasure");
-  EXPECT_EQ(measures()[measure::planeAngle].type, "IfcPlaneAngleMeasure");
-  EXPECT_EQ(measures()[measure::temperature].type, "IfcThermodynamicTemperatureMeasure");
+  EXPECT_EQ(measures()[measure::length].type, "LengthMeasure");
+  EXPECT_EQ(measures()[measure::planeAngle].type, "PlaneAngleMeasure");
+  EXPECT_EQ(measures()[measure::temperature].type, "ThermodynamicTemperatureMeasure");
 }
 
 /// What stands in front of the bar of each `<a|b>`, or behind it.

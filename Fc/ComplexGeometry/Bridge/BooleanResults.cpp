@@ -10,7 +10,7 @@
 #include "Fc/ComplexGeometry/Bridge/ShapesOf.h"
 #include "Fc/ComplexGeometry/ExpensiveTool.h"
 #include "Fc/FcParams.h"
-#include "Fc/Model/ConversionGuard.h"
+#include "Fc/Model/Nesting.h"
 #include "Fc/Model/Report.h"
 #include "Fc/Resource/GeometricModel/BooleanOperators.h"
 #include "Fc/Resource/GeometricModel/FcBooleanResult.h"
@@ -91,8 +91,8 @@ Shapes pairwise(const FcBooleanResult& result, const FcParams& params,
 }  // namespace
 
 Shapes shapesOf(const FcBooleanResult& item, const FcParams& params) {
-  const ConversionGuard guard(&item);
-  if (!guard.mayEnter()) return {};
+  const Nesting nesting(Nesting::Kind::conversion, item);
+  if (!nesting) return {};
   return byOperator<Shapes>(
       item, [&] { return difference(item, params); },
       [&] { return pairwise(item, params, commonOfShapes); },

@@ -6,7 +6,7 @@
 #include "Fc/ComplexGeometry/Bridge/ShapesOf.h"
 #include "Fc/FcParams.h"
 #include "Fc/HelperFunctionsOC.h"
-#include "Fc/Model/ConversionGuard.h"
+#include "Fc/Model/Nesting.h"
 #include "Fc/Resource/GeometricModel/FcCsgSolid.h"
 #include "Fc/Resource/Geometry/FcCartesianTransformationOperator.h"
 #include "Fc/Resource/Geometry/FcMappedItem.h"
@@ -25,8 +25,8 @@ void move(Shapes& shapes, const math::Matrix& matrix) {
 namespace resource::geometry {
 
 Shapes shapesOf(const FcMappedItem& item, const FcParams& params) {
-  const ConversionGuard guard(&item);
-  if (!guard.mayEnter() || !item.MappingSource() || !item.MappingTarget()) return {};
+  const Nesting nesting(Nesting::Kind::conversion, item);
+  if (!nesting || !item.MappingSource() || !item.MappingTarget()) return {};
   Shapes shapes = item.MappingSource()->ocRepresentation(params);
   move(shapes, item.MappingTarget()->getTransformation());
   return shapes;
@@ -44,8 +44,8 @@ Shapes FcRepresentationMap::ocRepresentation(const FcParams& params) const {
 namespace resource::geometricmodel {
 
 Shapes shapesOf(const FcCsgSolid& item, const FcParams& params) {
-  const ConversionGuard guard(&item);
-  if (!guard.mayEnter()) return {};
+  const Nesting nesting(Nesting::Kind::conversion, item);
+  if (!nesting) return {};
   const auto root = item.rootItem();
   return root ? root->ocRepresentation(params) : Shapes{};
 }

@@ -15,7 +15,7 @@
 #include "Fc/ComplexGeometry/Bridge/ocMemoizer.h"
 #include "Fc/FcParams.h"
 #include "Fc/HelperFunctionsOC.h"
-#include "Fc/Model/ConversionGuard.h"
+#include "Fc/Model/Nesting.h"
 #include "Fc/Model/NotImplemented.h"
 #include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcBoundedCurve.h"
@@ -129,8 +129,8 @@ Faces facesOf(const FcCircleHollowProfileDef& profile) {
 
 Faces facesOf(const FcCompositeProfileDef& composite, const FcParams& params) {
   Faces faces;
-  const ConversionGuard guard(&composite);
-  if (!guard.mayEnter()) return faces;
+  const Nesting nesting(Nesting::Kind::conversion, composite);
+  if (!nesting) return faces;
   for (const auto& profile : composite.Profiles()) {
     if (!profile) continue;
     const Faces part = profile->ocProfile(params);

@@ -1,5 +1,6 @@
 #include "Fc/Core/Kernel/FcProduct.h"
 
+#include "Fc/Drawing/DrawOutcomes.h"
 #include "Fc/Drawing/FcGenerateParams.h"
 #include "Fc/Drawing/OpenObject.h"
 #include "Fc/Model/Report.h"
@@ -12,11 +13,24 @@ namespace qor::fc::core::kernel {
 using generate::draw::TransformationGuard;
 using math::MatrixMultiplyOrder;
 
+namespace {
+
+void leaveOut(const FcGenerateParams& params, DrawOutcome reason) {
+  if (params.outcomes) params.outcomes->leaveOut(reason);
+}
+
+}  // namespace
+
 void FcProduct::doGenerate(FcGenerateParams& params) const {
-  if (!params.skipObjectCallback || !params.skipObjectCallback(GlobalId())) {
-    if (params.drawInterface()) drawAsObject(params);
-    params.handleRepresentationState(*this);
+  const bool isSkipped = params.skipObjectCallback && params.skipObjectCallback(GlobalId());
+  if (params.drawInterface()) {
+    const ProductOutcome outcome(params.outcomes, *this, *params.drawInterface());
+    if (isSkipped)
+      leaveOut(params, DrawOutcome::filtered);
+    else
+      drawAsObject(params);
   }
+  if (!isSkipped) params.handleRepresentationState(*this);
   FcObjectDefinition::doGenerate(params);
 }
 
@@ -34,7 +48,7 @@ std::optional<math::Matrix> FcProduct::absolutePlacement() const {
 
 void FcProduct::drawAsObject(FcGenerateParams& params) const {
   ObjectInterface* const object = params.object(sharedRoot());
-  if (!object) return;
+  if (!object) return leaveOut(params, DrawOutcome::filtered);
   const auto placement = absolutePlacement();
   FcDrawInterface& target = *params.drawInterface();
   const OpenObject open(params.generateInterface(), object);
@@ -43,8 +57,9 @@ void FcProduct::drawAsObject(FcGenerateParams& params) const {
     target.vTransformationMultiply(*placement, MatrixMultiplyOrder::left);
   if (params.isEnabled(*this)) {
     if (Representation() && placement) Representation()->generate(params);
-  } else if (params.disabledProductCallback) {
-    params.disabledProductCallback(params, *this);
+  } else {
+    leaveOut(params, DrawOutcome::hidden);
+    if (params.disabledProductCallback) params.disabledProductCallback(params, *this);
   }
 }
 

@@ -2,7 +2,7 @@
 
 #include "Fc/Drawing/DrawByProcessor.h"
 #include "Fc/FcParams.h"
-#include "Fc/Model/ConversionGuard.h"
+#include "Fc/Model/Nesting.h"
 #include "Fc/Resource/GeometricModel/BooleanOperators.h"
 
 namespace qor::fc::resource::geometricmodel {
@@ -16,8 +16,8 @@ void FcBooleanResult::transform(const math::Matrix& matrix) {
 
 std::optional<math::Extent> FcBooleanResult::boundingBox(const FcParams& params) const {
   using Box = std::optional<math::Extent>;
-  const ConversionGuard guard(this);
-  if (!guard.mayEnter()) return {};
+  const Nesting nesting(Nesting::Kind::conversion, *this);
+  if (!nesting) return {};
   const auto first = [&] { return FirstOperand().boundingBox(params); };
   const auto both = [&](math::Extent (math::Extent::*combine)(const math::Extent&) const) -> Box {
     const Box a = first(), b = SecondOperand().boundingBox(params);
@@ -31,8 +31,8 @@ std::optional<math::Extent> FcBooleanResult::boundingBox(const FcParams& params)
 
 void FcBooleanResult::forEachPresentationStyle(
     const std::function<void(const presentationappearance::FcPresentationStyle&)>& callback) const {
-  const ConversionGuard guard(this);
-  if (!guard.mayEnter()) return;
+  const Nesting nesting(Nesting::Kind::conversion, *this);
+  if (!nesting) return;
   if (const auto* first = fcCast<geometry::FcRepresentationItem>(FirstOperand().getEntity()))
     first->forEachPresentationStyle(callback);
   FcGeometricRepresentationItem::forEachPresentationStyle(callback);

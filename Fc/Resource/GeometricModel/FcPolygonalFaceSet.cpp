@@ -6,14 +6,13 @@
 #include "Fc/Model/Report.h"
 #include "Fc/Reflection/MakeEntity.h"
 #include "Fc/Resource/GeometricModel/CoordinatePositions.h"
+#include "Fc/Resource/GeometricModel/FaceColours.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList3D.h"
 #include "Fc/Resource/GeometricModel/FcIndexedPolygonalFaceWithVoids.h"
 #include "Fc/Resource/GeometricModel/IndexedFaces.h"
 #include "Fc/Resource/GeometricModel/TextureCoordinates.h"
-#include "Fc/Resource/PresentationAppearance/FcColourRgbList.h"
 #include "Fc/Resource/PresentationAppearance/FcIndexedColourMap.h"
 #include "Fc/Resource/PresentationAppearance/FcIndexedPolygonalTextureMap.h"
-#include "Fc/Shapes/ColourSplit.h"
 #include "Qor/Draw/DrawInterface.h"
 
 namespace qor::fc::resource::geometricmodel {
@@ -25,6 +24,51 @@ using presentationappearance::FcIndexedColourMap;
 using presentationappearance::FcIndexedPolygonalTextureMap;
 
 using Face = PolygonalFaceSetOpenGL::Face;
+
+namespace {
+
+/// Looks up the points of faces, into polygons whose memory is used again.
+class CornerPoints {
+ public:
+  using Coordinates = CoordinateLookup::Coordinates;
+
+  CornerPoints(const Coordinates& coordinates, const CoordinatePositions::PnIndex& pnIndex)
+      : m_coordinates(coordinates), m_positions(pnIndex, coordinates.size()) {}
+
+  /// False when a ring but a hole without corners, which is reported and left out, has none, or one
+  /// can't be found.
+  bool look(const FcIndexedPolygonalFace& face, FcPolygonalFaceSet::Polygon& polygon) const {
+    polygon.resize(1);
+    if (!look(face.CoordIndex(), polygon[0])) return false;
+    const auto* withVoids = fcCast<FcIndexedPolygonalFaceWithVoids>(&face);
+    if (!withVoids) return true;
+    bool found = true;
+    for (const auto& hole : withVoids->InnerCoordIndices()) {
+      if (!requireThat(face, !hole.empty(),
+                       "There is a Void in a Face With Voids which contains no points."))
+        continue;
+      found = look(hole, polygon.emplace_back()) && found;
+    }
+    return found;
+  }
+
+ private:
+  bool look(const std::vector<FcPositiveInteger>& ring, std::vector<math::Point3d>& points) const {
+    points.clear();
+    for (const FcPositiveInteger& position : ring) {
+      const std::uint32_t index = m_positions(position);
+      if (index >= m_coordinates.size()) return false;
+      const auto& coordinate = m_coordinates[index];
+      points.emplace_back(coordinate[0], coordinate[1], coordinate[2]);
+    }
+    return !points.empty();
+  }
+
+  const Coordinates& m_coordinates;
+  CoordinatePositions m_positions;
+};
+
+}  // namespace
 
 void FcPolygonalFaceSet::draw(const FcDrawParams& params) const {
   generate::draw::DrawInterface* target = materialTarget(params);
@@ -65,81 +109,41 @@ std::vector<FaceSetWithMaterial> FcPolygonalFaceSet::createFaceSetsWithMaterials
 
 std::optional<std::vector<FaceSetWithMaterial>> FcPolygonalFaceSet::splitByColour(
     const FcIndexedColourMap& map) const {
-  if (map.ColourIndex().size() != m_Faces.size()) {
-    report(*this,
-           "Mismatch between number of faces in PolygonalFaceSetOpenGL and IndexedColourMap");
+  if (!requireThat(
+          *this, map.ColourIndex().size() == m_Faces.size(),
+          "Mismatch between number of faces in PolygonalFaceSetOpenGL and IndexedColourMap"))
     return std::nullopt;
-  }
-  const auto& coordinates = m_Coordinates->CoordList();
-  const std::size_t colourCount = map.Colours()->ColourList().size();
+  const std::vector<math::Point3d> coordinates = m_Coordinates->points();
   const CoordinatePositions positions(m_PnIndex, coordinates.size());
   std::vector<Face> faces(m_Faces.size());
-  std::vector<std::uint32_t> colours(m_Faces.size(), ~std::uint32_t{0});
+  FaceColours colours(*this, map);
   for (std::size_t k = 0; k < m_Faces.size(); ++k) {
     if (!isPolygon(m_Faces[k].get())) continue;
-    const std::uint64_t colour = static_cast<std::uint64_t>(map.ColourIndex()[k].value()) - 1;
-    if (colour >= colourCount) {
-      report(*this, "Invalid colour index in FcIndexedColourMap.");
-      return std::nullopt;
-    }
-    if (auto face = indexedFaceOfColour(*m_Faces[k], positions)) {
+    if (!colours.take(k)) return std::nullopt;
+    if (auto face = indexedFaceOfColour(*m_Faces[k], positions))
       faces[k] = std::move(*face);
-      colours[k] = static_cast<std::uint32_t>(colour);
-    }
+    else
+      colours.leaveOut(k);
   }
-
-  std::vector<FaceSetWithMaterial> result;
-  const FacesByColour byColour(colours, colourCount);
-  CoordinateSubset subset(coordinates.size());
-  for (std::size_t colour = 0; colour < colourCount; ++colour) {
-    if (byColour.faces(colour).empty()) continue;
-    PolygonalFaceSetOpenGL part;
-    subset.begin();
-    for (const std::uint32_t k : byColour.faces(colour)) {
-      forEachIndex(faces[k], [&subset](std::uint32_t& index) { index = subset.number(index); });
-      part.faces.push_back(std::move(faces[k]));
-    }
-    part.coordinates.reserve(subset.used().size());
-    for (const std::uint32_t used : subset.used())
-      part.coordinates.emplace_back(coordinates[used][0], coordinates[used][1],
-                                    coordinates[used][2]);
-    result.push_back({std::move(part), materialOfColour(map, colour)});
-  }
-  return result;
+  return colours.parts<FaceSetWithMaterial>(
+      coordinates.size(), [&](std::span<const std::uint32_t> chosen, CoordinateSubset& subset) {
+        PolygonalFaceSetOpenGL part;
+        part.faces.reserve(chosen.size());
+        for (const std::uint32_t k : chosen) {
+          forEachIndex(faces[k], [&](std::uint32_t& index) { index = subset.number(index); });
+          part.faces.push_back(std::move(faces[k]));
+        }
+        part.coordinates = subset.of(coordinates);
+        return part;
+      });
 }
 
 void FcPolygonalFaceSet::forEachPolygon(const std::function<void(const Polygon&)>& callback) const {
   if (!m_Coordinates) return;
-  const auto& coordinates = m_Coordinates->CoordList();
-  const CoordinatePositions positions(m_PnIndex, coordinates.size());
+  const CornerPoints corners(m_Coordinates->CoordList(), m_PnIndex);
   Polygon polygon;
-  const auto look = [&](const std::vector<FcPositiveInteger>& ring,
-                        std::vector<math::Point3d>& points) {
-    points.clear();
-    for (const FcPositiveInteger& position : ring) {
-      const std::uint32_t index = positions(position);
-      if (index >= coordinates.size()) return false;
-      points.emplace_back(coordinates[index][0], coordinates[index][1], coordinates[index][2]);
-    }
-    return !points.empty();
-  };
-  for (const auto& face : m_Faces) {
-    if (!face) continue;
-    polygon.resize(1);
-    if (!look(face->CoordIndex(), polygon[0])) continue;
-    bool found = true;
-    if (const auto* withVoids = fcCast<FcIndexedPolygonalFaceWithVoids>(face.get())) {
-      for (const auto& hole : withVoids->InnerCoordIndices()) {
-        if (hole.empty()) {
-          report(*this, "There is a Void in a Face With Voids which contains no points.");
-          continue;
-        }
-        polygon.emplace_back();
-        found = look(hole, polygon.back()) && found;
-      }
-    }
-    if (found) callback(polygon);
-  }
+  for (const auto& face : m_Faces)
+    if (face && corners.look(*face, polygon)) callback(polygon);
 }
 
 std::optional<std::vector<TextureCoordinate>> FcPolygonalFaceSet::getTextureCoordinates() const {

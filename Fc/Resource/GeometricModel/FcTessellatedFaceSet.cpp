@@ -9,8 +9,6 @@
 
 namespace qor::fc::resource::geometricmodel {
 
-using generate::draw::Color;
-using generate::draw::Material;
 using presentationappearance::FcIndexedColourMap;
 
 std::optional<math::Extent> FcTessellatedFaceSet::boundingBox(const FcParams& /*params*/) const {
@@ -42,16 +40,6 @@ std::shared_ptr<FcIndexedColourMap> FcTessellatedFaceSet::usableColourMap() cons
   const bool usable =
       map && map->Colours() && !map->Colours()->ColourList().empty() && hasCoordinates();
   return usable ? map : nullptr;
-}
-
-std::shared_ptr<Material> FcTessellatedFaceSet::materialOfColour(const FcIndexedColourMap& map,
-                                                                 std::size_t colour) {
-  const auto& rgb = map.Colours()->ColourList()[colour];
-  auto material = std::make_shared<Material>();
-  material->setSurfaceColor(Color(static_cast<float>(rgb[0].value()),
-                                  static_cast<float>(rgb[1].value()),
-                                  static_cast<float>(rgb[2].value())));
-  return material;
 }
 
 generate::draw::DrawInterface* FcTessellatedFaceSet::materialTarget(const FcDrawParams& params) {

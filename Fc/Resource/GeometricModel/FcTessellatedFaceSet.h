@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "Fc/Resource/GeometricModel/FcTessellatedFaceSetAttributes.h"
-#include "Qor/Draw/Material.h"
 #include "Qor/Draw/PolygonalFaceSetOpenGL.h"
 
 namespace qor::fc {
@@ -34,9 +33,6 @@ class QOR_API FcTessellatedFaceSet : public FcTessellatedFaceSetAttributes {
   bool hasCoordinates() const;
   /// The map of colours when it has some to give and the set has points; null otherwise.
   std::shared_ptr<presentationappearance::FcIndexedColourMap> usableColourMap() const;
-  /// A new material with the surface colour of that place, from 0, in the map's list.
-  static std::shared_ptr<generate::draw::Material> materialOfColour(
-      const presentationappearance::FcIndexedColourMap& map, std::size_t colour);
   /// The target as one that takes materials; null for one that doesn't.
   static generate::draw::DrawInterface* materialTarget(const FcDrawParams& params);
 };

@@ -6,13 +6,12 @@
 #include "Fc/Model/Report.h"
 #include "Fc/Reflection/MakeEntity.h"
 #include "Fc/Resource/GeometricModel/CoordinatePositions.h"
+#include "Fc/Resource/GeometricModel/FaceColours.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList3D.h"
 #include "Fc/Resource/GeometricModel/TextureCoordinates.h"
-#include "Fc/Resource/PresentationAppearance/FcColourRgbList.h"
 #include "Fc/Resource/PresentationAppearance/FcIndexedColourMap.h"
 #include "Fc/Resource/PresentationAppearance/FcIndexedTriangleTextureMap.h"
 #include "Fc/Resource/PresentationAppearance/FcTextureVertexList.h"
-#include "Fc/Shapes/ColourSplit.h"
 #include "Qor/Draw/DrawInterface.h"
 
 namespace qor::fc::resource::geometricmodel {
@@ -117,45 +116,34 @@ std::vector<TriangulatedFaceSetWithMaterial> FcTriangulatedFaceSet::createFaceSe
 
 std::optional<std::vector<TriangulatedFaceSetWithMaterial>> FcTriangulatedFaceSet::splitByColour(
     const FcIndexedColourMap& map) const {
-  if (map.ColourIndex().size() != m_CoordIndex.size()) {
-    report(*this,
-           "Mismatch between number of faces in TriangulatedFaceSetOpenGL and IndexedColourMap");
+  if (!requireThat(
+          *this, map.ColourIndex().size() == m_CoordIndex.size(),
+          "Mismatch between number of faces in TriangulatedFaceSetOpenGL and IndexedColourMap"))
     return std::nullopt;
-  }
   // As one set first: it checks that there is a normal for each point.
   generate::draw::VertexData all;
   all.setVertexData(m_Coordinates->points(), getNormals());
-  const std::size_t colourCount = map.Colours()->ColourList().size();
   const CoordinatePositions positions(m_PnIndex, all.coordinates().size());
   std::vector<Triangle> triangles(m_CoordIndex.size());
-  std::vector<std::uint32_t> colours(m_CoordIndex.size(), ~std::uint32_t{0});
+  FaceColours colours(*this, map);
   for (std::size_t k = 0; k < m_CoordIndex.size(); ++k) {
-    const std::uint64_t colour = static_cast<std::uint64_t>(map.ColourIndex()[k].value()) - 1;
-    if (colour >= colourCount) {
-      report(*this, "Invalid colour index in FcIndexedColourMap.");
-      return std::nullopt;
-    }
-    if (mapTriangle(m_CoordIndex[k], positions, "Invalid index in FcTriangulatedFaceSet",
-                    triangles[k]))
-      colours[k] = static_cast<std::uint32_t>(colour);
+    if (!colours.take(k)) return std::nullopt;
+    if (!mapTriangle(m_CoordIndex[k], positions, "Invalid index in FcTriangulatedFaceSet",
+                     triangles[k]))
+      colours.leaveOut(k);
   }
-
-  std::vector<TriangulatedFaceSetWithMaterial> result;
-  const FacesByColour byColour(colours, colourCount);
-  CoordinateSubset subset(all.coordinates().size());
-  for (std::size_t colour = 0; colour < colourCount; ++colour) {
-    if (byColour.faces(colour).empty()) continue;
-    TriangulatedFaceSetOpenGL part;
-    part.triangles.reserve(byColour.faces(colour).size());
-    subset.begin();
-    for (const std::uint32_t k : byColour.faces(colour)) {
-      Triangle& triangle = part.triangles.emplace_back(triangles[k]);
-      for (std::uint32_t& index : triangle) index = subset.number(index);
-    }
-    part.setVertexData(subset.of(all.coordinates()), subset.of(all.normals()));
-    result.push_back({std::move(part), materialOfColour(map, colour)});
-  }
-  return result;
+  return colours.parts<TriangulatedFaceSetWithMaterial>(
+      all.coordinates().size(),
+      [&](std::span<const std::uint32_t> chosen, CoordinateSubset& subset) {
+        TriangulatedFaceSetOpenGL part;
+        part.triangles.reserve(chosen.size());
+        for (const std::uint32_t k : chosen) {
+          Triangle& triangle = part.triangles.emplace_back(triangles[k]);
+          for (std::uint32_t& index : triangle) index = subset.number(index);
+        }
+        part.setVertexData(subset.of(all.coordinates()), subset.of(all.normals()));
+        return part;
+      });
 }
 
 std::optional<std::vector<Vector3d>> FcTriangulatedFaceSet::getNormals() const {

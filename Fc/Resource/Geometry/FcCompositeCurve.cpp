@@ -1,7 +1,7 @@
 #include "Fc/Resource/Geometry/FcCompositeCurve.h"
 
+#include "Fc/Model/Nesting.h"
 #include "Fc/Model/Report.h"
-#include "Fc/Resource/Geometry/CurveNesting.h"
 #include "Fc/Resource/Geometry/CurveTrimming.h"
 #include "Fc/Resource/Geometry/FcSegment.h"
 
@@ -39,7 +39,7 @@ template <typename Point>
 std::vector<Point> curvePrivate(const FcCompositeCurve& curve, const FcParams& params,
                                 bool omitLastPoint) {
   std::vector<Point> points;
-  const CurveNesting nesting(curve);
+  const Nesting nesting(Nesting::Kind::curve, curve);
   if (!nesting) return points;
   for (const auto& segment : curve.Segments())
     if (requireThat(segment != nullptr, missingSegment))
@@ -67,7 +67,7 @@ bool FcCompositeCurve::isClosed(const FcParams& params) const {
   if (!requireThat(*this, Segments().back() != nullptr, "The last Segment is not set.") ||
       !Segments().front())
     return false;
-  const CurveNesting nesting(*this);
+  const Nesting nesting(Nesting::Kind::curve, *this);
   if (!nesting) return false;
   const auto last = Segments().back()->curve(params);
   const auto first = Segments().size() == 1 ? last : Segments().front()->curve(params);
@@ -75,7 +75,7 @@ bool FcCompositeCurve::isClosed(const FcParams& params) const {
 }
 
 bool FcCompositeCurve::is2d() const {
-  const CurveNesting nesting(*this);
+  const Nesting nesting(Nesting::Kind::curve, *this);
   if (!nesting) return false;
   for (const auto& segment : Segments()) {
     if (!requireThat(*this, segment != nullptr, missingSegment) ||
@@ -113,7 +113,7 @@ std::vector<Point3d> FcCompositeCurve::curveGet(const FcParams& params, const Tr
 std::vector<std::pair<double, FcCurve::ParameterType>> FcCompositeCurve::parametricSegments()
     const {
   std::vector<std::pair<double, ParameterType>> result;
-  const CurveNesting nesting(*this);
+  const Nesting nesting(Nesting::Kind::curve, *this);
   if (!nesting) return result;
   for (const auto& segment : Segments()) {
     if (!segment) continue;

@@ -1,7 +1,7 @@
 #include "Fc/Resource/Geometry/FcGradientCurve.h"
 
+#include "Fc/Model/Nesting.h"
 #include "Fc/Model/Report.h"
-#include "Fc/Resource/Geometry/CurveNesting.h"
 #include "Fc/Resource/Geometry/CurveTrimming.h"
 #include "Fc/Resource/Geometry/FcBoundedCurve.h"
 #include "Fc/Resource/Geometry/FcCurveSegment.h"
@@ -39,7 +39,7 @@ std::vector<Point3d> FcGradientCurve::curveGet(const FcParams& params, const Tri
                                                const Trim& trim2, bool reverse) const {
   if (!expectWhole(trim1, trim2, reverse, "FcCompositeCurve::curveGet")) return {};
   const auto heights = FcCompositeCurve::curveGet(params, {}, {}, false);
-  const CurveNesting nesting(*this);
+  const Nesting nesting(Nesting::Kind::curve, *this);
   if (!nesting ||
       !requireThat(*this, BaseCurve() != nullptr, "FcGradientCurve::BaseCurve is required"))
     return {};
@@ -50,7 +50,7 @@ std::vector<Point3d> FcGradientCurve::curveGet(const FcParams& params, const Tri
 std::optional<std::vector<Point2d>> FcGradientCurve::curve2d(const FcParams& params,
                                                              const Trim& trim1, const Trim& trim2,
                                                              bool reverse) const {
-  const CurveNesting nesting(*this);
+  const Nesting nesting(Nesting::Kind::curve, *this);
   if (!nesting ||
       !requireThat(*this, BaseCurve() != nullptr, "FcGradientCurve::BaseCurve is required"))
     return {};

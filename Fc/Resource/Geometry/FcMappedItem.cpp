@@ -4,10 +4,9 @@
 #include <string>
 
 #include "Fc/Drawing/FcDrawParams.h"
-#include "Fc/Model/Report.h"
+#include "Fc/Model/Nesting.h"
 #include "Fc/Resource/Geometry/FcCartesianTransformationOperator.h"
 #include "Fc/Resource/Geometry/FcRepresentationMap.h"
-#include "Fc/Resource/Geometry/MapNesting.h"
 
 namespace qor::fc::resource::geometry {
 
@@ -16,8 +15,6 @@ using generate::draw::TransformationGuard;
 using math::MatrixMultiplyOrder;
 
 namespace {
-
-void assertCircular() { report("Circular dependency in mapped item"); }
 
 class OpenBlock {
  public:
@@ -34,30 +31,12 @@ class OpenBlock {
   bool m_isKnown;
 };
 
-class Raised {
- public:
-  explicit Raised(std::atomic<bool>& flag) : m_flag(flag), m_wasUp(flag.exchange(true)) {}
-  Raised(const Raised&) = delete;
-  Raised& operator=(const Raised&) = delete;
-  ~Raised() {
-    if (!m_wasUp) m_flag.exchange(false);
-  }
-
-  bool wasUp() const { return m_wasUp; }
-
- private:
-  std::atomic<bool>& m_flag;
-  bool m_wasUp;
-};
-
 }  // namespace
 
 void FcMappedItem::draw(const FcDrawParams& params) const {
-  const Raised drawing(m_drawing);
-  if (drawing.wasUp()) return assertCircular();
   if (!MappingSource()) return;
-  const MapNesting nesting(*MappingSource());
-  if (!nesting.isAllowed()) return assertCircular();
+  const Nesting nesting(Nesting::Kind::map, *MappingSource());
+  if (!nesting) return;
   if (!MappingTarget()) return drawMap(params);
   FcDrawInterface& target = params;
   const TransformationGuard guard(target);
@@ -79,11 +58,8 @@ void FcMappedItem::transform(const math::Matrix& matrix) {
 
 std::optional<math::Extent> FcMappedItem::boundingBox(const FcParams& params) const {
   if (!MappingSource() || !MappingTarget()) return {};
-  const MapNesting nesting(*MappingSource());
-  if (!nesting.isAllowed()) {
-    assertCircular();
-    return {};
-  }
+  const Nesting nesting(Nesting::Kind::map, *MappingSource());
+  if (!nesting) return {};
   const auto box = MappingSource()->boundingBox(params);
   if (!box) return {};
   return box->transformExtent(MappingTarget()->getTransformation());

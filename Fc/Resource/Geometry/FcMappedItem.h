@@ -1,7 +1,5 @@
 #pragma once
 
-#include <atomic>
-
 #include "Fc/Resource/Geometry/FcMappedItemAttributes.h"
 
 namespace qor::fc::resource::geometry {
@@ -24,8 +22,6 @@ class QOR_API FcMappedItem : public FcMappedItemAttributes {
 
  private:
   void drawMap(const FcDrawParams& params) const;
-
-  mutable std::atomic<bool> m_drawing = false;  // no part of the model
 };
 
 }  // namespace qor::fc::resource::geometry

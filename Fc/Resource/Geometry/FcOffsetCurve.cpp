@@ -1,11 +1,11 @@
 #include "Fc/Resource/Geometry/FcOffsetCurve.h"
 
-#include "Fc/Resource/Geometry/CurveNesting.h"
+#include "Fc/Model/Nesting.h"
 
 namespace qor::fc::resource::geometry {
 
 std::vector<std::pair<double, FcCurve::ParameterType>> FcOffsetCurve::parametricSegments() const {
-  const CurveNesting nesting(*this);
+  const Nesting nesting(Nesting::Kind::curve, *this);
   if (!nesting || !BasisCurve()) return {};
   return BasisCurve()->parametricSegments();
 }

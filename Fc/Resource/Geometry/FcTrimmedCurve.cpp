@@ -1,7 +1,7 @@
 #include "Fc/Resource/Geometry/FcTrimmedCurve.h"
 
+#include "Fc/Model/Nesting.h"
 #include "Fc/Model/Report.h"
-#include "Fc/Resource/Geometry/CurveNesting.h"
 #include "Fc/Resource/Geometry/CurveTrimming.h"
 
 namespace qor::fc::resource::geometry {
@@ -30,14 +30,14 @@ const FcTrimmingSelect& FcTrimmedCurve::chosen(const std::vector<FcTrimmingSelec
 bool FcTrimmedCurve::isClosed(const FcParams& /*params*/) const { return false; }
 
 bool FcTrimmedCurve::is2d() const {
-  const CurveNesting nesting(*this);
+  const Nesting nesting(Nesting::Kind::curve, *this);
   return nesting && BasisCurve() && BasisCurve()->is2d();
 }
 
 std::optional<std::vector<Point2d>> FcTrimmedCurve::curve2d(const FcParams& params,
                                                             const Trim& trim1, const Trim& trim2,
                                                             bool reverse) const {
-  const CurveNesting nesting(*this);
+  const Nesting nesting(Nesting::Kind::curve, *this);
   if (!nesting || !expectWhole(trim1, trim2, reverse, "FcTrimmedCurve::curve2d") ||
       !validateAttributes())
     return {};
@@ -46,7 +46,7 @@ std::optional<std::vector<Point2d>> FcTrimmedCurve::curve2d(const FcParams& para
 
 std::vector<Point3d> FcTrimmedCurve::curveGet(const FcParams& params, const Trim& trim1,
                                               const Trim& trim2, bool reverse) const {
-  const CurveNesting nesting(*this);
+  const Nesting nesting(Nesting::Kind::curve, *this);
   if (!nesting || !expectWhole(trim1, trim2, reverse, "FcTrimmedCurve::curveGet") ||
       !validateAttributes())
     return {};
@@ -58,7 +58,7 @@ std::vector<std::pair<double, FcCurve::ParameterType>> FcTrimmedCurve::parametri
 }
 
 std::optional<math::Extent2d> FcTrimmedCurve::planarBox(const FcParams& params) const {
-  const CurveNesting nesting(*this);
+  const Nesting nesting(Nesting::Kind::curve, *this);
   if (!nesting || !validateAttributes()) return {};
   return BasisCurve()->planarBox(params);
 }

@@ -3,7 +3,7 @@
 #include <iterator>
 #include <utility>
 
-#include "Fc/Resource/Profile/ProfileNesting.h"
+#include "Fc/Model/Nesting.h"
 
 namespace qor::fc::resource::profile {
 
@@ -11,7 +11,7 @@ using generate::draw::Profile2D;
 
 std::vector<Profile2D> FcCompositeProfileDef::closedProfile(const FcParams& params) const {
   std::vector<Profile2D> result;
-  const ProfileNesting nesting(*this);
+  const Nesting nesting(Nesting::Kind::profile, *this);
   if (!nesting) return result;
   for (const auto& member : Profiles()) {
     if (!member) continue;
@@ -23,14 +23,14 @@ std::vector<Profile2D> FcCompositeProfileDef::closedProfile(const FcParams& para
 }
 
 void FcCompositeProfileDef::transform2d(const math::Matrix2d& matrix) {
-  const ProfileNesting nesting(*this);
+  const Nesting nesting(Nesting::Kind::profile, *this);
   if (!nesting) return;
   for (const auto& member : Profiles())
     if (member) member->transform2d(matrix);
 }
 
 std::optional<math::Extent2d> FcCompositeProfileDef::doGetPlanarBox(const FcParams& params) const {
-  const ProfileNesting nesting(*this);
+  const Nesting nesting(Nesting::Kind::profile, *this);
   if (!nesting) return std::nullopt;
   math::Extent2d box;
   for (const auto& member : Profiles()) {

@@ -1,15 +1,15 @@
 #include "Fc/Resource/Profile/FcDerivedProfileDef.h"
 
 #include "Fc/FcParams.h"
+#include "Fc/Model/Nesting.h"
 #include "Fc/Resource/Geometry/FcCartesianTransformationOperator2D.h"
-#include "Fc/Resource/Profile/ProfileNesting.h"
 
 namespace qor::fc::resource::profile {
 
 using generate::draw::Profile2D;
 
 std::vector<Profile2D> FcDerivedProfileDef::closedProfile(const FcParams& params) const {
-  const ProfileNesting nesting(*this);
+  const Nesting nesting(Nesting::Kind::profile, *this);
   if (!nesting || !ParentProfile()) return {};
   std::vector<Profile2D> result = ParentProfile()->closedProfile(params);
   const auto matrix = operatorMatrix();

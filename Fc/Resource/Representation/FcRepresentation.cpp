@@ -1,5 +1,6 @@
 #include "Fc/Resource/Representation/FcRepresentation.h"
 
+#include "Fc/Drawing/DrawOutcomes.h"
 #include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/Drawing/FcGenerateParams.h"
 #include "Fc/Resource/Geometry/FcRepresentationItem.h"
@@ -24,6 +25,7 @@ void FcRepresentation::generate(FcGenerateParams& params) const {
   if (params.representationFilter())
     answer = params.representationFilter()->representation(params, *this);
   if (!answer.generate) return;
+  if (params.outcomes) params.outcomes->setAskedFor();
 
   std::optional<FcClip::RestoreClipping> uncut;
   if (!shouldBeUsedInClipping()) uncut.emplace(*target);

@@ -1,27 +1,29 @@
 #pragma once
 
 #include <array>
-#include <cstddef>
+
+#include "Qor/Unit/Dimensions.h"
 
 namespace qor::host::step {
 
-/// The exponents of length, mass, time, electric current, temperature, amount of substance and
-/// luminous intensity. Angles have none.
-struct Dimensions {
-  std::array<int, 7> exponents{};
+using unit::Dimensions;
 
-  constexpr Dimensions() = default;
-  constexpr Dimensions(int length, int mass = 0, int time = 0, int current = 0, int temperature = 0,
-                       int amount = 0, int luminous = 0)
-      : exponents{length, mass, time, current, temperature, amount, luminous} {}
+/// Those of length, mass, time, electric current, temperature, amount of substance and luminous
+/// intensity, in this order. Angles have none.
+constexpr std::array<int, 7> exponentsOf(const Dimensions& d) {
+  return {d.length,           d.mass, d.time, d.electricCurrent, d.temperature, d.amountOfSubstance,
+          d.luminousIntensity};
+}
 
-  /// Those of a product with a unit to that power.
-  constexpr void multiply(const Dimensions& other, int exponent) {
-    for (std::size_t i = 0; i < exponents.size(); ++i)
-      exponents[i] += other.exponents[i] * exponent;
-  }
-
-  friend constexpr bool operator==(const Dimensions&, const Dimensions&) = default;
-};
+/// Those of a product with a unit to that power.
+constexpr Dimensions product(const Dimensions& a, const Dimensions& b, int power) {
+  return {a.length + b.length * power,
+          a.mass + b.mass * power,
+          a.time + b.time * power,
+          a.electricCurrent + b.electricCurrent * power,
+          a.temperature + b.temperature * power,
+          a.amountOfSubstance + b.amountOfSubstance * power,
+          a.luminousIntensity + b.luminousIntensity * power};
+}
 
 }  // namespace qor::host::step

@@ -13,7 +13,7 @@ namespace qor::host::step {
 
 /// One kind of number with a unit.
 struct Measure {
-  std::string_view type;  ///< of the schema, "IfcLengthMeasure"; empty for kinds of this host alone
+  std::string_view type;  ///< of the schema, "LengthMeasure"; empty for kinds of this host alone
   std::string_view unit;  ///< the kind of unit that an assignment lists for it, "LENGTHUNIT"
   /// Empty where the schema leaves them open.
   std::optional<Dimensions> dimensions;
@@ -25,7 +25,7 @@ using MeasureId = std::uint8_t;
 namespace measure {
 /// No unit, or one that isn't looked at when the number is read.
 constexpr MeasureId none = 0;
-/// A length, as in "IfcLengthMeasure".
+/// A length, as in IfcLengthMeasure.
 constexpr MeasureId length = 1;
 constexpr MeasureId planeAngle = 2;
 constexpr MeasureId temperature = 3;
@@ -38,7 +38,8 @@ constexpr MeasureId inverseSquareLength = 6;
 constexpr MeasureId byType = 255;
 }  // namespace measure
 
-/// All measures that have a unit; the first, `measure::none`, has none.
+/// All measures of the schema that have a unit, behind the kinds above; the first, `measure::none`,
+/// has none.
 std::span<const Measure> measures();
 
 /// By the name of a type in upper case, "IFCLENGTHMEASURE"; `none` for one without a unit. Some

@@ -71,7 +71,7 @@ std::optional<UnitConversion> OwnUnits::conversionOf(const fc::FcBase& owner, Me
   const Measure& row = measures()[measure];
   if (row.dimensions && *row.dimensions != size->dimensions) {
     m_report(owner, "Unit",
-             fmt::format("Unit is none of an {}; the value is left as it is.", row.type));
+             fmt::format("Unit is none of an Ifc{}; the value is left as it is.", row.type));
     return std::nullopt;
   }
   return m_siUnits.of(unit).isSet() ? std::optional(size->toSi) : std::nullopt;

@@ -156,7 +156,7 @@ UnitSizes::Size UnitSizes::ofDerived(const FcDerivedUnit& unit) {
       return leave(*element, "Exponent", fmt::format("is {}", element->Exponent()));
     const int exponent = static_cast<int>(element->Exponent());
     size.toSi = size.toSi.then(part->toSi.ofDifferences().power(exponent));
-    size.dimensions.multiply(part->dimensions, exponent);
+    size.dimensions = product(size.dimensions, part->dimensions, exponent);
   }
   if (!size.toSi.isSound()) return leave(unit, "Elements", "give a unit beyond all numbers");
   if (size.toSi.isIdentity()) size.toSi = {};

@@ -71,6 +71,23 @@ TEST_F(Items, FillABlockOnceAndPlaceItOften) {
               ElementsAre("block", "polyline (1 0 0) (3 0 0)", "end", "block again", "end"));
 }
 
+TEST_F(Items, CountAsShownUnlessTheirBlockIsEmpty) {
+  test::RecordingBlockTarget target;
+  FcDrawInterfaceWrapper wrapper(target);
+  const auto counted = [&](const test::SmallModel::Item& item) {
+    const auto before = wrapper.shownCount().value();
+    item->draw(FcDrawParams(wrapper));
+    return wrapper.shownCount().value() - before;
+  };
+  const auto line = model.mapped(model.map({model.line(), model.line()}));
+  const auto empty = model.mapped(model.map({}));
+  for (const auto& item : {model.mapped(model.map({line, empty})), line})
+    EXPECT_EQ(counted(item), item == line ? 1u : 2u);
+  EXPECT_EQ(counted(line), 1u) << "a known block";
+  EXPECT_EQ(counted(empty), 0u);
+  EXPECT_EQ(counted(model.mapped(model.map({empty}))), 0u);
+}
+
 TEST_F(Items, CutAMapThatLiesWithinItself) {
   const auto map = model.map({model.line()});
   const auto first = model.mapped(map), second = model.mapped(map);

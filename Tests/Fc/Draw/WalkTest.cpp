@@ -12,6 +12,7 @@
 #include "Fc/Core/ProductExtension/FcSpace.h"
 #include "Fc/Document/FcDrawInterfaceWrapper.h"
 #include "Fc/Document/Object.h"
+#include "Fc/Drawing/DrawOutcomes.h"
 #include "Fc/Drawing/FcGenerateParams.h"
 #include "Fc/Resource/GeometricConstraint/FcConnectionPointGeometry.h"
 #include "Fc/Resource/GeometricConstraint/FcGridPlacement.h"
@@ -284,6 +285,58 @@ TEST_F(Walk, LeavesOutTheShapeOfAProductWhosePlacementCannotBeComputed) {
        "implemented"});
   EXPECT_THAT(drawn(model),
               ElementsAre("start IfcWall A", "stop", "start IfcBuildingStorey Storey", "stop"));
+}
+
+TEST_F(Walk, RecordsWhatBecomesOfEachProduct) {
+  const auto shape = [&](const char* identifier, test::SmallModel::Items items) {
+    auto made = model.shape(identifier, std::move(items));
+    made->setContextOfItems(
+        test::make<FcGeometricRepresentationContext>({{"ContextType", "Plan"}}));
+    return made;
+  };
+  const auto wall = [&](const char* name, std::vector<test::SmallModel::Shape> shapes) {
+    const auto made = model.wall(name);
+    model.give(*made, std::move(shapes));
+    return made;
+  };
+  const auto empty = model.map({});
+  wall("drawn", {shape("Axis", {model.line()}), shape("Body", {model.line()})});
+  const auto off = wall("hidden", {shape("Body", {model.line()})});
+  status.setEnabled(off.get(), false);
+  objects.hidden = wall("filtered", {shape("Body", {model.line()})});
+  model.wall("noRepresentation");
+  wall("noRepresentation", {nullptr});
+  wall("otherContexts", {shape("Axis", {model.line()})});
+  const auto strange = shape("Corpse", {model.line()});
+  wall("unknownIdentifier", {shape("Axis", {model.line()}), strange});
+  status.setEnabled(fcCast<FcGeometricRepresentationContext>(strange->ContextOfItems()).get(),
+                    false);
+  wall("noBody", {shape("Body", {model.mapped(empty)})});
+  wall("noBody", {shape("Body", {model.mapped(empty)})});
+  wall("failed", {shape("Body", {model.line()})})
+      ->setObjectPlacement(model.make<resource::geometricconstraint::FcGridPlacement>());
+
+  Refusing refusing;
+  DrawOutcomes outcomes;
+  auto walkParams = params(&refusing, nullptr);
+  walkParams.outcomes = &outcomes;
+  auto previous =
+      Assert::setHandler([&](const AssertInfo& info) { outcomes.addReport(info.message); });
+  model.project->generate(walkParams);
+  Assert::setHandler(std::move(previous));
+
+  const char* const names[] = {
+      "drawn",  "hidden",  "filtered", "noRepresentation", "otherContexts", "unknownIdentifier",
+      "noBody", "cutAway", "failed"};
+  ASSERT_EQ(outcomes.entries().size(), 11u) << "ten walls and the storey";
+  for (const DrawOutcomes::Entry& entry : outcomes.entries()) {
+    const std::string name = names[static_cast<std::size_t>(entry.outcome)];
+    EXPECT_EQ(name, entry.product == model.storey.get() ? "noRepresentation"
+                                                        : entry.product->Name().value());
+    EXPECT_EQ(entry.reports, name == "failed" ? 1u : 0u);
+    EXPECT_EQ(entry.firstReport.ends_with("Not implemented"), name == "failed");
+  }
+  EXPECT_EQ(outcomes.count(DrawOutcome::noRepresentation), 3u);
 }
 
 TEST_F(Walk, GoesAsDeepAsAModelDoes) {

@@ -91,10 +91,69 @@ TEST_F(Drawing, HidesSpacesAndOpeningsUnlessAskedFor) {
   const std::string space = folder.model(instances, "space.ifc");
   const ToolRun hidden = runTool({"draw", space, "--json"});
   EXPECT_EQ(hidden.json()["objects"], 0);
-  EXPECT_THAT(hidden.err, HasSubstr("nothing was drawn: "));
+  EXPECT_EQ(hidden.code, ExitCode::problems);
+  EXPECT_THAT(hidden.err, HasSubstr("nothing was drawn of 3 products: 2 hidden by the draw status, "
+                                    "1 without a representation; --why tells it of each\n"));
   EXPECT_EQ(runTool({"draw", space, "--json", "--spaces"}).json()["objects"], 1);
   EXPECT_EQ(runTool({"draw", space, "--json", "--openings"}).json()["objects"], 1);
   EXPECT_EQ(runTool({"measure", space, "--json"}).json()["products"].size(), 1u);
+}
+
+TEST_F(Drawing, SaysWhyAProductIsNotSeen) {
+  const char* const wall = "0000000000000000000004";
+  EXPECT_THAT(runTool({"draw", file}).err,
+              HasSubstr("fctool: 3 products: 1 drawn, 1 hidden by the draw status, 1 without a "
+                        "representation\n"));
+  EXPECT_THAT(runTool({"draw", file, "--why"}).out,
+              testing::EndsWith("#36 IFCOPENINGELEMENT 'Opening' 0000000000000000000006: hidden by "
+                                "the draw status\n"
+                                "#10 IFCSITE 'Site' 0000000000000000000002: without a "
+                                "representation\n"));
+  EXPECT_THAT(runTool({"measure", file, "--why", wall}).out,
+              testing::EndsWith("#20 IFCWALL 'Wall' 0000000000000000000004: drawn\n"));
+
+  std::string instances = drawingModel;
+  const std::string parts = "IFCRELAGGREGATES('0000000000000000000007',$,$,$,#20,(#36))";
+  instances.replace(instances.find(parts), parts.size(),
+                    "IFCRELVOIDSELEMENT('0000000000000000000007',$,$,$,#20,#36)");
+  const std::string cut = folder.model(instances, "cut.ifc");
+  const ToolRun run = runTool({"draw", cut, "--json", "--why", wall});
+  EXPECT_EQ(run.code, ExitCode::problems) << run.err;
+  EXPECT_EQ(run.json()["why"], json::array({{{"id", 20},
+                                             {"class", "IFCWALL"},
+                                             {"guid", wall},
+                                             {"name", "Wall"},
+                                             {"outcome", "cutAway"},
+                                             {"text", "cut away whole by openings"},
+                                             {"reports", 0}}}));
+  EXPECT_THAT(runTool({"measure", cut, "--context", "FootPrint", "--why", wall}).out,
+              HasSubstr("with representations of other contexts only: 'Body', 'Axis'\n"));
+}
+
+TEST_F(Drawing, TakesBrokenRulesForProblems) {
+  std::string instances = drawingModel;
+  const std::string placement = "IFCLOCALPLACEMENT(#11,#23)";
+  instances.replace(instances.find(placement), placement.size(), "IFCGRIDPLACEMENT($,$,$)");
+  const ToolRun run = runTool({"draw", folder.model(instances, "grid.ifc"), "--why", "--json"});
+  EXPECT_EQ(run.code, ExitCode::problems);
+  EXPECT_THAT(run.err, HasSubstr("FcProduct::absolutePlacement), at #20 IFCWALL 'Wall'\n"));
+  EXPECT_EQ(run.json()["why"][0]["outcome"], "failed") << run.out;
+  EXPECT_THAT(std::string(run.json()["why"][0]["text"]),
+              testing::StartsWith("failed: IfcWall 0000000000000000000004 has no computable "));
+}
+
+TEST_F(Drawing, RefusesToDrawWhatHasNoName) {
+  for (const auto& [option, value, why] :
+       {std::tuple{"--context", "Bodi",
+                   "'Bodi' is the identifier of no representation; known are Annotation, Axis, "
+                   "Body, Body-FallBack, Box, "},
+        {"--why", "0000000000000000000005",
+         "0000000000000000000005 IFCRELCONTAINEDINSPATIALSTRUCTURE is no product"},
+        {"--why", "Wall", "'Wall' is no guid"}}) {
+    const ToolRun run = runTool({"draw", file, option, value});
+    EXPECT_EQ(run.code, ExitCode::impossible);
+    EXPECT_THAT(run.err, HasSubstr(why));
+  }
 }
 
 TEST_F(Drawing, StoresAndAppliesWhatIsHidden) {

@@ -10,9 +10,11 @@
 #include <thread>
 
 #include "Fc/Core/Kernel/FcRoot.h"
+#include "Fc/Resource/Geometry/FcPolyline.h"
 #include "Host/Cli/AssertLines.h"
 #include "Qor/Platform/ReplacingFile.h"
 #include "Tests/Host/Cli/RunTool.h"
+#include "Tests/Support/Make.h"
 
 namespace qor::host::cli {
 namespace {
@@ -40,7 +42,8 @@ class WatchTest : public testing::Test {
  protected:
   const test::ScratchFolder m_folder;
   const step::ReadResult m_model = step::readStepFile(
-      m_folder.model("#7=IFCWALL('0123456789012345678901',$,'South wall',$,$,$,$,$,$);"));
+      m_folder.model("#7=IFCWALL('0123456789012345678901',$,'South wall',$,$,$,$,$,$);"
+                     "#9=IFCPOLYLINE(());"));
   const Guid m_wall =
       fc::fcCast<fc::core::kernel::FcRoot>(m_model.instances.at(0).entity)->GlobalId();
 };
@@ -73,10 +76,20 @@ TEST_F(WatchTest, LetsAssertsNameTheirObject) {
     watch.setBarShown(true);
     raise("second");
     raise("first\nof two");
+    const auto raiseFor = [](const char* message, const fc::FcBase& subject) {
+      Assert::addAssert({.message = message, .function = "g", .subject = &subject});
+    };
+    raiseFor("third", *m_model.instances.at(0).entity);
+    raiseFor("fourth", *m_model.instances.at(1).entity);
+    raiseFor("fifth", *test::make<fc::resource::geometry::FcPolyline>());
+    EXPECT_EQ(lines.count(), 6u);
   }
   EXPECT_EQ(err.str(),
             "fctool: assert: first\\nof two (f)\n"
             "\r\033[Kfctool: assert: second (f), at #7 IFCWALL 'South wall'\n"
+            "\r\033[Kfctool: assert: third (g), at #7 IFCWALL 'South wall'\n"
+            "\r\033[Kfctool: assert: fourth (g), #9 IFCPOLYLINE, at #7 IFCWALL 'South wall'\n"
+            "\r\033[Kfctool: assert: fifth (g), IFCPOLYLINE, at #7 IFCWALL 'South wall'\n"
             "fctool: assert: first\\nof two (f): 2 times in all\n");
 }
 
