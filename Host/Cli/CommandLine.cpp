@@ -53,6 +53,7 @@ class CommandLine {
     } catch (const CLI::ParseError& error) {
       return finish(error, console);
     }
+    console.verbose = m_verbose;
     return m_command(console);
   }
 
@@ -61,6 +62,8 @@ class CommandLine {
   CLI::App& add(const char* name, const char* description, Options& options, Command runCommand) {
     CLI::App& command = *m_app.add_subcommand(name, description);
     command.add_flag("--json", options.json, "Print JSON, for programs");
+    command.add_flag("--verbose", m_verbose,
+                     "List what of an older schema has no place in IFC4X3_ADD2");
     command.callback([this, &options, runCommand] {
       m_command = [&options, runCommand](Console& console) { return runCommand(options, console); };
     });
@@ -171,6 +174,7 @@ class CommandLine {
   }
 
   CLI::App m_app{"Looks into IFC models in STEP files, draws and converts them.", "fctool"};
+  bool m_verbose = false;
   InfoOptions m_info;
   TreeOptions m_tree;
   GetOptions m_get;

@@ -12,6 +12,7 @@ struct Console {
   std::ostream& err;          ///< messages, each in one line
   Watch& watch;               ///< is told what a long run is at
   bool showProgress = false;  ///< a person watches `err`
+  bool verbose = false;       ///< each note about a file has a line
 };
 
 /// How a command ends, as the exit code of the program.

@@ -26,6 +26,15 @@ step::WriteResult write(const step::ReadResult& model, const ConvertOptions& opt
       {.header = model.header, .numbers = model.instances, .progress = bar.callback()});
 }
 
+nlohmann::ordered_json replacedGuids(const step::ReadResult& model) {
+  auto json = nlohmann::ordered_json::array();
+  for (const step::ReplacedGuid& replaced : model.replacedGuids)
+    json.push_back({{"instance", replaced.instance},
+                    {"text", replaced.text},
+                    {"guid", replaced.guid.toString(false)}});
+  return json;
+}
+
 void print(const ConvertOptions& options, const step::ReadResult& model,
            const step::WriteResult& written, std::ostream& out) {
   const std::string schema = fmt::format("{}", fmt::join(model.header.schemas, ", "));
@@ -34,7 +43,8 @@ void print(const ConvertOptions& options, const step::ReadResult& model,
                    {"output", options.output.string()},
                    {"schema", schema},
                    {"instances", written.instances},
-                   {"problems", countProblems(model) + written.notFinite}});
+                   {"problems", countProblems(model) + written.notFinite},
+                   {"replacedGuids", replacedGuids(model)}});
   else
     out << fmt::format("{}: {} instances written as IFC4X3_ADD2\n",
                        printable(options.output.string()), written.instances);
@@ -46,10 +56,10 @@ ExitCode runConvert(const ConvertOptions& options, Console& console) {
   const auto model = loadModel(options.input, console, options.keepUnits);
   if (!model) return ExitCode::impossible;
   std::error_code ignored;  // set when there is no output yet
-  if (!model->problems.empty() &&
-      std::filesystem::equivalent(options.input, options.output, ignored))
-    return refuse(console, fmt::format("{} isn't overwritten with itself: what has problems would "
-                                       "be lost; give another name for the output",
+  const bool isWhole = model->problems.empty() && model->notes.empty();
+  if (!isWhole && std::filesystem::equivalent(options.input, options.output, ignored))
+    return refuse(console, fmt::format("{} isn't overwritten with itself: what has problems or "
+                                       "no place would be lost; give another name for the output",
                                        inQuotes(options.input.string())));
   const step::WriteResult written = write(*model, options, console);
   if (!written.failure.empty())

@@ -16,6 +16,26 @@ void TakingApart::operator()(const step::ReadResult* model) const {
   delete model;
 }
 
+namespace {
+
+// What a sound file of an older schema loses is worth one line.
+void tellNotes(const step::ReadResult& model, const std::string& name, Console& console) {
+  std::uint64_t lost = 0;
+  for (const step::Problem& note : model.notes) {
+    const bool isLost = note.kind == step::ProblemKind::noPlace;
+    if (isLost) lost += note.count;
+    if (!isLost || console.verbose)
+      console.err << fmt::format("{}: note: {}\n", name, printable(note.toString()));
+  }
+  if (lost == 0 || console.verbose) return;
+  console.err << fmt::format(
+      "{}: note: {} of {} no place in IFC4X3_ADD2; --verbose lists them\n", name,
+      lost == 1 ? "1 value" : fmt::format("{} values", lost),
+      printable(fmt::format("{} {}", model.header.schemas.front(), lost == 1 ? "has" : "have")));
+}
+
+}  // namespace
+
 LoadedModel loadModel(const std::filesystem::path& file, Console& console, bool keepUnits) {
   step::ReadResult model;
   {
@@ -25,6 +45,7 @@ LoadedModel loadModel(const std::filesystem::path& file, Console& console, bool 
   const std::string name = printable(file.string());
   for (const step::Problem& problem : model.problems)
     console.err << fmt::format("{}: {}\n", name, printable(problem.toString()));
+  tellNotes(model, name, console);
   if (model.data) return LoadedModel(new step::ReadResult(std::move(model)));
   refuse(console, fmt::format("can't read '{}': {}", name, printable(model.failure)));
   return nullptr;

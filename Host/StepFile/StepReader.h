@@ -11,6 +11,7 @@
 #include "Host/StepFile/Header.h"
 #include "Host/StepFile/InstanceTable.h"
 #include "Host/StepFile/ProblemLog.h"
+#include "Host/StepFile/ReplacedGuid.h"
 #include "Host/StepFile/Units/FileUnit.h"
 
 namespace qor::host::step {
@@ -31,8 +32,12 @@ struct ReadResult {
   std::shared_ptr<fc::Data> data{};
   std::string failure{};
   Header header{};
-  /// What was left out of the model, or mended, in the order of its kinds' first cases.
+  /// What was left out of the model, or mended, in the order of the lines of the file.
   std::vector<Problem> problems{};
+  /// What of a sound file the model has no place for, or holds in another form: of the kinds that
+  /// are `isNote`, in the same order.
+  std::vector<Problem> notes{};
+  std::vector<ReplacedGuid> replacedGuids{};
   /// The entities in the order of the file.
   std::vector<NumberedEntity> instances{};
   /// The units that the file lists, those of the project first, and what makes SI of its numbers.
