@@ -32,7 +32,9 @@ class CommandLine {
   CommandLine() {
     m_app.require_subcommand(1);
     m_app.set_version_flag("--version", FCTOOL_VERSION);
-    m_app.footer("Exits with 0, 1 (the file has problems, all reported) or 2 (it can't be done).");
+    m_app.footer(
+        "FILE may be - for standard input, and that of a model to write for standard output.\n"
+        "Exits with 0, 1 (the file has problems, all reported) or 2 (it can't be done).");
     addInfo();
     addTree();
     addGet();

@@ -10,6 +10,7 @@
 
 #include "Host/Cli/EntityLabel.h"
 #include "Host/Cli/LoadModel.h"
+#include "Host/Cli/ModelStreams.h"
 #include "Host/Cli/PrintableText.h"
 #include "Host/Cli/ProgressBar.h"
 #include "Host/StepFile/StepWriter.h"
@@ -21,9 +22,9 @@ namespace {
 step::WriteResult write(const step::ReadResult& model, const ConvertOptions& options,
                         Console& console) {
   ProgressBar bar("Writing", console);
-  return step::writeStepFile(
+  return writeModel(
       *model.data, options.output,
-      {.header = model.header, .numbers = model.instances, .progress = bar.callback()});
+      {.header = model.header, .numbers = model.instances, .progress = bar.callback()}, console);
 }
 
 nlohmann::ordered_json replacedGuids(const step::ReadResult& model) {
@@ -65,7 +66,7 @@ ExitCode runConvert(const ConvertOptions& options, Console& console) {
   if (!written.failure.empty())
     return refuse(console, fmt::format("can't write {}: {}", inQuotes(options.output.string()),
                                        printable(written.failure)));
-  print(options, *model, written, console.out);
+  print(options, *model, written, reportStream(options.output, console));
   if (written.notFinite == 0) return exitCodeOf(*model);
   console.err << fmt::format("{}: {} numbers were infinite or none; left out.\n",
                              printable(options.output.string()), written.notFinite);

@@ -5,6 +5,7 @@
 #include <ostream>
 #include <utility>
 
+#include "Host/Cli/ModelStreams.h"
 #include "Host/Cli/PrintableText.h"
 #include "Host/Cli/ProgressBar.h"
 #include "Host/StepFile/TakeApart.h"
@@ -40,9 +41,11 @@ LoadedModel loadModel(const std::filesystem::path& file, Console& console, bool 
   step::ReadResult model;
   {
     ProgressBar bar("Reading", console);
-    model = step::readStepFile(file, {.keepUnits = keepUnits, .progress = bar.callback()});
+    const step::ReadOptions options{.keepUnits = keepUnits, .progress = bar.callback()};
+    model = isStandard(file) ? step::readStep(readAll(console.in), options)
+                             : step::readStepFile(file, options);
   }
-  const std::string name = printable(file.string());
+  const std::string name = isStandard(file) ? "standard input" : printable(file.string());
   for (const step::Problem& problem : model.problems)
     console.err << fmt::format("{}: {}\n", name, printable(problem.toString()));
   tellNotes(model, name, console);

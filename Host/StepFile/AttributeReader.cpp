@@ -27,10 +27,9 @@ AttributeReader::AttributeReader(InstanceCollector& collected, SchemaMap& schema
   if (schema.version() < SchemaVersion::ifc4x3) m_source.setIntegralType("IFCCOUNTMEASURE");
 }
 
-void AttributeReader::read(std::size_t position) {
+void AttributeReader::read(std::size_t position, const FileClass& fileClass) {
   const NumberedEntity& instance = m_collected.instances()[position];
   const InstanceCollector::Parameters parameters = m_collected.parameters(position);
-  const FileClass& fileClass = m_schema[parameters.fileClass];
   fc::FcBase& entity = *instance.entity;
 
   for (const fc::AttributeInfo* enumeration : fileClass.enumerations)

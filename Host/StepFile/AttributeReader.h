@@ -28,9 +28,9 @@ class AttributeReader {
   /// The guids that were none.
   std::vector<ReplacedGuid> releaseReplacedGuids() { return std::move(m_replacedGuids); }
 
-  /// Reads the parameters of the instance at that position, which has an entity. A root has a guid
-  /// then, whatever they say.
-  void read(std::size_t position);
+  /// Reads the parameters of the instance at that position, which has an entity of that class. A
+  /// root has a guid then, whatever they say.
+  void read(std::size_t position, const FileClass& fileClass);
 
  private:
   using Kind = fc::ValueSource::Kind;

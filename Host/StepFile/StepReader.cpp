@@ -18,6 +18,7 @@
 #include "Host/StepFile/SchemaMap.h"
 #include "Host/StepFile/Units/UnitConverter.h"
 #include "Host/StepFile/Utf16.h"
+#include "Host/StepFile/ZippedModel.h"
 #include "Qor/Platform/MappedFile.h"
 
 namespace qor::host::step {
@@ -78,7 +79,7 @@ class ModelReader {
     InstanceTable& instances = m_collected.instances();
     for (std::size_t i = 0; i < instances.size(); ++i) {
       if (!instances[i].entity || classOf(i).unitRole != UnitRole::unit) continue;
-      m_attributes.read(i);
+      m_attributes.read(i, classOf(i));
       m_units.add(instances[i].number, instances[i].entity);
     }
     m_units.start();
@@ -88,7 +89,7 @@ class ModelReader {
     const FileClass& fileClass = classOf(position);
     const UnitRole role = fileClass.unitRole;
     if (role == UnitRole::unit) return;
-    m_attributes.read(position);
+    m_attributes.read(position, fileClass);
     if (fileClass.isRoot) enterGuid(position);
     if (role != UnitRole::none && convert)
       m_units.convert(role, m_collected.instances()[position].entity);
@@ -162,24 +163,7 @@ void readInstances(std::string_view text, std::size_t begin, SchemaMap schema, P
   if (options.keepNumbers) result.instances = instances.release();
 }
 
-ReadResult readRecoded(std::string_view utf8, const ReadOptions& options) {
-  ReadResult result = readStep(utf8, options);
-  result.problems.insert(
-      result.problems.begin(),
-      {ProblemKind::badText,
-       {},
-       {},
-       1,
-       0,
-       1,
-       "line 1: the file is UTF-16, where a STEP file has a byte a character; read all the same."});
-  return result;
-}
-
-}  // namespace
-
-ReadResult readStep(std::string_view text, const ReadOptions& options) {
-  if (const auto utf8 = utf8OfUtf16(text)) return readRecoded(*utf8, options);
+ReadResult readUtf8(std::string_view text, const ReadOptions& options) {
   ReadResult result;
   ProblemLog log(text);
   HeaderResult header = readHeader(text, log);
@@ -197,6 +181,33 @@ ReadResult readStep(std::string_view text, const ReadOptions& options) {
       result.problems, [](const Problem& problem) { return !isNote(problem.kind); });
   result.notes.assign(std::make_move_iterator(notes.begin()), std::make_move_iterator(notes.end()));
   result.problems.erase(notes.begin(), notes.end());
+  return result;
+}
+
+ReadResult readText(std::string_view text, const ReadOptions& options) {
+  const auto utf8 = utf8OfUtf16(text);
+  if (!utf8) return readUtf8(text, options);
+  ReadResult result = readUtf8(*utf8, options);
+  result.problems.insert(
+      result.problems.begin(),
+      {ProblemKind::badText,
+       {},
+       {},
+       1,
+       0,
+       1,
+       "line 1: the file is UTF-16, where a STEP file has a byte a character; read all the same."});
+  return result;
+}
+
+}  // namespace
+
+ReadResult readStep(std::string_view text, const ReadOptions& options) {
+  if (!isZip(text)) return readText(text, options);
+  ZippedModel model = unzipModel(text, options.largestUnpacked);
+  if (model.failure.empty()) return readText(model.text, options);
+  ReadResult result;
+  result.failure = std::move(model.failure);
   return result;
 }
 

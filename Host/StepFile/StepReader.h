@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -23,6 +24,8 @@ struct ReadOptions {
   /// in other units is converted, each number by the type of its attribute, and the units of the
   /// model say so.
   bool keepUnits = false;
+  /// Of a zip archive, no more than so many bytes are unpacked.
+  std::uint64_t largestUnpacked = std::uint64_t{4} << 30;
   /// Called from time to time with the part that is done, 0 to 1.
   std::function<void(double)> progress{};
 };
@@ -45,7 +48,8 @@ struct ReadResult {
 };
 
 /// Reads a STEP file (ISO 10303-21) of IFC4X3_ADD2, or of an older IFC schema as far as the classes
-/// of the model go, into a new model, with all relationships in step.
+/// of the model go, into a new model, with all relationships in step. A zip archive with one model
+/// in it (".ifczip") and a file in UTF-16 are unpacked into memory first.
 ///
 /// Whatever the file holds, all that is sound in it is loaded, and the rest is told in `problems`.
 /// Two passes over the text: the first makes an entity for each instance, the second reads their

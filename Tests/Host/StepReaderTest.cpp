@@ -2,10 +2,15 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <zip.h>
 
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "Fc/Core/Kernel/FcObjectDefinition.h"
@@ -148,11 +153,45 @@ TEST(StepReader, SaysWhyItCannotReadAFile) {
   EXPECT_EQ(failureOf(" \r\n/* nothing */"), "it is empty");
   EXPECT_EQ(failureOf("<?xml version='1.0'?>"),
             "it is no STEP file: it begins with \"<?xml version='1.0'?\", not with ISO-10303-21;");
-  EXPECT_EQ(failureOf("PK\x03\x04 and more"), "it is a ZIP archive, no STEP file; unpack it first");
+  EXPECT_EQ(failureOf("PK\x03\x04 and more"), "it is a ZIP archive that is broken");
+  EXPECT_EQ(failureOf("\x1F\x8B\x08"), "it is packed by gzip, no STEP file; unpack it first");
   EXPECT_EQ(failureOf("ISO-10303-21;HEADER;FILE_SCHEMA(('AP203'));ENDSEC;DATA;ENDSEC;"),
             "its schema AP203 is none of IFC");
   EXPECT_EQ(failureOf("ISO-10303-21;HEADER;ENDSEC;END-ISO-10303-21;"), "it has no section DATA");
   EXPECT_EQ(readStepFile("no such file.ifc").failure, "No such file or directory");
+}
+
+/// A zip archive with these files, as a program that packs models makes it.
+std::string zipped(const std::vector<std::pair<std::string, std::string>>& files) {
+  const auto path = std::filesystem::temp_directory_path() / "StepReaderTest.ifczip";
+  std::filesystem::remove(path);
+  zip_t* archive = zip_open(path.c_str(), ZIP_CREATE | ZIP_TRUNCATE, nullptr);
+  for (const auto& [name, text] : files)
+    zip_file_add(archive, name.c_str(), zip_source_buffer(archive, text.data(), text.size(), 0), 0);
+  zip_close(archive);
+  std::ifstream in(path, std::ios::binary);
+  std::string bytes{std::istreambuf_iterator<char>(in), {}};
+  std::filesystem::remove(path);
+  return bytes;
+}
+
+TEST(StepReader, UnpacksTheOneModelOfAZipArchiveUpToALimit) {
+  const std::string model = stepFile("#1=IFCPERSON('a',$,$,$,$,$,$,$);" + std::string(5000, ' '));
+  const std::string archive = zipped({{"house/House.IFC", model}, {"a.txt", "b"}});
+  EXPECT_EQ(readStep(archive).instances.size(), 1U);
+  EXPECT_EQ(readStep(zipped({{"house", model}})).instances.size(), 1U);
+  EXPECT_EQ(readStep(archive, {.largestUnpacked = 5000}).failure,
+            "it is a ZIP archive whose model has more than 5000 bytes");
+  EXPECT_EQ(failureOf(zipped({{"a.ifc", model}, {"b.ifc", model}})),
+            "it is a ZIP archive with 2 files, of which one must be the model");
+  for (std::size_t i = 30; i < archive.size(); i += 7) {
+    std::string broken = archive;
+    broken[i] = static_cast<char>(broken[i] ^ 0x55);
+    const ReadResult result = readStep(broken);
+    EXPECT_TRUE(!result.failure.empty() || result.data) << i;
+  }
+  const std::string twice = zipped({{"inner.ifc", archive}});
+  EXPECT_THAT(failureOf(twice), testing::HasSubstr("it is no STEP file: it begins with"));
 }
 
 TEST(StepReader, ReadsUtf16AndSaysSo) {

@@ -56,6 +56,17 @@ TEST(ConvertCommand, TellsWhatItLeftOutAndKeepsAnInputThatItCantHoldWhole) {
   EXPECT_EQ(readFile(file), before);
 }
 
+TEST(ConvertCommand, ReadsStandardInputAndWritesStandardOutput) {
+  const ToolRun run = runTool({"convert", "-", "-"}, false, readFile(sampleFile()));
+  EXPECT_EQ(run.code, ExitCode::success);
+  EXPECT_EQ(run.out, readFile(sampleFile()));
+  EXPECT_EQ(run.err, "-: 961 instances written as IFC4X3_ADD2\n");
+  const ToolRun bad = runTool({"convert", "-", "-"}, false, "nothing");
+  EXPECT_EQ(bad.code, ExitCode::impossible);
+  EXPECT_EQ(bad.out, "");
+  EXPECT_THAT(bad.err, HasSubstr("can't read 'standard input': it is no STEP file"));
+}
+
 TEST(ConvertCommand, KeepsTheTextsOfGuidsThatWereNoneForItsReport) {
   const ScratchFolder folder;
   const std::string file = folder.model("#1=IFCPROPERTYSET('wall 1',$,$,$,());\n");
