@@ -89,7 +89,10 @@ bool ParameterSource::finish() {
 
 ParameterSource::Kind ParameterSource::next() {
   const Kind kind = plainKind();
-  if (m_conversion == Conversion::none) return kind;
+  return m_conversion == Conversion::none ? kind : convertedKind(kind);
+}
+
+ParameterSource::Kind ParameterSource::convertedKind(Kind kind) {
   const bool isPlainValue = kind >= Kind::integer && kind <= Kind::binary;
   if (!isPlainValue) return kind == Kind::list && holdsLists() ? Kind::derived : kind;
   if (m_conversion == Conversion::mendText && kind != Kind::binary) return Kind::text;

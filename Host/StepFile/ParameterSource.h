@@ -83,6 +83,7 @@ class ParameterSource final : public fc::ValueSource {
 
  private:
   Kind plainKind();
+  Kind convertedKind(Kind kind);
   Kind numberKind() const;
   Kind textKind();
   Kind enumeratorKind() const;
