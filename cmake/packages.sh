@@ -5,10 +5,10 @@
 #   ... bench, ... fuzz             what benchmarks and fuzzing take beyond that
 set -euo pipefail
 
-build=(g++ cmake ninja-build ccache mold
+build=(g++ cmake pkg-config ninja-build ccache mold
   libocct-foundation-dev libocct-modeling-data-dev libocct-modeling-algorithms-dev
   libocct-visualization-dev # holds a header that those of the modelling data include
-  libtbb-dev libfmt-dev libcli11-dev nlohmann-json3-dev libpugixml-dev libpng-dev
+  libtbb-dev libfmt-dev libcli11-dev nlohmann-json3-dev libpugixml-dev libpng-dev libzip-dev
   libglu1-mesa-dev libtinygltf-dev)
 test=(libgtest-dev libgmock-dev)
 command -v npm > /dev/null || test+=(npm) # for gltf_validator.sh; others than Debian's bring npm along with node

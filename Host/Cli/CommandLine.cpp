@@ -32,7 +32,9 @@ class CommandLine {
   CommandLine() {
     m_app.require_subcommand(1);
     m_app.set_version_flag("--version", FCTOOL_VERSION);
-    m_app.footer("Exits with 0, 1 (the file has problems, all reported) or 2 (it can't be done).");
+    m_app.footer(
+        "FILE may be - for standard input, and that of a model to write for standard output.\n"
+        "Exits with 0, 1 (the file has problems, all reported) or 2 (it can't be done).");
     addInfo();
     addTree();
     addGet();
@@ -53,6 +55,7 @@ class CommandLine {
     } catch (const CLI::ParseError& error) {
       return finish(error, console);
     }
+    console.verbose = m_verbose;
     const AssertLines asserts(console.err, console.watch);
     const ExitCode code = m_command(console);
     return code == ExitCode::success && asserts.count() > 0 ? ExitCode::problems : code;
@@ -63,6 +66,8 @@ class CommandLine {
   CLI::App& add(const char* name, const char* description, Options& options, Command runCommand) {
     CLI::App& command = *m_app.add_subcommand(name, description);
     command.add_flag("--json", options.json, "Print JSON, for programs");
+    command.add_flag("--verbose", m_verbose,
+                     "List what of an older schema has no place in IFC4X3_ADD2");
     command.callback([this, &options, runCommand] {
       m_command = [&options, runCommand](Console& console) { return runCommand(options, console); };
     });
@@ -180,6 +185,7 @@ class CommandLine {
   }
 
   CLI::App m_app{"Looks into IFC models in STEP files, draws and converts them.", "fctool"};
+  bool m_verbose = false;
   InfoOptions m_info;
   TreeOptions m_tree;
   GetOptions m_get;

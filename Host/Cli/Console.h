@@ -1,6 +1,6 @@
 #pragma once
 
-#include <iosfwd>
+#include <iostream>
 
 namespace qor::host::cli {
 
@@ -8,10 +8,12 @@ class Watch;
 
 /// Where a command writes to.
 struct Console {
-  std::ostream& out;          ///< results
-  std::ostream& err;          ///< messages, each in one line
-  Watch& watch;               ///< is told what a long run is at
-  bool showProgress = false;  ///< a person watches `err`
+  std::ostream& out;            ///< results
+  std::ostream& err;            ///< messages, each in one line
+  Watch& watch;                 ///< is told what a long run is at
+  bool showProgress = false;    ///< a person watches `err`
+  std::istream& in = std::cin;  ///< a model, where a command line says "-"
+  bool verbose = false;         ///< each note about a file has a line
 };
 
 /// How a command ends, as the exit code of the program.

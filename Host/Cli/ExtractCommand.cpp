@@ -11,6 +11,7 @@
 #include "Host/Cli/EntityOption.h"
 #include "Host/Cli/LoadModel.h"
 #include "Host/Cli/ModelExtract.h"
+#include "Host/Cli/ModelStreams.h"
 #include "Host/Cli/PrintableText.h"
 #include "Host/StepFile/StepWriter.h"
 
@@ -54,19 +55,19 @@ ExitCode runExtract(const ExtractOptions& options, Console& console) {
 
   const ModelExtract extract(model->instances, *objects);
   const auto numbers = extract.numbers();
-  const step::WriteResult written = step::writeStepFile(
-      *extract.data(), options.output, {.header = model->header, .numbers = numbers});
+  const step::WriteResult written = writeModel(
+      *extract.data(), options.output, {.header = model->header, .numbers = numbers}, console);
   if (!written.failure.empty())
     return refuse(console, fmt::format("can't write {}: {}", inQuotes(options.output.string()),
                                        printable(written.failure)));
+  std::ostream& out = reportStream(options.output, console);
   if (options.json)
-    console.out << toText({{"input", options.input.string()},
-                           {"output", options.output.string()},
-                           {"instances", written.instances}});
+    out << toText({{"input", options.input.string()},
+                   {"output", options.output.string()},
+                   {"instances", written.instances}});
   else
-    console.out << fmt::format("{}: {} of {} instances written\n",
-                               printable(options.output.string()), written.instances,
-                               model->data->size());
+    out << fmt::format("{}: {} of {} instances written\n", printable(options.output.string()),
+                       written.instances, model->data->size());
   return exitCodeOf(*model);
 }
 

@@ -128,6 +128,8 @@ void printJson(const InfoOptions& options, const step::ReadResult& model, std::o
   json["problems"] = nlohmann::ordered_json::array();
   for (const step::Problem& problem : model.problems)
     json["problems"].push_back(problemJson(problem));
+  json["notes"] = nlohmann::ordered_json::array();
+  for (const step::Problem& note : model.notes) json["notes"].push_back(problemJson(note));
   out << toText(json);
 }
 

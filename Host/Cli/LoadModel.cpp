@@ -5,6 +5,7 @@
 #include <ostream>
 #include <utility>
 
+#include "Host/Cli/ModelStreams.h"
 #include "Host/Cli/PrintableText.h"
 #include "Host/Cli/ProgressBar.h"
 #include "Host/StepFile/TakeApart.h"
@@ -16,15 +17,38 @@ void TakingApart::operator()(const step::ReadResult* model) const {
   delete model;
 }
 
+namespace {
+
+// What a sound file of an older schema loses is worth one line.
+void tellNotes(const step::ReadResult& model, const std::string& name, Console& console) {
+  std::uint64_t lost = 0;
+  for (const step::Problem& note : model.notes) {
+    const bool isLost = note.kind == step::ProblemKind::noPlace;
+    if (isLost) lost += note.count;
+    if (!isLost || console.verbose)
+      console.err << fmt::format("{}: note: {}\n", name, printable(note.toString()));
+  }
+  if (lost == 0 || console.verbose) return;
+  console.err << fmt::format(
+      "{}: note: {} of {} no place in IFC4X3_ADD2; --verbose lists them\n", name,
+      lost == 1 ? "1 value" : fmt::format("{} values", lost),
+      printable(fmt::format("{} {}", model.header.schemas.front(), lost == 1 ? "has" : "have")));
+}
+
+}  // namespace
+
 LoadedModel loadModel(const std::filesystem::path& file, Console& console, bool keepUnits) {
   step::ReadResult model;
   {
     ProgressBar bar("Reading", console);
-    model = step::readStepFile(file, {.keepUnits = keepUnits, .progress = bar.callback()});
+    const step::ReadOptions options{.keepUnits = keepUnits, .progress = bar.callback()};
+    model = isStandard(file) ? step::readStep(readAll(console.in), options)
+                             : step::readStepFile(file, options);
   }
-  const std::string name = printable(file.string());
+  const std::string name = isStandard(file) ? "standard input" : printable(file.string());
   for (const step::Problem& problem : model.problems)
     console.err << fmt::format("{}: {}\n", name, printable(problem.toString()));
+  tellNotes(model, name, console);
   if (model.data) return LoadedModel(new step::ReadResult(std::move(model)));
   refuse(console, fmt::format("can't read '{}': {}", name, printable(model.failure)));
   return nullptr;

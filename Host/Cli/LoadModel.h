@@ -15,9 +15,10 @@ struct TakingApart {
 };
 using LoadedModel = std::unique_ptr<const step::ReadResult, TakingApart>;
 
-/// Reads a model, with a progress bar, and reports its problems, each in one line. Its numbers are
-/// SI unless `keepUnits` asks for those of the file. Null, after a line that says why, when there
-/// is nothing to go on with.
+/// Reads a model, that of standard input for "-", with a progress bar, and reports its problems,
+/// each in one line; what only an older schema has is one line in all, or one each when the console
+/// is verbose. Its numbers are SI unless `keepUnits` asks for those of the file. Null, after a line
+/// that says why, when there is nothing to go on with.
 LoadedModel loadModel(const std::filesystem::path& file, Console& console, bool keepUnits = false);
 
 /// `problems` when the file has some.

@@ -92,8 +92,7 @@ class HeaderReader {
 
   std::string noStepFile(const char* at) const {
     const std::string_view start = m_text.substr(offsetOf(at));
-    if (start.starts_with("PK\x03\x04"))
-      return "it is a ZIP archive, no STEP file; unpack it first";
+    if (m_text.starts_with("\x1F\x8B")) return "it is packed by gzip, no STEP file; unpack it first";
     return fmt::format("it is no STEP file: it begins with \"{}\", not with {}",
                        ProblemLog::quote(start.substr(0, 20)), magic);
   }

@@ -38,6 +38,7 @@ bool InstanceCollector::run(const char* at) {
     m_log.add(ProblemKind::truncated, {m_text.size()}, {},
               [] { return "the file ends without END-ISO-10303-21; it seems to be truncated."; });
   }
+  tellWhatIsBehind(at);
   if (const auto comment = m_scanner.openComment()) {
     m_log.add(ProblemKind::openComment, {*comment}, {}, [] {
       return "the comment that begins here isn't closed; passed over up to the end of the line.";
@@ -45,6 +46,16 @@ bool InstanceCollector::run(const char* at) {
   }
   index();
   return hasData;
+}
+
+void InstanceCollector::tellWhatIsBehind(const char* at) {
+  at = m_scanner.skipSpace(at);
+  if (at == m_scanner.end()) return;
+  const std::string_view rest = m_text.substr(offsetOf(at));
+  m_log.add(ProblemKind::syntax, {offsetOf(at)}, {}, [rest] {
+    return fmt::format("\"{}\" stands behind END-ISO-10303-21; and was passed over.",
+                       ProblemLog::quote(rest.substr(0, rest.find('\n'))));
+  });
 }
 
 const char* InstanceCollector::behindStatement(const char* at) {
@@ -72,7 +83,7 @@ const char* InstanceCollector::collectInstance(const char* hash) {
   Place place{offsetOf(hash)};
   if (at == end || !isDigit(*at)) return passOver(place, hash);
   place.instance = readInstanceNumber(at, end);
-  if (place.instance > largestNumber) return passOver(place, hash);
+  if (place.instance > largestNumber) return passOverNumber(place, at);
   at = m_scanner.skipSpace(at);
   if (at == end || *at != '=') return passOver(place, at);
 
@@ -103,8 +114,12 @@ void InstanceCollector::add(std::uint64_t number, std::shared_ptr<fc::FcBase> en
 
 const char* InstanceCollector::addInstance(const Place& place, std::size_t fileClass,
                                            const char* parameters) {
-  const fc::ClassInfo* info = m_schema.info(fileClass);
   const char* end = m_scanner.statementEnd(parameters);
+  fileClass = m_schema.variant(fileClass, {parameters, end});
+  const fc::ClassInfo* info = m_schema.info(fileClass);
+  if (m_schema.isWithoutPlace(fileClass))
+    m_log.add(ProblemKind::noPlace, place, {},
+              [] { return "is of a class that the model has nothing like; left out."; });
   const bool isClosed = end != m_scanner.end() && *end == ';';
   const std::size_t offset = isClosed ? offsetOf(parameters) : mend(place, parameters, end);
   add(place.instance, info ? info->create() : nullptr, offset, !isClosed, fileClass);
@@ -123,6 +138,16 @@ std::size_t InstanceCollector::mend(const Place& place, const char* parameters, 
   return m_mended.size() - 1;
 }
 
+const char* InstanceCollector::passOverNumber(const Place& place, const char* numberEnd) {
+  const char* hash = m_text.data() + place.offset;
+  m_log.add(ProblemKind::syntax, {place.offset}, {}, [&] {
+    return fmt::format("{} is a number beyond {}; the instance is passed over.",
+                       ProblemLog::quote({hash, static_cast<std::size_t>(numberEnd - hash)}),
+                       largestNumber);
+  });
+  return behindStatement(numberEnd);
+}
+
 const char* InstanceCollector::passOver(const Place& place, const char* at) {
   const char* behind = behindStatement(at);
   m_isTruncated = behind == m_scanner.end();
@@ -137,8 +162,10 @@ const char* InstanceCollector::passOver(const Place& place, const char* at) {
 
 InstanceCollector::Parameters InstanceCollector::parameters(std::size_t position) const {
   const Statement& statement = m_statements[position];
-  if (!statement.isMended)
-    return {m_text.substr(statement.offset), statement.offset, false, statement.fileClass};
+  if (!statement.isMended) {
+    const std::string_view text(m_text.data() + statement.offset, m_text.size() - statement.offset);
+    return {text, statement.offset, false, statement.fileClass};
+  }
   const Mended& mended = m_mended[statement.offset];
   return {mended.text, mended.offset, true, statement.fileClass};
 }
@@ -167,7 +194,11 @@ bool InstanceCollector::isWrapper(std::size_t position) const {
 }
 
 void InstanceCollector::addWrapper(std::size_t position) {
-  const std::string_view text = parameters(position).text;
+  const auto [text, offset, isMended, fileClass] = parameters(position);
+  if (m_schema.isWithoutPlace(fileClass)) {
+    m_wrappers.emplace(m_instances[position].number, std::string_view());
+    return;
+  }
   Scanner scanner(text);
   const char* list = scanner.skipSpace(text.data() + 1);
   if (*list != '(') return;

@@ -43,6 +43,7 @@ class InstanceCollector {
   const Wrappers& wrappers() const { return m_wrappers; }
   /// Of the instance at that position of `instances()`.
   Parameters parameters(std::size_t position) const;
+  std::size_t fileClass(std::size_t position) const { return m_statements[position].fileClass; }
 
  private:
   struct Statement {
@@ -65,6 +66,8 @@ class InstanceCollector {
     add(place.instance, nullptr, place.offset, false, noClass);
   }
   std::size_t mend(const Place& place, const char* parameters, const char* end);
+  const char* passOverNumber(const Place& place, const char* numberEnd);
+  void tellWhatIsBehind(const char* at);
   const char* passOver(const Place& place, const char* at);
   void index();
   bool isWrapper(std::size_t position) const;

@@ -2,6 +2,7 @@
 
 #include <fmt/core.h>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -27,6 +28,33 @@ bool isHexDigit(char c) { return isDigit(c) || (c >= 'A' && c <= 'F') || (c >= '
 
 std::uint8_t valueOfDigit(char c) {
   return static_cast<std::uint8_t>(c <= '9' ? c - '0' : (c | 0x20) - 'a' + 10);
+}
+
+/// The defined types that stand on other ones. Each has a length of its own among the types that
+/// selects hold as a rule, so that most names are told apart by that alone.
+constexpr std::pair<std::string_view, std::string_view> underlyingTypes[] = {
+    {"IFCNONNEGATIVELENGTHMEASURE", "IFCLENGTHMEASURE"},
+    {"IFCPOSITIVELENGTHMEASURE", "IFCLENGTHMEASURE"},
+    {"IFCPOSITIVEPLANEANGLEMEASURE", "IFCPLANEANGLEMEASURE"},
+    {"IFCNORMALISEDRATIOMEASURE", "IFCRATIOMEASURE"},
+    {"IFCPOSITIVERATIOMEASURE", "IFCRATIOMEASURE"},
+    {"IFCPOSITIVEINTEGER", "IFCINTEGER"},
+    {"IFCBOXALIGNMENT", "IFCLABEL"},
+    {"IFCLANGUAGEID", "IFCIDENTIFIER"},
+};
+
+std::string_view underlyingType(std::string_view upperName) {
+  for (const auto& [type, underlying] : underlyingTypes)
+    if (type == upperName) return underlying;
+  return {};
+}
+
+/// A select takes values of that type, itself or by a select in it.
+bool holds(const fc::SelectInfo& select, std::string_view upperName) {
+  return std::ranges::any_of(select.alternatives, [&](const fc::AlternativeInfo& alternative) {
+    return alternative.nested ? holds(*alternative.nested, upperName)
+                              : !alternative.isEntity() && alternative.upperName == upperName;
+  });
 }
 
 bool isDelimiter(char c) {
@@ -61,8 +89,12 @@ bool ParameterSource::finish() {
 
 ParameterSource::Kind ParameterSource::next() {
   const Kind kind = plainKind();
+  return m_conversion == Conversion::none ? kind : convertedKind(kind);
+}
+
+ParameterSource::Kind ParameterSource::convertedKind(Kind kind) {
   const bool isPlainValue = kind >= Kind::integer && kind <= Kind::binary;
-  if (m_conversion == Conversion::none || !isPlainValue) return kind;
+  if (!isPlainValue) return kind == Kind::list && holdsLists() ? Kind::derived : kind;
   if (m_conversion == Conversion::mendText && kind != Kind::binary) return Kind::text;
   if (m_conversion == Conversion::toText && kind == Kind::enumerator) return Kind::text;
   m_addsType = m_conversion == Conversion::toType;
@@ -131,7 +163,21 @@ ParameterSource::Kind ParameterSource::binaryKind() const {
 ParameterSource::Kind ParameterSource::typedKind() {
   const char* at = m_at;
   while (isNameChar(*at)) ++at;
-  return *m_scanner.skipSpace(at) == '(' ? Kind::typed : Kind::bad;
+  at = m_scanner.skipSpace(at);
+  if (*at != '(') return Kind::bad;
+  // An enumerator with the name of its type, as in a select.
+  const bool isEnumerator = m_attribute->attribute && m_attribute->attribute->type->enumeration &&
+                            *m_scanner.skipSpace(at + 1) == '.';
+  return isEnumerator ? Kind::enumerator : Kind::typed;
+}
+
+// Says so of a list of lists, where that has no place.
+bool ParameterSource::holdsLists() {
+  if (m_conversion != Conversion::flatList || *m_scanner.skipSpace(m_at + 1) != '(') return false;
+  report(ProblemKind::noPlace, [this] {
+    return fmt::format("is {}; the model has no place for it: left out.", quote(m_at));
+  });
+  return true;
 }
 
 void ParameterSource::skip() {
@@ -228,6 +274,8 @@ void ParameterSource::takeText(std::string& out) {
   if (defects.noCharacter)
     reportText(ProblemKind::badEscape,
                "has an escape that means no character, {}; U+FFFD stands for it.");
+  if (defects.hasNul)
+    reportText(ProblemKind::badText, "has bytes that are zero, {}; taken as they stand.");
 }
 
 // It stays, so that nothing is lost. An empty text is how some files say that there is no date.
@@ -263,9 +311,24 @@ void ParameterSource::reportText(ProblemKind kind, const char* message) {
 }
 
 std::string_view ParameterSource::takeEnumerator() {
+  const std::string_view name = plainEnumerator();
+  return m_conversion == Conversion::rename
+             ? enumeratorInModel(m_version, m_attribute->attribute->typeName, name)
+             : name;
+}
+
+std::string_view ParameterSource::plainEnumerator() {
+  const bool isTyped = *m_at != '.';
+  if (isTyped) {
+    while (*m_at != '(') ++m_at;
+    m_at = m_scanner.skipSpace(m_at + 1);
+  }
   const char* name = ++m_at;
-  while (*m_at != '.') ++m_at;
-  return {name, static_cast<std::size_t>(m_at++ - name)};
+  while (isNameChar(*m_at)) ++m_at;
+  const std::string_view result(name, static_cast<std::size_t>(m_at - name));
+  if (*m_at == '.') ++m_at;
+  if (isTyped) closeParenthesis();
+  return result;
 }
 
 // The first digit tells how many bits in front were added to fill up the second one.
@@ -293,15 +356,24 @@ const std::shared_ptr<fc::FcBase>* ParameterSource::takeEntity() {
   m_reference = readInstanceNumber(m_at, m_scanner.end());
   const std::shared_ptr<fc::FcBase>* entity = m_instances.find(m_reference);
   if (entity && *entity) return entity;
-  if (entity)
+  if (entity && isWithoutPlace(m_reference))
+    report(ProblemKind::noPlace, [this] {
+      return fmt::format("refers to #{}, which the model has no place for; left out.", m_reference);
+    });
+  else if (entity)
     report(ProblemKind::leftOutReference, [this] {
-      return fmt::format("refers to #{}, which was left out itself; left out.", m_reference);
+      return fmt::format("refers to {}, which was left out itself; left out.", quote(m_value));
     });
   else
     report(ProblemKind::danglingReference, [this] {
-      return fmt::format("refers to #{}, which the file doesn't have; left out.", m_reference);
+      return fmt::format("refers to {}, which the file doesn't have; left out.", quote(m_value));
     });
   return nullptr;
+}
+
+bool ParameterSource::isWithoutPlace(std::uint64_t number) const {
+  const auto found = m_wrappers.find(number);
+  return found != m_wrappers.end() && found->second.empty();
 }
 
 void ParameterSource::openList() {
@@ -359,7 +431,7 @@ bool ParameterSource::unwrap() {
   const std::uint64_t number = readInstanceNumber(behind, m_scanner.end());
   if (const auto* entity = m_instances.find(number); !entity || *entity) return false;
   const auto wrapper = m_wrappers.find(number);
-  if (wrapper == m_wrappers.end()) return false;
+  if (wrapper == m_wrappers.end() || wrapper->second.empty()) return false;
   m_resumeAt = behind;
   m_resumeScanner = m_scanner;
   m_resumeDepth = m_depth;
@@ -387,7 +459,22 @@ std::string_view ParameterSource::openTyped() {
   m_at = m_scanner.skipSpace(m_at) + 1;
   useType(upperName);
   if (upperName == m_integralType) m_conversion = Conversion::toInteger;
-  return upperName;
+  return typeInstead(upperName);
+}
+
+// A value of a type that the select lacks is one of the type on which that stands, if the select
+// has it.
+std::string_view ParameterSource::typeInstead(std::string_view upperName) {
+  const std::string_view underlying = underlyingType(upperName);
+  const fc::AttributeInfo* attribute = m_attribute->attribute;
+  if (underlying.empty() || !attribute || !attribute->type->select ||
+      holds(*attribute->type->select, upperName) || !holds(*attribute->type->select, underlying))
+    return upperName;
+  m_log.addForFile(ProblemKind::takenAs, m_place, [&] {
+    return attributePrefix() + fmt::format("is of type {}, which {} doesn't take; taken as {}.",
+                                           upperName, expectedType(), underlying);
+  });
+  return underlying;
 }
 
 // In a select each value tells its own type.
@@ -399,7 +486,10 @@ void ParameterSource::useType(std::string_view upperName) {
 
 void ParameterSource::closeTyped() {
   m_conversion = m_attribute->conversion;
-  if (std::exchange(m_addsType, false)) return;
+  if (!std::exchange(m_addsType, false)) closeParenthesis();
+}
+
+void ParameterSource::closeParenthesis() {
   m_at = m_scanner.skipSpace(m_at);
   if (*m_at != ')') {
     report(ProblemKind::syntax, [this] {
@@ -423,11 +513,25 @@ void ParameterSource::rejected(Rejection reason, std::string_view found,
   // An open string is reported when it is skipped.
   if (reason == Rejection::wrongKind && *m_at == '\'' && m_stringOpen == m_at && !m_string.close)
     return;
+  // `AttributeReader` mends it and says so.
+  if (m_attribute->isGuid) return;
+  if (reason == Rejection::unknownEnumerator && found.empty() && m_conversion == Conversion::rename)
+    return report(ProblemKind::noPlace, [this] {
+      return fmt::format("is {}; the model has no place for it: left out.", quote(m_value));
+    });
   constexpr ProblemKind kinds[] = {ProblemKind::wrongKind,         ProblemKind::wrongClass,
                                    ProblemKind::unknownEnumerator, ProblemKind::unknownType,
                                    ProblemKind::wrongCount,        ProblemKind::outOfRange};
   report(kinds[static_cast<std::size_t>(reason)],
          [&] { return describe(reason, found, expected) + "; left out."; });
+}
+
+std::string_view ParameterSource::lastValue() const {
+  if (m_at == endOfStatement) return {};
+  std::string_view value(m_value, static_cast<std::size_t>(m_at - m_value));
+  if (value.starts_with('\'')) value.remove_prefix(1);
+  if (value.ends_with('\'')) value.remove_suffix(1);
+  return value;
 }
 
 std::string ParameterSource::describe(Rejection reason, std::string_view found,

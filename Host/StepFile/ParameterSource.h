@@ -17,7 +17,8 @@
 namespace qor::host::step {
 
 /// The instances that stand for the elements of a list instead of for themselves, by number: the
-/// text of the file from the list's first element on.
+/// text of the file from the list's first element on. Without text, one that has no place in the
+/// model.
 using Wrappers = std::unordered_map<std::uint64_t, std::string_view>;
 
 /// The parameters of one statement after the other, as the attributes of the model take them:
@@ -27,8 +28,9 @@ using Wrappers = std::unordered_map<std::uint64_t, std::string_view>;
 /// Nothing here recurses, and no value is copied but into its member.
 class ParameterSource final : public fc::ValueSource {
  public:
-  ParameterSource(const InstanceTable& instances, const Wrappers& wrappers, ProblemLog& log)
-      : m_instances(instances), m_wrappers(wrappers), m_log(log) {}
+  ParameterSource(const InstanceTable& instances, const Wrappers& wrappers, ProblemLog& log,
+                  SchemaVersion version = SchemaVersion::ifc4x3Add2)
+      : m_instances(instances), m_wrappers(wrappers), m_log(log), m_version(version) {}
 
   /// Begins with the statement whose parameters open at `text`'s first character, a parenthesis. A
   /// semicolon outside strings and comments must stand somewhere in `text`. With `damaged` the end
@@ -75,8 +77,13 @@ class ParameterSource final : public fc::ValueSource {
   /// The value that comes next, as it stands in the file, shortened.
   std::string quoteNext() { return quote(m_scanner.skipSpace(m_at)); }
 
+  /// The characters of the value that was taken last, as they stand in the file, without
+  /// apostrophes.
+  std::string_view lastValue() const;
+
  private:
   Kind plainKind();
+  Kind convertedKind(Kind kind);
   Kind numberKind() const;
   Kind textKind();
   Kind enumeratorKind() const;
@@ -87,6 +94,11 @@ class ParameterSource final : public fc::ValueSource {
   bool endsWrapper() const;
   bool closeList();
   void passOver();
+  std::string_view plainEnumerator();
+  bool holdsLists();
+  bool isWithoutPlace(std::uint64_t number) const;
+  void closeParenthesis();
+  std::string_view typeInstead(std::string_view upperName);
   bool unwrap();
   void resume();
   void giveUp();
@@ -102,6 +114,7 @@ class ParameterSource final : public fc::ValueSource {
   const InstanceTable& m_instances;
   const Wrappers& m_wrappers;
   ProblemLog& m_log;
+  SchemaVersion m_version;
 
   Scanner m_scanner{std::string_view()};
   const char* m_at = nullptr;

@@ -3,6 +3,7 @@
 #include <fmt/core.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace qor::host::step {
 
@@ -22,6 +23,8 @@ const char* nameOf(ProblemKind kind) {
       return "badEscape";
     case ProblemKind::duplicateNumber:
       return "duplicateNumber";
+    case ProblemKind::duplicateGuid:
+      return "duplicateGuid";
     case ProblemKind::unknownClass:
       return "unknownClass";
     case ProblemKind::attributeCount:
@@ -44,20 +47,29 @@ const char* nameOf(ProblemKind kind) {
       return "wrongCount";
     case ProblemKind::outOfRange:
       return "outOfRange";
+    case ProblemKind::badGuid:
+      return "badGuid";
     case ProblemKind::unit:
       return "unit";
     case ProblemKind::badDate:
       return "badDate";
-    case ProblemKind::noPlace:
-      return "noPlace";
+    case ProblemKind::derivedValue:
+      return "derivedValue";
     case ProblemKind::further:
       return "further";
+    case ProblemKind::noPlace:
+      return "noPlace";
+    case ProblemKind::takenAs:
+      return "takenAs";
   }
   return "";
 }
 
 std::string Problem::toString() const {
-  return count == 1 ? message : fmt::format("{} So {} times in all.", message, count);
+  if (count == 1) return message;
+  std::string others = std::to_string(count - 1);
+  for (std::size_t i = others.size(); i > 3; i -= 3) others.insert(i - 3, ",");
+  return fmt::format("{} And {} like it.", message, others);
 }
 
 std::string ProblemLog::quote(std::string_view text) {
@@ -68,10 +80,11 @@ std::string ProblemLog::quote(std::string_view text) {
   return cut ? quoted + "..." : quoted;
 }
 
-std::uint64_t ProblemLog::total() const {
-  std::uint64_t sum = 0;
-  for (const Problem& problem : m_problems) sum += problem.count;
-  return sum;
+std::vector<Problem> ProblemLog::release() {
+  std::ranges::stable_sort(m_problems, {}, [](const Problem& problem) {
+    return std::pair(problem.kind == ProblemKind::further, problem.line);
+  });
+  return std::move(m_problems);
 }
 
 Problem* ProblemLog::count(ProblemKind kind, const Place& place, std::string_view className,

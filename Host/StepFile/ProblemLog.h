@@ -21,6 +21,7 @@ enum class ProblemKind : std::uint8_t {
   badText,          ///< bytes that are no characters
   badEscape,        ///< a backslash in a text that begins no escape, or one that means no character
   duplicateNumber,  ///< two instances with one number
+  duplicateGuid,    ///< two roots with one guid
   unknownClass,     ///< a class that the schema doesn't have, or an abstract one
   attributeCount,   ///< more or fewer attributes than the class has
   missingValue,     ///< no value where the schema asks for one
@@ -31,12 +32,19 @@ enum class ProblemKind : std::uint8_t {
   unknownEnumerator,  ///< a name that the enumeration doesn't have
   unknownType,        ///< a type that the select doesn't have
   wrongCount,         ///< more or fewer numbers than belong there
-  outOfRange,         ///< a number too large, a guid that is none
+  outOfRange,         ///< a number too large
+  badGuid,            ///< a guid that is none, or not there
   unit,               ///< a unit that contradicts itself or others, or has no size
   badDate,            ///< a text that is no date, where one belongs
-  noPlace,            ///< a value of an older schema that has no place in IFC4X3_ADD2
+  derivedValue,       ///< a value where the class derives it
   further,            ///< what came when the log was full
+  // What is nobody's fault, and said for who wants to know: notes.
+  noPlace,  ///< a value or an instance of an older schema that has no place in IFC4X3_ADD2
+  takenAs,  ///< what the model holds in another form than the file
 };
+
+/// A sound file may have it.
+constexpr bool isNote(ProblemKind kind) { return kind >= ProblemKind::noPlace; }
 
 /// "unknownClass": for programs that read reports.
 const char* nameOf(ProblemKind kind);
@@ -88,10 +96,8 @@ class ProblemLog {
     if (Problem* fresh = count(kind, place, {}, {})) fresh->message = prefix(place) + makeDetail();
   }
 
-  std::span<const Problem> problems() const { return m_problems; }
-  /// All problems, with those that were only counted.
-  std::uint64_t total() const;
-  std::vector<Problem> release() { return std::move(m_problems); }
+  /// All of them, in the order of their first lines; what was only counted comes last.
+  std::vector<Problem> release();
 
   /// `text` in one line of at most `maxQuote` characters, ASCII only.
   static std::string quote(std::string_view text);

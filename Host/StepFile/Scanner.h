@@ -14,7 +14,7 @@ enum CharFlags : std::uint8_t {
   digitChar = 1,      ///< 0-9
   nameChar = 2,       ///< what names of classes, types and enumerators are made of
   stringStop = 4,     ///< inside a string: look closer
-  escapeChar = 8,     ///< inside a string: the content isn't the text as it stands
+  escapeChar = 8,     ///< inside a string: the content isn't the text as it stands, or is odd
   statementStop = 16  ///< inside a statement: look closer
 };
 
@@ -29,6 +29,7 @@ inline constexpr std::array<std::uint8_t, 256> charFlags = [] {
   flags['\n'] = stringStop | statementStop;
   flags['/'] = statementStop;
   flags['\\'] = escapeChar;
+  flags[0] = escapeChar;
   for (std::size_t c = 128; c < 256; ++c) flags[c] = escapeChar;
   return flags;
 }();
@@ -44,7 +45,7 @@ struct StringExtent {
   /// Where to go on: behind the closing apostrophe, or where an open string was given up.
   const char* next;
   /// The characters between the apostrophes are the text: no escape, no doubled apostrophe, nothing
-  /// beyond ASCII.
+  /// beyond ASCII, no zero.
   bool plain;
 };
 

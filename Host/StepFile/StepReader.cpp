@@ -2,17 +2,23 @@
 
 #include <fmt/core.h>
 
+#include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <optional>
 #include <unordered_map>
 #include <utility>
 
+#include "Fc/Core/Kernel/FcRoot.h"
 #include "Host/StepFile/AttributeReader.h"
 #include "Host/StepFile/HeaderReader.h"
 #include "Host/StepFile/InstanceCollector.h"
+#include "Host/StepFile/NumberMap.h"
 #include "Host/StepFile/Progress.h"
 #include "Host/StepFile/SchemaMap.h"
 #include "Host/StepFile/Units/UnitConverter.h"
+#include "Host/StepFile/Utf16.h"
+#include "Host/StepFile/ZippedModel.h"
 #include "Qor/Platform/MappedFile.h"
 
 namespace qor::host::step {
@@ -24,10 +30,18 @@ constexpr std::string_view currentSchema = "IFC4X3_ADD2";
 /// The schema that the header names; that of the model where it names none. Empty for one that
 /// isn't read.
 std::optional<SchemaVersion> schemaOf(const Header& header, ProblemLog& log) {
-  if (!header.schemas.empty()) return schemaVersionFromName(header.schemas.front());
+  if (!header.schemas.empty()) {
+    const std::string& name = header.schemas.front();
+    const auto version = schemaVersionFromName(name);
+    if (version == SchemaVersion::ifc2x)
+      log.add(ProblemKind::takenAs, {0}, {}, [&] {
+        return fmt::format("the schema {} is read as IFC2X3.", ProblemLog::quote(name));
+      });
+    return version;
+  }
   log.add(ProblemKind::syntax, {0}, {},
           [] { return fmt::format("the header names no schema; read as {}.", currentSchema); });
-  return SchemaVersion::ifc4x3;
+  return SchemaVersion::ifc4x3Add2;
 }
 
 /// The second pass over a file: attributes, and units made SI on the way.
@@ -54,28 +68,51 @@ class ModelReader {
   }
 
   std::vector<FileUnit> releaseUnits() { return m_units.release(); }
+  std::vector<ReplacedGuid> releaseReplacedGuids() { return m_attributes.releaseReplacedGuids(); }
 
  private:
-  UnitRole roleOf(std::size_t position) {
-    return m_schema[m_collected.parameters(position).fileClass].unitRole;
+  const FileClass& classOf(std::size_t position) {
+    return m_schema[m_collected.fileClass(position)];
   }
 
   void readUnits() {
     InstanceTable& instances = m_collected.instances();
     for (std::size_t i = 0; i < instances.size(); ++i) {
-      if (!instances[i].entity || roleOf(i) != UnitRole::unit) continue;
-      m_attributes.read(i);
+      if (!instances[i].entity || classOf(i).unitRole != UnitRole::unit) continue;
+      m_attributes.read(i, classOf(i));
       m_units.add(instances[i].number, instances[i].entity);
     }
     m_units.start();
   }
 
   void read(std::size_t position, bool convert) {
-    const UnitRole role = roleOf(position);
+    const FileClass& fileClass = classOf(position);
+    const UnitRole role = fileClass.unitRole;
     if (role == UnitRole::unit) return;
-    m_attributes.read(position);
+    m_attributes.read(position, fileClass);
+    if (fileClass.isRoot) enterGuid(position);
     if (role != UnitRole::none && convert)
       m_units.convert(role, m_collected.instances()[position].entity);
+  }
+
+  void enterGuid(std::size_t position) {
+    const Guid& guid = guidAt(position);
+    if (m_guids.insert(guid.hash(), static_cast<std::uint32_t>(position))) return;
+    const std::size_t first = m_guids.find(guid.hash());
+    if (guidAt(first) != guid) return;
+    const NumberedEntity& instance = m_collected.instances()[position];
+    m_log.add(
+        ProblemKind::duplicateGuid,
+        {m_collected.parameters(position).offset, instance.number, instance.entity->ifcNameUpper()},
+        "GlobalId", [&] {
+          return fmt::format("has the GlobalId of #{}, {}; both are kept.",
+                             m_collected.instances()[first].number, guid.toString(false));
+        });
+  }
+
+  const Guid& guidAt(std::size_t position) {
+    const fc::FcBase& entity = *m_collected.instances()[position].entity;
+    return static_cast<const fc::core::kernel::FcRoot&>(entity).GlobalId();
   }
 
   void report(const fc::FcBase& entity, std::string_view attribute, const std::string& detail) {
@@ -98,6 +135,8 @@ class ModelReader {
   ProblemLog& m_log;
   AttributeReader m_attributes;
   UnitConverter m_units;
+  /// The roots, by the hash of their guid.
+  NumberMap m_guids;
   /// Filled when the first problem comes.
   std::unordered_map<const fc::FcBase*, std::size_t> m_positions;
 };
@@ -120,12 +159,11 @@ void readInstances(std::string_view text, std::size_t begin, SchemaMap schema, P
   ModelReader reader(collected, schema, log);
   reader.run(*result.data, options, progress, text.size());
   result.units = reader.releaseUnits();
+  result.replacedGuids = reader.releaseReplacedGuids();
   if (options.keepNumbers) result.instances = instances.release();
 }
 
-}  // namespace
-
-ReadResult readStep(std::string_view text, const ReadOptions& options) {
+ReadResult readUtf8(std::string_view text, const ReadOptions& options) {
   ReadResult result;
   ProblemLog log(text);
   HeaderResult header = readHeader(text, log);
@@ -139,6 +177,37 @@ ReadResult readStep(std::string_view text, const ReadOptions& options) {
     result.failure = fmt::format("its schema {} is none of IFC",
                                  ProblemLog::quote(result.header.schemas.front()));
   result.problems = log.release();
+  const auto notes = std::ranges::stable_partition(
+      result.problems, [](const Problem& problem) { return !isNote(problem.kind); });
+  result.notes.assign(std::make_move_iterator(notes.begin()), std::make_move_iterator(notes.end()));
+  result.problems.erase(notes.begin(), notes.end());
+  return result;
+}
+
+ReadResult readText(std::string_view text, const ReadOptions& options) {
+  const auto utf8 = utf8OfUtf16(text);
+  if (!utf8) return readUtf8(text, options);
+  ReadResult result = readUtf8(*utf8, options);
+  result.problems.insert(
+      result.problems.begin(),
+      {ProblemKind::badText,
+       {},
+       {},
+       1,
+       0,
+       1,
+       "line 1: the file is UTF-16, where a STEP file has a byte a character; read all the same."});
+  return result;
+}
+
+}  // namespace
+
+ReadResult readStep(std::string_view text, const ReadOptions& options) {
+  if (!isZip(text)) return readText(text, options);
+  ZippedModel model = unzipModel(text, options.largestUnpacked);
+  if (model.failure.empty()) return readText(model.text, options);
+  ReadResult result;
+  result.failure = std::move(model.failure);
   return result;
 }
 

@@ -4,6 +4,7 @@
 
 #include <ctime>
 #include <optional>
+#include <ostream>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -151,6 +152,15 @@ WriteResult writeStepFile(const fc::Data& data, const std::filesystem::path& tar
       Writer(data, options, [&file](std::string_view piece) { return file.write(piece); }).run();
   if (result.failure.empty()) result.failure = file.commit();
   return result;
+}
+
+WriteResult writeStep(const fc::Data& data, std::ostream& out, const WriteOptions& options) {
+  return Writer(data, options,
+                [&out](std::string_view piece) {
+                  out.write(piece.data(), static_cast<std::streamsize>(piece.size()));
+                  return std::string(out ? "" : "the stream takes no more");
+                })
+      .run();
 }
 
 WriteResult writeStep(const fc::Data& data, std::string& out, const WriteOptions& options) {

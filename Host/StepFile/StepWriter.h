@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <iosfwd>
 #include <span>
 #include <string>
 
@@ -40,6 +41,9 @@ struct WriteResult {
 /// about 40 bytes an entity.
 WriteResult writeStepFile(const fc::Data& data, const std::filesystem::path& target,
                           const WriteOptions& options = {});
+
+/// The same to the end of a stream, a piece at a time: what was written before a failure stays.
+WriteResult writeStep(const fc::Data& data, std::ostream& out, const WriteOptions& options = {});
 
 /// The same into `out`, which is overwritten.
 WriteResult writeStep(const fc::Data& data, std::string& out, const WriteOptions& options = {});

@@ -42,6 +42,7 @@ class Decoder {
   Decoder(std::string_view content, std::string& out)
       : m_rest(content), m_out(out), m_utf8(isValidUtf8(content)) {
     m_defects.notUtf8 = !m_utf8;
+    m_defects.hasNul = content.find('\0') != std::string_view::npos;
   }
 
   TextDefects run() {

@@ -15,8 +15,10 @@ struct TextDefects {
   /// An escape names no character (half of a surrogate pair, a value beyond U+10FFFF). U+FFFD
   /// stands in its place.
   bool noCharacter = false;
+  /// Bytes that are zero. They stay.
+  bool hasNul = false;
 
-  bool any() const { return badEscape || notUtf8 || noCharacter; }
+  bool any() const { return badEscape || notUtf8 || noCharacter || hasNul; }
 };
 
 /// Sets `out` to the UTF-8 of what stands between the apostrophes of a STEP string: ''

@@ -2,10 +2,15 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <zip.h>
 
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "Fc/Core/Kernel/FcObjectDefinition.h"
@@ -50,7 +55,7 @@ TEST(StepReader, TellsABadStatementInOneLineAndLosesNothingElse) {
       {"#2=IFCPERSON('a',$,$,$,$,$,$,$)",
        "has no semicolon before the next instance; read up to there."},
       {"#2=IFCHOUSE('a');\n#3=IFCHOUSE('b');",
-       "is of no class that the model has instances of; left out. So 2 times in all."},
+       "is of no class that the model has instances of; left out. And 1 like it."},
       {"#2=IFCPRODUCT('a');", "is of no class that the model has instances of; left out."},
       {"#2=IFCPERSON('a',$);",
        "has 2 attributes, where IfcPerson has 8; those that are missing have no value."},
@@ -88,7 +93,20 @@ TEST(StepReader, TellsABadStatementInOneLineAndLosesNothingElse) {
        "attribute 3 (NominalValue) is of type IFCSIZE, which IfcValue doesn't take; left out."},
       {"#2=IFCACTORROLE($,$,$);", "attribute 1 (Role) has no value, though it must have one."},
       {"#2=IFCPROPERTYSET('x',$,$,$,());",
-       "attribute 1 (GlobalId) is 'x', which no IfcGloballyUniqueId can be; left out."},
+       "attribute 1 (GlobalId) is 'x', which is no guid; 0iU2h2A968ZhkZeaIYwcZu stands for it."},
+      {"#2=IFCPROPERTYSET('{01234567-89AB-CDEF-0123-456789ABCDEF}',$,$,$,());",
+       "attribute 1 (GlobalId) is '{01234567-89AB-CDEF-0123-456789ABCDEF}', which is no guid; "
+       "018qLdYQlDxm4ZHMU9gytl stands for it."},
+      {"#2=IFCPROPERTYSET($,$,$,$,());",
+       "attribute 1 (GlobalId) has no value; 1GXlHua2I2vBZ$V64yNHKp stands for it."},
+      {"#2=IFCPROPERTYSET('2Sa3dTJGn0H8TQIGiuGQd5',$,$,$,());\n"
+       "#3=IFCPROPERTYSET('2Sa3dTJGn0H8TQIGiuGQd5',$,$,$,());",
+       "#3 IFCPROPERTYSET, line 6: has the GlobalId of #2, 2Sa3dTJGn0H8TQIGiuGQd5; both are kept."},
+      {"#99999999999999999999=IFCPERSON('b',$,$,$,$,$,$,$);",
+       "line 5: #99999999999999999999 is a number beyond 9223372036854775808; the instance is "
+       "passed over."},
+      {std::string("#2=IFCPERSON('a\0b',$,$,$,$,$,$,$);", 34),
+       "attribute 1 (Identification) has bytes that are zero, 'a?b'; taken as they stand."},
       {"#2=(IFCPERSON('a')IFCWALL('b'));",
        "#2, line 5: \"(IFCPERSON('a')IFCWALL('b'));\" is no instance of a class; passed over."},
       {"2=IFCPERSON('a');",
@@ -135,11 +153,86 @@ TEST(StepReader, SaysWhyItCannotReadAFile) {
   EXPECT_EQ(failureOf(" \r\n/* nothing */"), "it is empty");
   EXPECT_EQ(failureOf("<?xml version='1.0'?>"),
             "it is no STEP file: it begins with \"<?xml version='1.0'?\", not with ISO-10303-21;");
-  EXPECT_EQ(failureOf("PK\x03\x04 and more"), "it is a ZIP archive, no STEP file; unpack it first");
+  EXPECT_EQ(failureOf("PK\x03\x04 and more"), "it is a ZIP archive that is broken");
+  EXPECT_EQ(failureOf("\x1F\x8B\x08"), "it is packed by gzip, no STEP file; unpack it first");
   EXPECT_EQ(failureOf("ISO-10303-21;HEADER;FILE_SCHEMA(('AP203'));ENDSEC;DATA;ENDSEC;"),
             "its schema AP203 is none of IFC");
   EXPECT_EQ(failureOf("ISO-10303-21;HEADER;ENDSEC;END-ISO-10303-21;"), "it has no section DATA");
   EXPECT_EQ(readStepFile("no such file.ifc").failure, "No such file or directory");
+}
+
+/// A zip archive with these files, as a program that packs models makes it.
+std::string zipped(const std::vector<std::pair<std::string, std::string>>& files) {
+  const auto path = std::filesystem::temp_directory_path() / "StepReaderTest.ifczip";
+  std::filesystem::remove(path);
+  zip_t* archive = zip_open(path.c_str(), ZIP_CREATE | ZIP_TRUNCATE, nullptr);
+  for (const auto& [name, text] : files)
+    zip_file_add(archive, name.c_str(), zip_source_buffer(archive, text.data(), text.size(), 0), 0);
+  zip_close(archive);
+  std::ifstream in(path, std::ios::binary);
+  std::string bytes{std::istreambuf_iterator<char>(in), {}};
+  std::filesystem::remove(path);
+  return bytes;
+}
+
+TEST(StepReader, UnpacksTheOneModelOfAZipArchiveUpToALimit) {
+  const std::string model = stepFile("#1=IFCPERSON('a',$,$,$,$,$,$,$);" + std::string(5000, ' '));
+  const std::string archive = zipped({{"house/House.IFC", model}, {"a.txt", "b"}});
+  EXPECT_EQ(readStep(archive).instances.size(), 1U);
+  EXPECT_EQ(readStep(zipped({{"house", model}})).instances.size(), 1U);
+  EXPECT_EQ(readStep(archive, {.largestUnpacked = 5000}).failure,
+            "it is a ZIP archive whose model has more than 5000 bytes");
+  EXPECT_EQ(failureOf(zipped({{"a.ifc", model}, {"b.ifc", model}})),
+            "it is a ZIP archive with 2 files, of which one must be the model");
+  for (std::size_t i = 30; i < archive.size(); i += 7) {
+    std::string broken = archive;
+    broken[i] = static_cast<char>(broken[i] ^ 0x55);
+    const ReadResult result = readStep(broken);
+    EXPECT_TRUE(!result.failure.empty() || result.data) << i;
+  }
+  const std::string twice = zipped({{"inner.ifc", archive}});
+  EXPECT_THAT(failureOf(twice), testing::HasSubstr("it is no STEP file: it begins with"));
+}
+
+TEST(StepReader, ReadsUtf16AndSaysSo) {
+  const std::string text = stepFile("#1=IFCPERSON('\xC3\xA9',$,$,$,$,$,$,$);");
+  for (const bool isBig : {false, true}) {
+    std::string wide = isBig ? "\xFE\xFF" : "\xFF\xFE";
+    for (std::size_t i = 0; i < text.size(); ++i) {
+      const char character = text[i] == '\xC3' ? '\xE9' : text[i];
+      if (text[i] == '\xA9') continue;
+      wide += isBig ? std::string{'\0', character} : std::string{character, '\0'};
+    }
+    const ReadResult result = readStep(wide);
+    EXPECT_THAT(test::messages(result),
+                ElementsAre("line 1: the file is UTF-16, where a STEP file has a byte a character; "
+                            "read all the same."));
+    EXPECT_EQ(fc::fcCast<FcPerson>(result.instances.at(0).entity)->Identification(), "\xC3\xA9");
+  }
+}
+
+TEST(StepReader, TellsProblemsInTheOrderOfLinesAndWhatStandsBehindTheEnd) {
+  const ReadResult result =
+      readStep(stepFile("#1=IFCPERSON($,$,$,$,$,$,(#9),$);\n#2=IFCHOUSE();") + "more of it\n");
+  EXPECT_THAT(test::messages(result),
+              ElementsAre("#1 IFCPERSON, line 4: attribute 7 (Roles) refers to #9, which the file "
+                          "doesn't have; left out.",
+                          "#2 IFCHOUSE, line 5: is of no class that the model has instances of; "
+                          "left out.",
+                          "line 8: \"more of it\" stands behind END-ISO-10303-21; and was passed "
+                          "over."));
+}
+
+TEST(StepReader, GivesRootsWithoutAGuidOneThatStaysTheSame) {
+  const ReadResult result = readStatements(
+      "#1=IFCPROPERTYSET('wall 1',$,$,$,());\n#2=IFCPROPERTYSET('wall 2',$,$,$,());");
+  const ReadResult other = readStatements("#7=IFCPROPERTYSET('wall 2',$,$,$,());");
+  ASSERT_EQ(result.replacedGuids.size(), 2U);
+  EXPECT_EQ(result.replacedGuids[1].text, "wall 2");
+  EXPECT_EQ(result.replacedGuids[1].guid, other.replacedGuids.at(0).guid);
+  EXPECT_NE(result.replacedGuids[0].guid, result.replacedGuids[1].guid);
+  EXPECT_EQ(result.data->entityByGuid(result.replacedGuids[1].guid).get(),
+            result.instances[1].entity.get());
 }
 
 TEST(StepReader, PassesOverAStrayStart) {

@@ -319,7 +319,7 @@ TEST(Units, WhatMakesNoSenseIsToldInALineAndLeavesNumbersAlone) {
            "#50=IFCSIUNIT(*,.MASSUNIT.,$,.GRAM.);#51=IFCPROPERTYSINGLEVALUE('x',$,"
            "IFCLENGTHMEASURE(2.),#50);#52=IFCPROPERTYSINGLEVALUE('y',$,IFCLENGTHMEASURE(2.),#50);",
        "#51 IFCPROPERTYSINGLEVALUE, line 5: Unit is none of an IfcLengthMeasure; the value is left "
-       "as it is. So 2 times in all.",
+       "as it is. And 1 like it.",
        1.5},
       // Beyond what a double holds.
       {millimetre + "#50=IFCPROPERTYSINGLEVALUE('x',$,IFCLENGTHMEASURE(1E308),$);#11=IFCSIUNIT(*,"

@@ -11,13 +11,15 @@
 
 namespace qor::test {
 
-ToolRun runTool(const std::vector<std::string>& arguments, bool showProgress) {
+ToolRun runTool(const std::vector<std::string>& arguments, bool showProgress,
+                const std::string& input) {
   std::vector<const char*> argv{"fctool"};
   for (const std::string& argument : arguments) argv.push_back(argument.c_str());
   std::ostringstream out;
   std::ostringstream err;
   host::cli::Watch watch(err);
-  host::cli::Console console{out, err, watch, showProgress};
+  std::istringstream in(input);
+  host::cli::Console console{out, err, watch, showProgress, in};
   const auto code = host::cli::runFctool(static_cast<int>(argv.size()), argv.data(), console);
   return {code, out.str(), err.str()};
 }

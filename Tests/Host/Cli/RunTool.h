@@ -19,8 +19,9 @@ struct ToolRun {
   nlohmann::json json() const;
 };
 
-/// Runs `fctool` in this process: `runTool({"info", file})`.
-ToolRun runTool(const std::vector<std::string>& arguments, bool showProgress = false);
+/// Runs `fctool` in this process, `runTool({"info", file})`, with `input` as standard input.
+ToolRun runTool(const std::vector<std::string>& arguments, bool showProgress = false,
+                const std::string& input = {});
 
 /// The sample model of the repository.
 std::string sampleFile();
