@@ -2,6 +2,7 @@
 
 #include <fmt/core.h>
 
+#include <algorithm>
 #include <string>
 
 #include "Fc/Core/Kernel/FcRoot.h"
@@ -40,12 +41,18 @@ void AttributeReader::read(std::size_t position, const FileClass& fileClass) {
                  parameters.isMended);
   readAttributes(entity, fileClass);
   if (fileClass.isRoot) mendGuid(entity, instance.number);
-  if (fileClass.older) complete(entity, *fileClass.older);
+  if (fileClass.older) complete(entity, fileClass);
   if (fileClass.info->linksTargets) entity.updateInverseAttributes();
 }
 
-void AttributeReader::complete(fc::FcBase& entity, const OlderClass& older) {
-  if (older.complete) older.complete(entity, m_kept);
+void AttributeReader::complete(fc::FcBase& entity, const FileClass& fileClass) {
+  const OlderClass& older = *fileClass.older;
+  if (older.complete) {
+    // Those at the end may be missing in the file.
+    m_kept.resize(static_cast<std::size_t>(
+        std::ranges::count(fileClass.attributes, Conversion::keep, &FileAttribute::conversion)));
+    older.complete(entity, m_kept);
+  }
   m_kept.clear();
   if (!older.note.empty())
     m_source.report(ProblemKind::takenAs, [&older] { return std::string(older.note); });

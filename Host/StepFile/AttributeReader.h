@@ -40,7 +40,7 @@ class AttributeReader {
   void mendGuid(fc::FcBase& entity, std::uint64_t number);
   void keep(Kind kind);
   void leaveOut(const FileAttribute& attribute);
-  void complete(fc::FcBase& entity, const OlderClass& older);
+  void complete(fc::FcBase& entity, const FileClass& fileClass);
   void reportCount(const fc::FcBase& entity, std::size_t found, std::size_t expected);
 
   InstanceCollector& m_collected;

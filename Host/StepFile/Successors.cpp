@@ -3,6 +3,8 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "Fc/Resource/Geometry/FcBSplineCurveWithKnots.h"
@@ -22,13 +24,15 @@ std::optional<double> numberAt(const char* at) {
   return value;
 }
 
-/// The parameters from `first` on as numbers; empty where one is none or isn't there.
+/// The parameters from `first` on as numbers; empty where one is none or isn't there. Reads a copy
+/// that ends with a semicolon, since a file that was cut off may end within a number.
 template <std::size_t count>
 std::array<std::optional<double>, count> numbersFrom(std::string_view parameters,
                                                      std::size_t first) {
   std::array<std::optional<double>, count> numbers;
-  Scanner scanner(parameters);
-  const char* at = parameters.data();
+  const std::string text = std::string(parameters) + ';';
+  Scanner scanner(text);
+  const char* at = text.data();
   for (std::size_t position = 0; position < first + count && at != scanner.end(); ++position) {
     at = scanner.skipSpace(at + 1);  // behind the parenthesis or the comma
     if (at == scanner.end()) break;

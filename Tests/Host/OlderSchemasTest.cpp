@@ -323,6 +323,8 @@ TEST(OlderSchemas, BecomeTheModelWithEveryLossTold) {
        "have one.\n"},
       {"IFC4X3_ADD1", "#2=IFCMAPCONVERSION(*,*,1.,2.,3.,$,$,2.,3.,$);",
        "IFCMAPCONVERSIONSCALED($,$,1.,2.,3.,$,$,2.,1.,1.5,1.)", ""},
+      {"IFC4X3_RC4", "#2=IFCMAPCONVERSION(*,*,1.,2.,3.,$,$,2.,3.);",
+       "IFCMAPCONVERSIONSCALED($,$,1.,2.,3.,$,$,2.,1.,1.5,1.)", ""},
       {"IFC4X3",
        "#2=IFCFACILITYPART('2Sa3dTJGn0H8TQIGiuGQd5',$,$,$,$,$,$,$,IFCELEMENTCOMPOSITIONENUM(."
        "ELEMENT.),IFCRAILWAYPARTTYPEENUM(.TRACKSTRUCTUREPART.),.LATERAL.);",
