@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "Fc/ComplexGeometry/Bridge/BodyMeasures.h"
 #include "Fc/ComplexGeometry/Bridge/BooleanOperations.h"
 #include "Fc/ComplexGeometry/Bridge/FaceSetsFromShapes.h"
 #include "Fc/ComplexGeometry/Bridge/OpenCascadeModeller.h"
@@ -73,6 +74,11 @@ std::optional<double> distanceOf(const TopoDS_Shape& first, const TopoDS_Shape& 
 SolidModeller::FaceSets OpenCascadeModeller::faceSets(
     const resource::geometry::FcRepresentationItem& item, const FcParams& params) const {
   return faceSetsFromShapes(shapesOfItem(item, params), params.curveDiscretization());
+}
+
+math::Extent OpenCascadeModeller::boxOf(const resource::geometry::FcRepresentationItem& item,
+                                        const FcParams& params) const {
+  return boxAround(shapesOfItem(item, params));
 }
 
 std::optional<SolidModeller::FaceSets> OpenCascadeModeller::cut(

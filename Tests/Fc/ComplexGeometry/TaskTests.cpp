@@ -89,6 +89,15 @@ TEST(ImplicitClipping, LeavesOutExpensiveToolsThatAreFarAwayOrUnwanted) {
   EXPECT_NE(task.clipItems()[0].first, far) << "a task works on copies";
 }
 
+TEST(ImplicitClipping, CutsAWallWhoseProfileIsTurnedByAFaceSetAtItsEnd) {
+  const test::ExpectAsserts none;
+  const FcImplicitClippingTask task(
+      params(), test::turnedWall(), {},
+      {{boxItem({-1, 1.2, 1}, {1, 1.7, 2}), {}}, {boxItem({3, 0, 1}, {4, 1, 2}), {}}});
+  EXPECT_EQ(task.clipItems().size(), 1u);
+  EXPECT_TRUE(isClosedSolidOfVolume(faceSets(task.process()), 3.6 - 0.5 * 0.3, 1e-9));
+}
+
 // The thread sanitizer watches this one: workers touch nothing of the model that changes.
 TEST(ImplicitClipping, WorksOnCopiesWhileTheModelChanges) {
   const test::ExpectAsserts none;
