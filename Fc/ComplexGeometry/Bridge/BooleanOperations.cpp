@@ -49,6 +49,18 @@ bool isWithinReach(const TopoDS_Shape& shape) {
   }
 }
 
+bool isEmpty(const TopoDS_Shape& shape) { return !TopExp_Explorer(shape, TopAbs_FACE).More(); }
+
+// But for more than any fuzzy value moves a corner.
+bool isWithin(const math::Extent& inner, const math::Extent& outer) {
+  constexpr double margin = 1e-3;  // metres
+  const math::Vector3d around(margin, margin, margin);
+  const math::Point3d low = outer.minimum() - around, high = outer.maximum() + around;
+  const math::Point3d a = inner.minimum(), b = inner.maximum();
+  return a.x >= low.x && a.y >= low.y && a.z >= low.z && b.x <= high.x && b.y <= high.y &&
+         b.z <= high.z;
+}
+
 /// Cuts one body, and takes nothing for what is left of it that can't be.
 class CheckedCut {
  public:
@@ -61,13 +73,15 @@ class CheckedCut {
   // Null when no fuzzy value gives a result that can be right.
   TopoDS_Shape by(const Shapes& tools) const {
     const auto toolMeasures = measuresOf(tools);
+    const math::Extent toolBox = boxAround(tools);
     double previous = -1;
     for (const double atLeast : {0.0, 1e-5, 1e-4}) {
       const double fuzzyValue = std::max(m_fuzzyValue, atLeast);
       if (fuzzyValue == previous) continue;
       previous = fuzzyValue;
       TopoDS_Shape result = cut(tools, fuzzyValue);
-      if (!result.IsNull() && isSound(result, toolMeasures)) return result;
+      if (result.IsNull() || !isSound(result, toolMeasures)) continue;
+      if (!isEmpty(result) || isWithin(m_box, toolBox)) return result;
     }
     return {};
   }
@@ -102,17 +116,12 @@ class CheckedCut {
   }
 
   bool isWithinTheBody(const TopoDS_Shape& result) const {
-    if (!m_box.isValid()) return true;
-    const double margin = 1e-3;  // metres: more than any fuzzy value moves a corner
-    const math::Vector3d around(margin, margin, margin);
-    const math::Point3d low = m_box.minimum() - around, high = m_box.maximum() + around;
+    math::Extent corners;
     for (TopExp_Explorer vertices(result, TopAbs_VERTEX); vertices.More(); vertices.Next()) {
       const gp_Pnt at = BRep_Tool::Pnt(TopoDS::Vertex(vertices.Current()));
-      if (at.X() < low.x || at.Y() < low.y || at.Z() < low.z || at.X() > high.x ||
-          at.Y() > high.y || at.Z() > high.z)
-        return false;
+      corners.include({at.X(), at.Y(), at.Z()});
     }
-    return true;
+    return !m_box.isValid() || !corners.isValid() || isWithin(corners, m_box);
   }
 
   const Shapes& m_arguments;

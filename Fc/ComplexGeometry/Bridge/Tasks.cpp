@@ -84,6 +84,7 @@ math::Extent OpenCascadeModeller::boxOf(const resource::geometry::FcRepresentati
 std::optional<SolidModeller::FaceSets> OpenCascadeModeller::cut(
     const PlacedItem& item, const std::vector<PlacedItem>& tools, const FcParams& params) const {
   std::vector<TopoDS_Shape> shapes = shapesOfItem(*item.first, params);
+  std::erase_if(shapes, [](const TopoDS_Shape& shape) { return shape.IsNull(); });
   if (shapes.empty()) return {};
   const math::Matrix inverse = item.second.inverse();
   std::vector<TopoDS_Shape> toolShapes;

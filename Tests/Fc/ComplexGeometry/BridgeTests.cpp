@@ -137,6 +137,24 @@ TEST(FaceSets, LoseAFaceThatIsOffItsPlane) {
   EXPECT_EQ(test::countOf(item->ocRepresentation(params())[0], TopAbs_FACE), 3);
 }
 
+// Corners of a box that is turned and rounded to millimetres lie off the planes of its sides.
+TEST(FaceSets, CloseThoughTheirCoordinatesAreRounded) {
+  const ExpectAsserts none;
+  const auto item = test::boxItem({0, 0, 0}, {1, 2, 3});
+  generate::draw::PolygonalFaceSetOpenGL rounded = *item->createQorPolygonalFaceSet();
+  const math::Matrix turn = math::Matrix::createZRotate(0.3) * math::Matrix::createXRotate(0.7);
+  for (math::Point3d& point : rounded.coordinates) {
+    const math::Point3d turned = point * turn;
+    point = {std::round(turned.x * 1000) / 1000, std::round(turned.y * 1000) / 1000,
+             std::round(turned.z * 1000) / 1000};
+  }
+  const auto shapes = resource::geometricmodel::FcPolygonalFaceSet::fromQorPolygonalFaceSet(rounded)
+                          .first->ocRepresentation(params());
+  ASSERT_EQ(shapes.size(), 1u);
+  EXPECT_EQ(shapes[0].ShapeType(), TopAbs_SOLID);
+  EXPECT_NEAR(volumeOf(shapes), 6, 0.02);
+}
+
 TEST(Shells, BecomeOutwardSolidsHoweverTheirFacesLookAndShareTheirPoints) {
   const ExpectAsserts none;
   for (const bool shared : {true, false})
