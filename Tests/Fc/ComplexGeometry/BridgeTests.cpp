@@ -11,6 +11,7 @@
 #include "Fc/Resource/GeometricModel/FcAdvancedBrep.h"
 #include "Fc/Resource/Geometry/FcCircle.h"
 #include "Fc/Resource/Geometry/FcCylindricalSurface.h"
+#include "Fc/Resource/Geometry/FcEllipse.h"
 #include "Fc/Resource/Geometry/FcLine.h"
 #include "Fc/Resource/Geometry/FcSphericalSurface.h"
 #include "Fc/Resource/Geometry/FcToroidalSurface.h"
@@ -251,6 +252,22 @@ TEST(Surfaces, AreRoundWithTheirOwnRadii) {
   ASSERT_TRUE(sphere && torus);
   EXPECT_NEAR((*sphere)->Value(0, 0).Distance(gp_Pnt(3, 2, 3)), 0, 1e-12);
   EXPECT_NEAR((*torus)->Value(0, std::numbers::pi).Distance(gp_Pnt(3, 2, 3)), 0, 1e-12);
+}
+
+TEST(Curves, AreEllipsesWhicheverAxisIsLonger) {
+  const ExpectAsserts none;
+  using namespace resource::geometry;
+  ocMemoizer memoizer;
+  for (const auto& [first, second] : {std::pair(2.0, 1.0), {1.0, 2.0}, {1.5, 1.5}}) {
+    const auto ellipse = test::make<FcEllipse>(
+        {{"Position", makePlacement(math::Matrix())}, {"SemiAxis1", first}, {"SemiAxis2", second}});
+    const auto curve = ellipse->ocCurve(memoizer);
+    ASSERT_TRUE(curve);
+    for (double t = 0; t < 6; t += 0.5) {
+      const gp_Pnt at = (*curve)->Value(t);
+      EXPECT_NEAR(std::hypot(at.X() / first, at.Y() / second), 1, 1e-12);
+    }
+  }
 }
 
 TEST(Memoizer, SharesTheEdgesOfLoopsThatRunAlongThem) {

@@ -15,6 +15,7 @@
 #include "Fc/Resource/GeometricModel/FcSweptDiskSolid.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
 #include "Fc/Resource/Geometry/FcPolyline.h"
+#include "Fc/Resource/Profile/FcArbitraryClosedProfileDef.h"
 #include "Tests/Fc/ComplexGeometry/Items.h"
 #include "Tests/Support/ExpectAsserts.h"
 #include "Tests/Support/RecordingTarget.h"
@@ -121,6 +122,21 @@ TEST(ImplicitClipping, CutsATaperedBodyAsItIsDrawn) {
   for (const auto& [low, high, left] : cases) {
     const FcImplicitClippingTask task(params(), tower, {}, {{boxItem(low, high), {}}});
     EXPECT_TRUE(isClosedSolidOfVolume(faceSets(task.process()), left, 1e-6));
+  }
+}
+
+TEST(ImplicitClipping, LeavesABodyWhoseProfileCrossesItselfThere) {
+  const auto outline = test::make<resource::geometry::FcPolyline>();
+  outline->setPoints(std::vector<math::Point2d>{{0, 0}, {2, 1}, {2, 0}, {0, 1}}, true);
+  const auto bowTie = test::extrusion(
+      test::make<resource::profile::FcArbitraryClosedProfileDef>({{"OuterCurve", outline}}), 3);
+  const test::ExpectAsserts none;
+  for (const double x : {0.2, 0.8, 1.4}) {
+    const FcImplicitClippingTask task(params(), bowTie, {},
+                                      {{boxItem({x, -1, 1}, {x + 0.4, 2, 2}), {}}});
+    const auto sets = faceSets(task.process());
+    ASSERT_EQ(sets.size(), 1u) << x;
+    EXPECT_GE(sets[0].faces.size(), 6u) << x;
   }
 }
 
