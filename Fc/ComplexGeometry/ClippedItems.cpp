@@ -6,6 +6,8 @@
 #include "Fc/ComplexGeometry/FcImplicitClippingTask.h"
 #include "Fc/ComplexGeometry/FcPolygonalFaceSetResult.h"
 #include "Fc/Drawing/FcDrawParams.h"
+#include "Fc/Model/Report.h"
+#include "Fc/Resource/Geometry/FcRepresentationItem.h"
 
 namespace qor::fc {
 namespace {
@@ -27,14 +29,30 @@ class DrawingClipped {
   bool& m_flag;
 };
 
+std::unique_ptr<FcPolygonalFaceSetResult> cutBy(
+    const FcComplexGeometryProcessorInterface& processor,
+    const std::shared_ptr<const resource::geometry::FcRepresentationItem>& item,
+    const math::Matrix& itemMatrix, const FcParams& params, const FcClip& clip) {
+  return processor.processAndCast<FcPolygonalFaceSetResult>(
+      FcImplicitClippingTask(params, item, itemMatrix, clip.clipObjects()));
+}
+
 }  // namespace
 
 void FcClip::drawItemClipped(
     const std::shared_ptr<const resource::geometry::FcRepresentationItem>& item,
     const FcDrawParams& params) {
-  auto faceSets = getClippedItems(item, params->transformationGet(), FcParams(params), *this);
-  if (isNothing(faceSets)) ++m_cutAwayCount;
+  const auto* processor = getCurrentComplexGeometryProcessor();
+  if (!processor) return;
+  const auto result = cutBy(*processor, item, params->transformationGet(), FcParams(params), *this);
   const DrawingClipped drawing(m_drawingClipped);
+  if (!result) {
+    report(*item, "The item has no solid that openings could be cut out of; it is drawn whole.");
+    return params->drawConstRepresentationItem(item, params,
+                                               generate::draw::SurfaceDrawType::Surface);
+  }
+  auto faceSets = result->takeFaceSets();
+  if (isNothing(faceSets)) ++m_cutAwayCount;
   for (auto& faceSet : faceSets) params->polygonalFaceSet(std::move(faceSet));
 }
 
@@ -43,8 +61,7 @@ std::vector<generate::draw::PolygonalFaceSetOpenGL> FcClip::getClippedItems(
     const math::Matrix& itemMatrix, const FcParams& params, const FcClip& clip) {
   const auto* processor = getCurrentComplexGeometryProcessor();
   if (!processor) return {};
-  const auto result = processor->processAndCast<FcPolygonalFaceSetResult>(
-      FcImplicitClippingTask(params, item, itemMatrix, clip.clipObjects()));
+  const auto result = cutBy(*processor, item, itemMatrix, params, clip);
   if (!result) return {};
   return result->takeFaceSets();
 }

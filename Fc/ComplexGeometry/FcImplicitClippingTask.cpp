@@ -13,7 +13,9 @@ namespace {
 
 using resource::geometry::FcRepresentationItem;
 
-/// Whether a tool's box lies outside that of the item, which is asked for when the first one is.
+/// Whether a tool's box lies outside that of the item. What the item tells of its box is asked
+/// first; only where a tool seems to lie outside of it, the shapes of the item are, which are
+/// dearer: the told box may be too small, for a turned profile.
 class Reach {
  public:
   Reach(const FcRepresentationItem& item, const math::Matrix& itemMatrix, const FcParams& params)
@@ -22,21 +24,32 @@ class Reach {
   bool isOutside(const FcRepresentationItem& tool, const math::Matrix& toolMatrix) {
     if (!m_isKnown) {
       m_isKnown = true;
-      m_box = m_item.boundingBox(m_params);
+      m_told = m_item.boundingBox(m_params);
       m_inverse = m_itemMatrix.inverse();
     }
-    if (!m_box) return false;
+    if (!m_told) return false;
     const auto box = tool.boundingBox(m_params);
-    return box &&
-           math::_3d::Bounding(*m_box).isOutside(box->transformExtent(toolMatrix * m_inverse));
+    if (!box) return false;
+    const math::Extent placed = box->transformExtent(toolMatrix * m_inverse);
+    return math::_3d::Bounding(*m_told).isOutside(placed) &&
+           math::_3d::Bounding(whole()).isOutside(placed);
   }
 
  private:
+  const math::Extent& whole() {
+    if (!m_whole) {
+      m_whole = m_told;
+      if (const auto* modeller = SolidModeller::get())
+        m_whole = m_told->uniteWith(modeller->boxOf(m_item, m_params));
+    }
+    return *m_whole;
+  }
+
   const FcRepresentationItem& m_item;
   const math::Matrix& m_itemMatrix;
   const FcParams& m_params;
   bool m_isKnown = false;
-  std::optional<math::Extent> m_box;
+  std::optional<math::Extent> m_told, m_whole;
   math::Matrix m_inverse;
 };
 

@@ -7,6 +7,7 @@
 
 #include "Fc/Model/OpenCascadeTypes.h"
 #include "Qor/Draw/PolygonalFaceSetOpenGL.h"
+#include "Qor/Math/Extent.h"
 #include "Qor/Math/Matrix.h"
 #include "Qor/Math/Polygon.h"
 #include "Qor/Platform/Export.h"
@@ -70,6 +71,9 @@ class QOR_API SolidModeller {
   // What the tasks of the complex geometry processor do, without shapes in the interface.
   virtual FaceSets faceSets(const resource::geometry::FcRepresentationItem& item,
                             const FcParams& params) const = 0;
+  /// Round the shapes of the item; not valid where it has none.
+  virtual math::Extent boxOf(const resource::geometry::FcRepresentationItem& item,
+                             const FcParams& params) const = 0;
   /// What the tools leave of the item, in its frame; empty where the item has no shape.
   virtual std::optional<FaceSets> cut(const PlacedItem& item, const std::vector<PlacedItem>& tools,
                                       const FcParams& params) const = 0;

@@ -43,7 +43,8 @@ class QOR_API FcClip {
   std::uint64_t cutAwayCount() const { return m_cutAwayCount; }
 
   /// Draws what the clip objects leave of the item, in the target's present frame. Without a
-  /// processor of complex geometry that is nothing.
+  /// processor of complex geometry that is nothing. An item that has no solid to cut is drawn
+  /// whole, with an assert.
   void drawItemClipped(const std::shared_ptr<const resource::geometry::FcRepresentationItem>& item,
                        const FcDrawParams& params);
   /// What the clip objects of `clip` leave of the item, whose frame is `itemMatrix`, as face sets

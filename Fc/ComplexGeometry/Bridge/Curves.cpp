@@ -4,10 +4,12 @@
 #include <GeomLib_Tool.hxx>
 #include <Geom_BSplineCurve.hxx>
 #include <Geom_Circle.hxx>
+#include <Geom_Ellipse.hxx>
 #include <Geom_Line.hxx>
 #include <Geom_TrimmedCurve.hxx>
 #include <TopoDS_Shape.hxx>
 #include <TopoDS_Wire.hxx>
+#include <algorithm>
 #include <cmath>
 #include <optional>
 #include <stdexcept>
@@ -23,6 +25,7 @@
 #include "Fc/Model/Report.h"
 #include "Fc/Resource/Geometry/FcCircle.h"
 #include "Fc/Resource/Geometry/FcDirection.h"
+#include "Fc/Resource/Geometry/FcEllipse.h"
 #include "Fc/Resource/Geometry/FcLine.h"
 #include "Fc/Resource/Geometry/FcPolyline.h"
 #include "Fc/Resource/Geometry/FcRationalBSplineCurveWithKnots.h"
@@ -100,6 +103,22 @@ OcCurve curveOf(const FcCircle& circle) {
   });
 }
 
+// The modeller wants the longer axis first: an ellipse that has it second is turned by a quarter,
+// and so are its parameters. The edges of faces are bounded by points.
+OcCurve curveOf(const FcEllipse& ellipse) {
+  const math::Matrix placement = ellipse.Position().transformationGet();
+  if (placement.isMirror()) {
+    report(ellipse, "The placement of an ellipse must not mirror");
+    return {};
+  }
+  return guarded<OcCurve>("Could not create OpenCascade ellipse.", [&] {
+    const double first = ellipse.SemiAxis1(), second = ellipse.SemiAxis2();
+    gp_Ax2 frame = toOpenCascadeFrame(placement).Ax2();
+    if (first < second) frame.SetXDirection(frame.YDirection());
+    return curveHandle(new Geom_Ellipse(frame, std::max(first, second), std::min(first, second)));
+  });
+}
+
 OcCurve curveOf(const FcPolyline& polyline) {
   if (polyline.Points().size() < 2) {
     report("FcPolyline should have more than one point");
@@ -173,6 +192,7 @@ class CurveForm : public FormOfClass<OcCurve> {
   using FormOfClass::visit;
   bool visit(const FcLine& curve) override { return give(curveOf(curve)); }
   bool visit(const FcCircle& curve) override { return give(curveOf(curve)); }
+  bool visit(const FcEllipse& curve) override { return give(curveOf(curve)); }
   bool visit(const FcPolyline& curve) override { return give(curveOf(curve)); }
   bool visit(const FcBSplineCurveWithKnots& curve) override { return give(curveOf(curve)); }
   bool visit(const FcRationalBSplineCurveWithKnots& curve) override { return give(curveOf(curve)); }

@@ -26,11 +26,9 @@ class DifferenceTools {
   Tool of(const resource::geometricmodel::FcBooleanOperand& operand) const;
 
  private:
-  math::Extent reach() const;
-
   const FcParams& m_params;
-  std::optional<math::Extent> m_box;       // as the body tells
-  std::optional<math::Extent> m_shapeBox;  // of its shapes, where it can't tell
+  std::optional<math::Extent> m_told;  // as the body tells: it may know nothing of a turned profile
+  math::Extent m_reach;                // that and the box of its shapes
 };
 
 }  // namespace qor::fc

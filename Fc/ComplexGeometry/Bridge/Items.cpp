@@ -14,6 +14,7 @@
 #include "Fc/Resource/GeometricModel/FcBoundingBox.h"
 #include "Fc/Resource/GeometricModel/FcCsgSolid.h"
 #include "Fc/Resource/GeometricModel/FcExtrudedAreaSolid.h"
+#include "Fc/Resource/GeometricModel/FcExtrudedAreaSolidTapered.h"
 #include "Fc/Resource/GeometricModel/FcFaceBasedSurfaceModel.h"
 #include "Fc/Resource/GeometricModel/FcManifoldSolidBrep.h"
 #include "Fc/Resource/GeometricModel/FcPolygonalBoundedHalfSpace.h"
@@ -62,6 +63,9 @@ class ItemForm : public FormOfClass<Shapes> {
   bool visit(const FcCsgSolid& item) override { return give(shapesOf(item, m_params)); }
   bool visit(const FcCurve& item) override { return give(shapesOf(item, m_params)); }
   bool visit(const FcExtrudedAreaSolid& item) override { return give(shapesOf(item, m_params)); }
+  bool visit(const FcExtrudedAreaSolidTapered& item) override {
+    return give(shapesOf(item, m_params));
+  }
   bool visit(const FcFaceBasedSurfaceModel& item) override {
     return give(shapesOf(item, m_params));
   }

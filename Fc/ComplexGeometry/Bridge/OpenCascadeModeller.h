@@ -25,6 +25,8 @@ class OpenCascadeModeller : public SolidModeller {
                                         ocMemoizer& memoizer) const override;
   FaceSets faceSets(const resource::geometry::FcRepresentationItem& item,
                     const FcParams& params) const override;
+  math::Extent boxOf(const resource::geometry::FcRepresentationItem& item,
+                     const FcParams& params) const override;
   std::optional<FaceSets> cut(const PlacedItem& item, const std::vector<PlacedItem>& tools,
                               const FcParams& params) const override;
   std::vector<math::_3d::Polygon> surfaces(const PlacedItem& item,

@@ -30,9 +30,59 @@ void PolyhedronMaker::addPolygon(const std::vector<Ring>& rings) {
   auto polygon = polygonOf(rings);
   m_isSound = polygon.has_value();
   if (!m_isSound) return;
-  m_offPlane = std::max(m_offPlane, distanceOffPlane(*polygon));
-  countEdges(*polygon);
-  m_polygons.push_back(std::move(*polygon));
+  const double bent = distanceOffPlane(*polygon);
+  if (bent <= math::Epsilon::current().length || bent > m_mostBent || polygon->rings.size() > 1)
+    return addFlat(std::move(*polygon));
+  for (Indices& triangle : trianglesOf(*polygon)) {
+    const math::Vector3d area = areaVector(triangle);
+    const double length = area.length();
+    m_isSound = m_isSound && length > 0;
+    if (m_isSound) addFlat({.rings = {std::move(triangle)}, .normal = area * (1 / length)});
+  }
+}
+
+void PolyhedronMaker::addFlat(Polygon&& polygon) {
+  m_offPlane = std::max(m_offPlane, distanceOffPlane(polygon));
+  countEdges(polygon);
+  m_polygons.push_back(std::move(polygon));
+}
+
+// The corner is convex, seen along the normal, and the triangle over it holds no other corner.
+bool PolyhedronMaker::isEar(const Indices& ring, std::size_t at,
+                            const math::Vector3d& normal) const {
+  const std::size_t n = ring.size();
+  const math::Point3d corners[] = {m_points[ring[(at + n - 1) % n]], m_points[ring[at]],
+                                   m_points[ring[(at + 1) % n]]};
+  const auto isLeft = [&](const math::Point3d& point, int side) {
+    const math::Point3d& from = corners[side];
+    return (corners[(side + 1) % 3] - from).cross(point - from).dot(normal) > 0;
+  };
+  if (!isLeft(corners[2], 0)) return false;
+  for (std::size_t i = 2; i + 1 < n; ++i) {
+    const math::Point3d& other = m_points[ring[(at + i) % n]];
+    if (isLeft(other, 0) && isLeft(other, 1) && isLeft(other, 2)) return false;
+  }
+  return true;
+}
+
+// Cuts off one ear after the other; a ring that has none is crossed by itself, and gives no more.
+std::vector<PolyhedronMaker::Indices> PolyhedronMaker::trianglesOf(const Polygon& polygon) const {
+  std::vector<Indices> triangles;
+  Indices ring = polygon.rings[0];
+  std::size_t at = 0, tried = 0;
+  while (ring.size() > 3 && tried < ring.size()) {
+    const std::size_t n = ring.size();
+    at %= n;
+    if (!isEar(ring, at, polygon.normal)) {
+      ++at, ++tried;
+      continue;
+    }
+    triangles.push_back({ring[(at + n - 1) % n], ring[at], ring[(at + 1) % n]});
+    ring.erase(ring.begin() + static_cast<std::ptrdiff_t>(at));
+    tried = 0;
+  }
+  triangles.push_back(std::move(ring));
+  return triangles;
 }
 
 // Empty for rings that go round nothing.

@@ -25,7 +25,13 @@ class PolyhedronMaker {
  public:
   using Ring = std::vector<math::Point3d>;
 
-  PolyhedronMaker() : m_merger(m_points) {}
+  /// How far off its plane, in metres, a corner of a polygon may lie that was planar before its
+  /// coordinates were rounded to millimetres.
+  static constexpr double mostByRounding = 2e-3;
+
+  /// Polygons without holes that are bent by up to `mostBent` metres are split into triangles.
+  explicit PolyhedronMaker(double mostBent = mostByRounding)
+      : m_merger(m_points), m_mostBent(mostBent) {}
 
   /// An outer ring and its holes, in metres, without repeated ends. Holes may run either way round.
   void addPolygon(const std::vector<Ring>& rings);
@@ -50,6 +56,9 @@ class PolyhedronMaker {
   Indices indicesOf(const Ring& ring);
   math::Vector3d areaVector(const Indices& ring) const;
   double distanceOffPlane(const Polygon& polygon) const;
+  void addFlat(Polygon&& polygon);
+  bool isEar(const Indices& ring, std::size_t at, const math::Vector3d& normal) const;
+  std::vector<Indices> trianglesOf(const Polygon& polygon) const;
   void countEdges(const Polygon& polygon);
   bool closes() const;
   bool isOneBody() const;
@@ -62,6 +71,7 @@ class PolyhedronMaker {
   PointMerger m_merger;
   std::vector<Polygon> m_polygons;
   std::unordered_map<std::uint64_t, Edge> m_edges;
+  double m_mostBent;
   double m_offPlane = 0;
   bool m_isSound = true;
 };

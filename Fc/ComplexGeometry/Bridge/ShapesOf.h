@@ -23,6 +23,7 @@ class FcBooleanResult;
 class FcBoundingBox;
 class FcCsgSolid;
 class FcExtrudedAreaSolid;
+class FcExtrudedAreaSolidTapered;
 class FcFaceBasedSurfaceModel;
 class FcHalfSpaceSolid;
 class FcManifoldSolidBrep;
@@ -49,6 +50,9 @@ Shapes shapesOf(const FcCsgSolid& item, const FcParams& params);
 /// A solid for each area of the profile; a null shape for one that fails, with an assert. Nothing,
 /// with an assert, without a positive depth, a profile and a direction.
 Shapes shapesOf(const FcExtrudedAreaSolid& item, const FcParams& params);
+/// A solid for each pair of areas, with the flat sides that are drawn; one that doesn't close is
+/// left out, with an assert. Otherwise as for an extrusion of one profile.
+Shapes shapesOf(const FcExtrudedAreaSolidTapered& item, const FcParams& params);
 /// Those of all sets, in order.
 Shapes shapesOf(const FcFaceBasedSurfaceModel& item, const FcParams& params);
 /// One solid without end; nothing, with an assert, when the base surface isn't a plane.

@@ -99,7 +99,10 @@ class FaceMaker {
     }
     TopoDS_Face result;
     const BRep_Builder builder;
-    builder.MakeFace(result, *surface, kFaceTolerance);
+    // A surface of its own: an edge has one curve on each surface, and where two faces share one,
+    // an edge at its seam would need two.
+    const auto own = opencascade::handle<Geom_Surface>::DownCast((*surface)->Copy());
+    builder.MakeFace(result, own, kFaceTolerance);
     for (const FcFaceBound* bound : boundsOf(face)) {
       const TopoDS_Wire wire = orientedWire(*bound, !face.SameSense());
       if (!wire.IsNull()) builder.Add(result, wire);

@@ -4,8 +4,10 @@
 #include <Geom_BSplineSurface.hxx>
 #include <Geom_CylindricalSurface.hxx>
 #include <Geom_Plane.hxx>
+#include <Geom_SphericalSurface.hxx>
 #include <Geom_SurfaceOfLinearExtrusion.hxx>
 #include <Geom_SurfaceOfRevolution.hxx>
+#include <Geom_ToroidalSurface.hxx>
 #include <exception>
 #include <gp_Ax1.hxx>
 
@@ -23,8 +25,10 @@
 #include "Fc/Resource/Geometry/FcDirection.h"
 #include "Fc/Resource/Geometry/FcPlane.h"
 #include "Fc/Resource/Geometry/FcRationalBSplineSurfaceWithKnots.h"
+#include "Fc/Resource/Geometry/FcSphericalSurface.h"
 #include "Fc/Resource/Geometry/FcSurfaceOfLinearExtrusion.h"
 #include "Fc/Resource/Geometry/FcSurfaceOfRevolution.h"
+#include "Fc/Resource/Geometry/FcToroidalSurface.h"
 #include "Fc/Resource/Profile/FcProfileDef.h"
 
 namespace qor::fc {
@@ -70,6 +74,18 @@ ocMemoizer::Curve sweptCurve(const FcSweptSurface& surface, ocMemoizer& memoizer
 
 OcSurface surfaceOf(const FcPlane& surface) {
   return inFrameOf(surface, [](const gp_Ax3& frame) { return new Geom_Plane(frame); });
+}
+
+OcSurface surfaceOf(const FcSphericalSurface& surface) {
+  return inFrameOf(surface, [&](const gp_Ax3& frame) {
+    return new Geom_SphericalSurface(frame, surface.Radius());
+  });
+}
+
+OcSurface surfaceOf(const FcToroidalSurface& surface) {
+  return inFrameOf(surface, [&](const gp_Ax3& frame) {
+    return new Geom_ToroidalSurface(frame, surface.MajorRadius(), surface.MinorRadius());
+  });
 }
 
 OcSurface surfaceOf(const FcCylindricalSurface& surface) {
@@ -141,6 +157,8 @@ class SurfaceForm : public FormOfClass<OcSurface> {
   using FormOfClass::visit;
   bool visit(const FcPlane& surface) override { return give(surfaceOf(surface)); }
   bool visit(const FcCylindricalSurface& surface) override { return give(surfaceOf(surface)); }
+  bool visit(const FcSphericalSurface& surface) override { return give(surfaceOf(surface)); }
+  bool visit(const FcToroidalSurface& surface) override { return give(surfaceOf(surface)); }
   bool visit(const FcBSplineSurfaceWithKnots& surface) override { return give(surfaceOf(surface)); }
   bool visit(const FcRationalBSplineSurfaceWithKnots& surface) override {
     return give(surfaceOf(surface));

@@ -7,12 +7,15 @@
 #include <cmath>
 #include <functional>
 #include <gp_Ax1.hxx>
+#include <limits>
 
+#include "Fc/ComplexGeometry/Bridge/PolyhedronMaker.h"
 #include "Fc/ComplexGeometry/Bridge/ShapesOf.h"
 #include "Fc/FcParams.h"
 #include "Fc/HelperFunctionsOC.h"
 #include "Fc/Model/Report.h"
 #include "Fc/Resource/GeometricModel/FcExtrudedAreaSolid.h"
+#include "Fc/Resource/GeometricModel/FcExtrudedAreaSolidTapered.h"
 #include "Fc/Resource/GeometricModel/FcRevolvedAreaSolid.h"
 #include "Fc/Resource/Geometry/FcAxis1Placement.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
@@ -40,6 +43,24 @@ Shapes sweptFaces(const FcSweptAreaSolid& solid, const FcParams& params,
   return solids;
 }
 
+// Of the faces of all sets together, which may be bent.
+TopoDS_Shape solidWithin(const std::vector<generate::draw::PolygonalFaceSetOpenGL>& sets) {
+  PolyhedronMaker maker(std::numeric_limits<double>::infinity());
+  for (const auto& set : sets) {
+    const auto ringOf = [&set](const std::vector<std::uint32_t>& indices) {
+      PolyhedronMaker::Ring ring;
+      for (const std::uint32_t index : indices) ring.push_back(set.coordinates[index]);
+      return ring;
+    };
+    for (const auto& face : set.faces) {
+      std::vector<PolyhedronMaker::Ring> rings{ringOf(face.outer)};
+      for (const auto& hole : face.holes) rings.push_back(ringOf(hole));
+      maker.addPolygon(rings);
+    }
+  }
+  return maker.solid();
+}
+
 }  // namespace
 
 Shapes shapesOf(const FcExtrudedAreaSolid& item, const FcParams& params) {
@@ -53,6 +74,20 @@ Shapes shapesOf(const FcExtrudedAreaSolid& item, const FcParams& params) {
   return sweptFaces(item, params, [&](const TopoDS_Face& face) {
     return BRepPrimAPI_MakePrism(face, extrusion, false, true).Shape();
   });
+}
+
+Shapes shapesOf(const FcExtrudedAreaSolidTapered& item, const FcParams& params) {
+  Shapes solids;
+  const math::Matrix position = item.validPosition();
+  for (const auto& sets : item.faceSets(params)) {
+    TopoDS_Shape solid = tryOpenCascadeConstruction<TopoDS_Shape>(
+        [&] { return solidWithin(sets); },
+        "OpenCascade extrusion operation failed or result is no solid.",
+        "OpenCascade extrusion operation did not fail, but the resulting shape is Null.");
+    transformOpenCascadeShape(solid, position);
+    solids.push_back(solid);
+  }
+  return solids;
 }
 
 Shapes shapesOf(const FcRevolvedAreaSolid& item, const FcParams& params) {

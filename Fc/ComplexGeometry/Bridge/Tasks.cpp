@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "Fc/ComplexGeometry/Bridge/BodyMeasures.h"
 #include "Fc/ComplexGeometry/Bridge/BooleanOperations.h"
 #include "Fc/ComplexGeometry/Bridge/FaceSetsFromShapes.h"
 #include "Fc/ComplexGeometry/Bridge/OpenCascadeModeller.h"
@@ -75,9 +76,15 @@ SolidModeller::FaceSets OpenCascadeModeller::faceSets(
   return faceSetsFromShapes(shapesOfItem(item, params), params.curveDiscretization());
 }
 
+math::Extent OpenCascadeModeller::boxOf(const resource::geometry::FcRepresentationItem& item,
+                                        const FcParams& params) const {
+  return boxAround(shapesOfItem(item, params));
+}
+
 std::optional<SolidModeller::FaceSets> OpenCascadeModeller::cut(
     const PlacedItem& item, const std::vector<PlacedItem>& tools, const FcParams& params) const {
   std::vector<TopoDS_Shape> shapes = shapesOfItem(*item.first, params);
+  std::erase_if(shapes, [](const TopoDS_Shape& shape) { return shape.IsNull(); });
   if (shapes.empty()) return {};
   const math::Matrix inverse = item.second.inverse();
   std::vector<TopoDS_Shape> toolShapes;

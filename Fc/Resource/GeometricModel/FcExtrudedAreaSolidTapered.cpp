@@ -16,8 +16,6 @@ using generate::draw::PolygonalFaceSetOpenGL;
 using generate::draw::Profile2D;
 using math::Vector3d;
 
-namespace {}  // namespace
-
 bool FcExtrudedAreaSolidTapered::isReadyToDraw() const {
   if (!hasDepth("Depth should be a positive distance") || !hasSweptArea()) return false;
   if (!EndSweptArea()) {
@@ -27,20 +25,29 @@ bool FcExtrudedAreaSolidTapered::isReadyToDraw() const {
   return hasDirection();
 }
 
-void FcExtrudedAreaSolidTapered::draw(const FcDrawParams& params) const {
-  if (!isReadyToDraw()) return;
-  auto profiles = taperedProfiles(*SweptArea(), *EndSweptArea(), FcParams(params));
-  if (!profiles) return;
-  const generate::draw::TransformationGuard guard(params);
-  applyPosition(params);
+std::vector<std::vector<PolygonalFaceSetOpenGL>> FcExtrudedAreaSolidTapered::faceSets(
+    const FcParams& params) const {
+  std::vector<std::vector<PolygonalFaceSetOpenGL>> bodies;
+  if (!isReadyToDraw()) return bodies;
+  auto profiles = taperedProfiles(*SweptArea(), *EndSweptArea(), params);
+  if (!profiles) return bodies;
   const Vector3d extrusion = ExtrudedDirection()->vector().normalized() * Depth();
   for (std::size_t i = 0; i < profiles->start.size(); ++i) {
     Profile2D& start = profiles->start[i];
     Profile2D& end = profiles->end[i];
     if (!profilesPair(start, end) || start.empty() || start.contours().front().empty()) continue;
-    for (PolygonalFaceSetOpenGL& set : faceSetFromExtrudedTapered(start, end, extrusion))
-      params->polygonalFaceSet(std::move(set));
+    bodies.push_back(faceSetFromExtrudedTapered(start, end, extrusion));
   }
+  return bodies;
+}
+
+void FcExtrudedAreaSolidTapered::draw(const FcDrawParams& params) const {
+  auto bodies = faceSets(FcParams(params));
+  if (bodies.empty()) return;
+  const generate::draw::TransformationGuard guard(params);
+  applyPosition(params);
+  for (auto& body : bodies)
+    for (PolygonalFaceSetOpenGL& set : body) params->polygonalFaceSet(std::move(set));
 }
 
 std::vector<PolygonalFaceSetOpenGL> FcExtrudedAreaSolidTapered::faceSetFromExtrudedTapered(

@@ -15,6 +15,9 @@ class QOR_API FcExtrudedAreaSolidTapered : public FcExtrudedAreaSolidTaperedAttr
   std::optional<math::Extent> boundingBox(const FcParams& params) const override;
   void transformProfiles(const math::Matrix2d& matrix) override;
 
+  /// What is drawn for each pair of areas, in the frame of `Position`: one body each.
+  std::vector<std::vector<generate::draw::PolygonalFaceSetOpenGL>> faceSets(
+      const FcParams& params) const;
   /// The body between `start` and where `extrusion` takes `end`; see `taperedExtrudedFaceSets`.
   static std::vector<generate::draw::PolygonalFaceSetOpenGL> faceSetFromExtrudedTapered(
       generate::draw::Profile2D& start, generate::draw::Profile2D& end,

@@ -10,15 +10,6 @@
 #include "Qor/Math/Epsilon.h"
 
 namespace qor::fc::resource::geometricmodel {
-namespace {
-
-// The box around the corners of a box, seen from a frame.
-math::Extent boxIn(const math::Matrix& frame, const math::Extent& box) {
-  return box.transformExtent(frame.inverse());
-}
-
-}  // namespace
-
 std::optional<math::Extent> FcHalfSpaceSolid::boundingBox(const FcParams& /*params*/) const {
   return {};
 }
@@ -57,12 +48,8 @@ std::optional<math::Matrix> FcHalfSpaceSolid::materialFrame() const {
 
 bool FcHalfSpaceSolid::isAwayFrom(const math::Extent& box) const {
   const auto frame = materialFrame();
-  return frame && boxIn(*frame, box).maximum().z <= math::Epsilon::current().length;
-}
-
-double FcHalfSpaceSolid::distanceTo(const math::Extent& box) const {
-  const auto frame = materialFrame();
-  return frame ? std::max(0.0, boxIn(*frame, box).minimum().z) : 0;
+  return frame &&
+         box.transformExtent(frame->inverse()).maximum().z <= math::Epsilon::current().length;
 }
 
 }  // namespace qor::fc::resource::geometricmodel

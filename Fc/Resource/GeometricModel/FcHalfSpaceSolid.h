@@ -39,11 +39,8 @@ class QOR_API FcHalfSpaceSolid : public FcHalfSpaceSolidAttributes {
   /// No point of the box is further into the material than the length tolerance: there is nothing
   /// to cut. False without a plane with a position.
   bool isAwayFrom(const math::Extent& box) const;
-  /// How far into the material the nearest point of the box lies, in metres; 0 for a box that the
-  /// plane goes through, and without a plane with a position.
-  double distanceTo(const math::Extent& box) const;
 
- private:
+ protected:
   std::optional<math::Matrix> materialFrame() const;
 };
 

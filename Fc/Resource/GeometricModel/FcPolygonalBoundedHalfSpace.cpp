@@ -1,5 +1,6 @@
 #include "Fc/Resource/GeometricModel/FcPolygonalBoundedHalfSpace.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "Fc/FcParams.h"
@@ -11,8 +12,6 @@
 #include "Qor/Math/Plane.h"
 
 namespace qor::fc::resource::geometricmodel {
-namespace {}  // namespace
-
 void FcPolygonalBoundedHalfSpace::transform(const math::Matrix& matrix) {
   if (!BaseSurface() || !PolygonalBoundary()) {
     report(*this,
@@ -52,6 +51,16 @@ FcPolygonalBoundedHalfSpace::setupOcRepresentationData() const {
   }
   if (intoMaterial < 0) extrusion = extrusion * -1;
   return OcRepresentationData{extrusion, boundary, halfSpace->point, halfSpace->vector};
+}
+
+double FcPolygonalBoundedHalfSpace::depthThrough(const math::Extent& box) const {
+  const auto frame = materialFrame();
+  if (!frame) return 0;
+  const math::Vector3d along =
+      Position() ? Position()->placementGet().z() : math::Vector3d(0, 0, 1);
+  const double intoMaterial = std::abs(along.dot(frame->z()));
+  if (intoMaterial <= math::Epsilon::current().general) return 0;
+  return std::max(0.0, box.transformExtent(frame->inverse()).maximum().z) / intoMaterial;
 }
 
 // The polygon moved along the prism onto the plane. Empty, with an assert, without a polygon.

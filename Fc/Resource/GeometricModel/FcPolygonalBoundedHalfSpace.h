@@ -22,6 +22,9 @@ class QOR_API FcPolygonalBoundedHalfSpace : public FcPolygonalBoundedHalfSpaceAt
   /// assert, when that isn't positive, the prism is parallel to the plane, or there is no polygon.
   std::vector<TopoDS_Shape> ocPrismForClipping(const measure::FcPositiveLengthMeasure& diameter,
                                                const FcParams& params) const;
+  /// How far along the prism from the plane the farthest point of the box within the material lies,
+  /// in metres; 0 without a plane that the prism goes through.
+  double depthThrough(const math::Extent& box) const;
 
  private:
   static constexpr double finalSafetyFactorOnExtrusionDepth() { return 1.1; }

@@ -141,7 +141,7 @@ std::optional<std::vector<Point2d>> FcIndexedPolyCurve::closedCurve2dGet(
     const FcParams& params) const {
   if (!isClosed()) return {};
   auto points = curve2d(params, {}, {}, false);
-  if (points) points->pop_back();
+  if (points && points->size() > 1 && points->front().isNear(points->back())) points->pop_back();
   return points;
 }
 

@@ -1,16 +1,21 @@
 #include <gtest/gtest.h>
 
 #include <BRepPrimAPI_MakeBox.hxx>
+#include <cmath>
 #include <functional>
+#include <numbers>
 #include <string>
 
 #include "Fc/ComplexGeometry/Bridge/BooleanOperations.h"
+#include "Fc/ComplexGeometry/Bridge/FaceSetsFromShapes.h"
 #include "Fc/ComplexGeometry/FcThreadedComplexGeometryProcessor.h"
 #include "Fc/Resource/GeometricModel/FcPolygonalBoundedHalfSpace.h"
+#include "Fc/Resource/GeometricModel/FcTriangulatedFaceSet.h"
 #include "Fc/Resource/Geometry/FcPolyline.h"
 #include "Tests/Fc/ComplexGeometry/Items.h"
 #include "Tests/Fc/ComplexGeometry/ShapeMeasures.h"
 #include "Tests/Support/ExpectAsserts.h"
+#include "Tests/Support/SolidMesh.h"
 
 namespace qor::fc::resource::geometricmodel {
 namespace {
@@ -21,9 +26,13 @@ using test::difference;
 using test::ExpectAsserts;
 using test::ExpectedAssert;
 using test::halfSpace;
+using test::isClosedSolidOfVolume;
 using test::params;
+using test::turnedWall;
 using test::volumeOf;
 
+const char* const kToolIsLeftOut =
+    "OpenCascade boolean 'cut' operation failed. The body stays uncut by this tool.";
 const auto kNoItem = std::shared_ptr<FcPolygonalFaceSet>();
 
 std::shared_ptr<FcPolygonalBoundedHalfSpace> boundedHalfSpace(const math::Point3d& point,
@@ -165,7 +174,6 @@ TEST(BooleanOperations, RefuseShapesThatReachOutOfAnyModel) {
     std::string name;
     std::function<TopoDS_Shape(const TopoDS_Shape&, const TopoDS_Shape&)> operation;
   } cases[] = {
-      {"cut", [](const auto& a, const auto& b) { return cutShapes({a}, {b}, 0); }},
       {"common", commonOfShapes},
       {"fuse", fuseShapes},
   };
@@ -175,6 +183,107 @@ TEST(BooleanOperations, RefuseShapesThatReachOutOfAnyModel) {
     EXPECT_TRUE(operation(far, box).IsNull());
     EXPECT_TRUE(operation(box, far).IsNull());
   }
+  const ExpectAsserts expected(
+      {"OpenCascade boolean 'cut' operation failed.", kToolIsLeftOut, kToolIsLeftOut});
+  const TopoDS_Shape half = BRepPrimAPI_MakeBox(2, 2, 1);
+  EXPECT_TRUE(cutShapes({far}, {box}, 0).IsNull());
+  EXPECT_TRUE(cutShapes({box}, {far}, 0).IsSame(box));
+  EXPECT_NEAR(volumeOf(cutShapes({box}, {far, half}, 0)), 4, 1e-9);
+}
+
+// A frame of triangles, 4 wide, 3 high and 0.3 thick round a hole of 2 by 2.
+std::shared_ptr<FcTriangulatedFaceSet> frameOfTriangles() {
+  generate::draw::PolygonalFaceSetOpenGL set;
+  for (const double y : {0.0, 0.3})
+    for (const auto& [x, z] : {std::pair(0.0, 0.0),
+                               {4.0, 0.0},
+                               {4.0, 3.0},
+                               {0.0, 3.0},
+                               {1.0, 0.5},
+                               {3.0, 0.5},
+                               {3.0, 2.5},
+                               {1.0, 2.5}})
+      set.coordinates.emplace_back(x, y, z);
+  const auto quad = [&](std::uint32_t a, std::uint32_t b, std::uint32_t c, std::uint32_t d) {
+    set.faces.push_back({.outer = {a, b, c}});
+    set.faces.push_back({.outer = {a, c, d}});
+  };
+  for (std::uint32_t i = 0; i < 4; ++i) {
+    const std::uint32_t next = (i + 1) % 4;
+    quad(i, next, next + 4, i + 4);            // front
+    quad(next + 8, i + 8, i + 12, next + 12);  // back
+    quad(next, i, i + 8, next + 8);            // outside
+    quad(i + 4, next + 4, next + 12, i + 12);  // round the hole
+  }
+  auto item = FcTriangulatedFaceSet::fromQorPolygonalFaceSet(set).first;
+  item->setClosed(true);
+  return item;
+}
+
+TEST(BooleanResult, IsTheFrameAgainForAnOpeningAsLargeAsItsHole) {
+  const ExpectAsserts none;
+  const double volume = (4 * 3 - 2 * 2) * 0.3;
+  const math::Matrix near = math::Matrix::createTranslation({13.7, 22.1, 5.3});
+  const math::Matrix far = math::Matrix::createZRotate(0.7) * math::Matrix::createXRotate(0.35) *
+                           math::Matrix::createTranslation({513.7e3, 5322.1e3, 65.3});
+  const struct {
+    math::Matrix place;
+    double wider, deeper;  // than the hole, on each side
+  } cases[] = {{{}, 0, 0},
+               {near, 0, 0.1},
+               {near, 1e-6, 0},
+               {far, -1e-5, 1e-6},
+               // Both bodies agree within the tolerance nearly everywhere: nothing would be left.
+               {far, 2e-6, -3e-7}};
+  for (const auto& [place, wider, deeper] : cases) {
+    const auto frame = frameOfTriangles();
+    const auto opening =
+        boxItem({1 - wider, -deeper, 0.5 - wider}, {3 + wider, 0.3 + deeper, 2.5 + wider});
+    frame->transform(place);
+    opening->transform(place);
+    const auto shapes = difference(frame, opening)->ocRepresentation(params());
+    EXPECT_TRUE(isClosedSolidOfVolume(faceSetsFromShapes(shapes, params().curveDiscretization()),
+                                      volume, 1e-4))
+        << wider << ' ' << deeper;
+  }
+}
+
+TEST(BooleanResult, CutsTheWholeOfABodyThatIsLargerThanItsBoxTells) {
+  const ExpectAsserts none;
+  EXPECT_NEAR(
+      volumeOf(
+          difference(turnedWall(), halfSpace({0, 0, 2}, {0, 0, 1}))->ocRepresentation(params())),
+      2.4, 1e-6);
+  EXPECT_NEAR(
+      volumeOf(
+          difference(turnedWall(), halfSpace({0, 1, 0}, {0, 1, 0}))->ocRepresentation(params())),
+      2.7, 1e-6);
+}
+
+// The box is that of the polygon of six corners, the body exact: slivers would stay at its sides.
+TEST(BooleanResult, CutsTheWholeOfARoundBody) {
+  for (const double radius : {0.03, 0.1, 0.17}) {
+    const ExpectAsserts expected(
+        {"doGetPlanarBox(const qor::fc::FcParams&) not implemented for class: class "
+         "qor::fc::resource::profile::FcCircleProfileDef"});
+    const auto rod =
+        test::extrusion(test::makeProfile("IfcCircleProfileDef", "Radius 1", radius), 1);
+    const auto shapes =
+        difference(rod, halfSpace({0, 0, 0.4}, {0, 0, 1}))->ocRepresentation(params(1));
+    EXPECT_NEAR(volumeOf(shapes), std::numbers::pi * radius * radius * 0.4, 1e-6);
+    EXPECT_EQ(test::countOf(shapes.at(0), TopAbs_SOLID), 1);
+  }
+}
+
+TEST(BooleanResult, CutsThroughTheBodyWithASteepBoundedHalfSpace) {
+  const ExpectAsserts none;
+  // 60 degrees: the prism runs along its plane for twice as long as it runs away from it.
+  const double angle = std::numbers::pi / 3;
+  const auto shapes =
+      difference(boxItem({0, 0, -1}, {1, 1, 0.8}),
+                 boundedHalfSpace({0, 0, -3}, {std::sin(angle), 0, std::cos(angle)}, 9))
+          ->ocRepresentation(params());
+  EXPECT_NEAR(volumeOf(shapes), 0, 1e-6);
 }
 
 TEST(BooleanResult, EndsWhereItIsPartOfItself) {

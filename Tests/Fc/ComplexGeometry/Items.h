@@ -2,16 +2,19 @@
 
 #include <array>
 #include <memory>
+#include <numbers>
 #include <vector>
 
 #include "Fc/FcParams.h"
 #include "Fc/Resource/GeometricModel/FcBooleanResult.h"
+#include "Fc/Resource/GeometricModel/FcExtrudedAreaSolid.h"
 #include "Fc/Resource/GeometricModel/FcHalfSpaceSolid.h"
 #include "Fc/Resource/GeometricModel/FcPolygonalFaceSet.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
 #include "Fc/Resource/Geometry/FcPlane.h"
 #include "Qor/Math/CurveDiscretization.h"
 #include "Qor/Math/Matrix.h"
+#include "Tests/Fc/Geometry/ProfileCases.h"
 #include "Tests/Support/Make.h"
 
 // Items that tests of the solid modeller are made of.
@@ -46,6 +49,23 @@ inline std::shared_ptr<fc::resource::geometricmodel::FcPolygonalFaceSet> boxItem
       fc::resource::geometricmodel::FcPolygonalFaceSet::fromQorPolygonalFaceSet(faceSet).first;
   item->setClosed(missing == 0);
   return item;
+}
+
+/// A profile that is carried up.
+inline std::shared_ptr<fc::resource::geometricmodel::FcExtrudedAreaSolid> extrusion(
+    const std::shared_ptr<fc::resource::profile::FcProfileDef>& area, double depth) {
+  return make<fc::resource::geometricmodel::FcExtrudedAreaSolid>(
+      {{"SweptArea", area},
+       {"ExtrudedDirection", fc::resource::geometry::makeDirection(math::Vector3d(0, 0, 1))},
+       {"Depth", depth}});
+}
+
+/// A wall 4 long, 0.3 thick and 3 high round the origin; it runs along Y, since its profile is
+/// turned.
+inline std::shared_ptr<fc::resource::geometricmodel::FcExtrudedAreaSolid> turnedWall() {
+  const auto area = makeProfile("IfcRectangleProfileDef", "XDim 4, YDim 0.3");
+  give(*area, {{"Position", planarPosition(0, 0, std::numbers::pi / 2)}});
+  return extrusion(area, 3);
 }
 
 /// All above the plane through `point` with the Z axis `normal`, or below it with `agreement`.

@@ -7,11 +7,18 @@
 #include "Fc/ComplexGeometry/FcImplicitClippingTask.h"
 #include "Fc/ComplexGeometry/FcPolygonalFaceSetResult.h"
 #include "Fc/ComplexGeometry/FcThreadedComplexGeometryProcessor.h"
+#include "Fc/Document/FcDrawInterfaceWrapper.h"
 #include "Fc/Drawing/FcClip.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/Resource/GeometricModel/FcCartesianPointList3D.h"
+#include "Fc/Resource/GeometricModel/FcExtrudedAreaSolidTapered.h"
+#include "Fc/Resource/GeometricModel/FcSweptDiskSolid.h"
 #include "Fc/Resource/Geometry/FcCartesianPoint.h"
+#include "Fc/Resource/Geometry/FcPolyline.h"
+#include "Fc/Resource/Profile/FcArbitraryClosedProfileDef.h"
 #include "Tests/Fc/ComplexGeometry/Items.h"
 #include "Tests/Support/ExpectAsserts.h"
+#include "Tests/Support/RecordingTarget.h"
 #include "Tests/Support/SolidMesh.h"
 
 namespace qor::fc {
@@ -87,6 +94,76 @@ TEST(ImplicitClipping, LeavesOutExpensiveToolsThatAreFarAwayOrUnwanted) {
   const FcImplicitClippingTask task(cheap, wall, {}, tools);
   ASSERT_EQ(task.clipItems().size(), 1u);
   EXPECT_NE(task.clipItems()[0].first, far) << "a task works on copies";
+}
+
+TEST(ImplicitClipping, CutsAWallWhoseProfileIsTurnedByAFaceSetAtItsEnd) {
+  const test::ExpectAsserts none;
+  const FcImplicitClippingTask task(
+      params(), test::turnedWall(), {},
+      {{boxItem({-1, 1.2, 1}, {1, 1.7, 2}), {}}, {boxItem({3, 0, 1}, {4, 1, 2}), {}}});
+  EXPECT_EQ(task.clipItems().size(), 1u);
+  EXPECT_TRUE(isClosedSolidOfVolume(faceSets(task.process()), 3.6 - 0.5 * 0.3, 1e-9));
+}
+
+TEST(ImplicitClipping, CutsATaperedBodyAsItIsDrawn) {
+  const test::ExpectAsserts none;
+  using namespace resource::geometricmodel;
+  const auto tower = test::make<FcExtrudedAreaSolidTapered>(
+      {{"SweptArea", test::makeProfile("IfcRectangleProfileDef", "XDim 2, YDim 2")},
+       {"EndSweptArea", test::makeProfile("IfcRectangleProfileDef", "XDim 1, YDim 1")},
+       {"ExtrudedDirection", resource::geometry::makeDirection(math::Vector3d(0, 0, 1))},
+       {"Depth", 3}});
+  const struct {
+    math::Point3d low, high;
+    double left;
+  } cases[] = {{{5, 5, 0}, {6, 6, 1}, 7},           // a frustum of 3 / 3 * (4 + 2 + 1)
+               {{0, -3, -1}, {3, 3, 4}, 3.5},       // half of it
+               {{-3, -3, 1.5}, {3, 3, 4}, 4.625}};  // its lower half: 1.5 / 3 * (4 + 3 + 2.25)
+  for (const auto& [low, high, left] : cases) {
+    const FcImplicitClippingTask task(params(), tower, {}, {{boxItem(low, high), {}}});
+    EXPECT_TRUE(isClosedSolidOfVolume(faceSets(task.process()), left, 1e-6));
+  }
+}
+
+TEST(ImplicitClipping, LeavesABodyWhoseProfileCrossesItselfThere) {
+  const auto outline = test::make<resource::geometry::FcPolyline>();
+  outline->setPoints(std::vector<math::Point2d>{{0, 0}, {2, 1}, {2, 0}, {0, 1}}, true);
+  const auto bowTie = test::extrusion(
+      test::make<resource::profile::FcArbitraryClosedProfileDef>({{"OuterCurve", outline}}), 3);
+  const test::ExpectAsserts none;
+  for (const double x : {0.2, 0.8, 1.4}) {
+    const FcImplicitClippingTask task(params(), bowTie, {},
+                                      {{boxItem({x, -1, 1}, {x + 0.4, 2, 2}), {}}});
+    const auto sets = faceSets(task.process());
+    ASSERT_EQ(sets.size(), 1u) << x;
+    EXPECT_GE(sets[0].faces.size(), 6u) << x;
+  }
+}
+
+TEST(Clip, DrawsWhatCantBeCutWhole) {
+  using resource::geometricmodel::FcSweptDiskSolid;
+  const auto path = test::make<resource::geometry::FcPolyline>();
+  path->setPoints(std::vector<math::Point3d>{{0, 0, 0}, {0, 0, 2}}, false);
+  const auto rod = test::make<FcSweptDiskSolid>({{"Directrix", path}, {"Radius", 0.1}});
+  const auto drawnCalls = [&](bool clipping) {
+    test::RecordingTarget target;
+    FcDrawInterfaceWrapper wrapper(target);
+    FcClip::ClippingItemsWorker worker(wrapper);
+    if (clipping) worker.addClipObject({boxItem({0, -1, 1}, {2, 2, 2}), {}});
+    wrapper.drawConstRepresentationItem(rod, FcDrawParams(wrapper),
+                                        generate::draw::SurfaceDrawType::Surface);
+    return target.calls;
+  };
+  setCurrentComplexGeometryProcessor(std::make_unique<FcThreadedComplexGeometryProcessor>());
+  {
+    const test::ExpectAsserts expected(
+        {"ocRepresentation(const qor::fc::FcParams&) not implemented for class: class "
+         "qor::fc::resource::geometricmodel::FcSweptDiskSolid",
+         "The item has no solid that openings could be cut out of; it is drawn whole."});
+    EXPECT_EQ(drawnCalls(true), drawnCalls(false));
+    EXPECT_FALSE(drawnCalls(false).empty());
+  }
+  setCurrentComplexGeometryProcessor(nullptr);
 }
 
 // The thread sanitizer watches this one: workers touch nothing of the model that changes.

@@ -143,6 +143,13 @@ TEST(IndexedPolyCurve, ReportsSegmentsThatMakeNoSense) {
   }
 }
 
+TEST(IndexedPolyCurve, KeepsItsLastPointWhereTheArcBackToTheFirstOneIsNone) {
+  const auto rectangle =
+      curve(Points2d{{0, 0}, {4, 0}, {4, 3}, {0, 3}, {0, 1}}, {{line({1, 2, 3, 4}), arc(4, 5, 1)}});
+  const ExpectAsserts expected({"Expect discretization of circular arc"});
+  EXPECT_EQ(rectangle->closedCurve2dGet(params), (Points2d{{0, 0}, {4, 0}, {4, 3}, {0, 3}}));
+}
+
 TEST(IndexedPolyCurve, ReportsWhatItCannotDraw) {
   const ExpectAsserts expected(
       {"There are less than two points: cannot draw a (closed or open) polygonal curve",
