@@ -8,7 +8,6 @@
 
 #include "Fc/Drawing/FcDrawInterface.h"
 #include "Fc/Drawing/FcDrawParams.h"
-#include "Fc/Drawing/OpenObject.h"
 #include "Qor/Draw/DrawInterface.h"
 
 namespace qor::fc::resource::presentationappearance {
@@ -94,7 +93,7 @@ class QOR_API FcDrawInterfaceWrapper : public FcDrawInterface,
   generate::draw::DrawInterfaceBase& m_target;
   generate::draw::DrawInterface* m_objects;
   generate::draw::BlockInterface* m_blocks;
-  std::deque<OpenObject> m_openObjects;
+  std::size_t m_openObjects = 0;
   std::map<std::pair<const Shading*, const Textures*>, StyleMaterial> m_materialByStyle;
   std::map<generate::draw::Color, Material, generate::draw::ColorLess> m_materialByColor;
 };

@@ -25,36 +25,21 @@ class OpenBlock {
       : m_target(target), m_isKnown(target.startBlock(name) != 0) {}
   OpenBlock(const OpenBlock&) = delete;
   OpenBlock& operator=(const OpenBlock&) = delete;
-  ~OpenBlock() { m_target.stopBlock(); }
+  ~OpenBlock() noexcept(false) {
+    m_wayOut.leave([this] { m_target.stopBlock(); });
+  }
 
   bool isKnown() const { return m_isKnown; }
 
  private:
   BlockInterface& m_target;
   bool m_isKnown;
-};
-
-class Raised {
- public:
-  explicit Raised(std::atomic<bool>& flag) : m_flag(flag), m_wasUp(flag.exchange(true)) {}
-  Raised(const Raised&) = delete;
-  Raised& operator=(const Raised&) = delete;
-  ~Raised() {
-    if (!m_wasUp) m_flag.exchange(false);
-  }
-
-  bool wasUp() const { return m_wasUp; }
-
- private:
-  std::atomic<bool>& m_flag;
-  bool m_wasUp;
+  WayOut m_wayOut;
 };
 
 }  // namespace
 
 void FcMappedItem::draw(const FcDrawParams& params) const {
-  const Raised drawing(m_drawing);
-  if (drawing.wasUp()) return assertCircular();
   if (!MappingSource()) return;
   const MapNesting nesting(*MappingSource());
   if (!nesting.isAllowed()) return assertCircular();

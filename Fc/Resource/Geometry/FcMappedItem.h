@@ -1,7 +1,5 @@
 #pragma once
 
-#include <atomic>
-
 #include "Fc/Resource/Geometry/FcMappedItemAttributes.h"
 
 namespace qor::fc::resource::geometry {
@@ -10,7 +8,8 @@ namespace qor::fc::resource::geometry {
 ///
 /// A map that comes to lie within itself is cut there, with the assert "Circular dependency in
 /// mapped item", and so are maps that lie within each other a few hundred deep: what lies before
-/// the cut is drawn and measured.
+/// the cut is drawn and measured. Each thread knows the maps that it is in, so that several may
+/// draw one item.
 class QOR_API FcMappedItem : public FcMappedItemAttributes {
  public:
   /// A target that keeps blocks gets the map as a block, filled once, and the place as the frame
@@ -24,8 +23,6 @@ class QOR_API FcMappedItem : public FcMappedItemAttributes {
 
  private:
   void drawMap(const FcDrawParams& params) const;
-
-  mutable std::atomic<bool> m_drawing = false;  // no part of the model
 };
 
 }  // namespace qor::fc::resource::geometry
