@@ -1,7 +1,10 @@
 // The entity spine without a file: creation by name, class queries, guid look-ups, relationships.
 #include <benchmark/benchmark.h>
 
+#include "Fc/Core/Kernel/FcPropertySet.h"
 #include "Fc/Core/Kernel/FcRelAggregates.h"
+#include "Fc/Core/Kernel/FcRelAssociatesClassification.h"
+#include "Fc/Core/Kernel/FcRelDefinesByProperties.h"
 #include "Fc/Core/Kernel/FcRoot.h"
 #include "Fc/Core/ProductExtension/FcBuildingStorey.h"
 #include "Fc/Core/ProductExtension/FcElement.h"
@@ -9,10 +12,14 @@
 #include "Fc/Data.h"
 #include "Fc/Factory.h"
 #include "Fc/Shared/BuildingElements/FcWall.h"
+#include "Qor/Classification/ClassificationInterface.h"
 
 namespace qor::fc {
 namespace {
 
+using core::kernel::FcPropertySet;
+using core::kernel::FcRelAssociatesClassification;
+using core::kernel::FcRelDefinesByProperties;
 using core::productextension::FcBuildingStorey;
 using core::productextension::FcElement;
 using core::productextension::FcRelContainedInSpatialStructure;
@@ -101,6 +108,89 @@ void linkToOneTarget(benchmark::State& state) {
   state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 BENCHMARK(linkToOneTarget)->Arg(10)->Arg(1000)->Arg(100000);
+
+void queryAfterEachAddition(benchmark::State& state) {
+  constexpr int additions = 800;
+  for (auto _ : state) {
+    state.PauseTiming();
+    auto data = makeModel(500000);
+    benchmark::DoNotOptimize(data->allEntities().size());
+    const std::string name = state.range(0) == 0 ? "IfcWall" : "IfcCartesianPoint";
+    state.ResumeTiming();
+    for (int i = 0; i < additions; ++i) {
+      data->entityCreate(name);
+      benchmark::DoNotOptimize(data->entities<FcWall>().size());
+    }
+    state.PauseTiming();
+    data.reset();
+    state.ResumeTiming();
+  }
+}
+// Of a high class, with little above it, and of a low one.
+BENCHMARK(queryAfterEachAddition)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+
+void insertIntoAListOfSelects(benchmark::State& state) {
+  std::vector<std::shared_ptr<FcWall>> walls(static_cast<std::size_t>(state.range(0)));
+  for (auto& wall : walls) wall = std::make_shared<FcWall>();
+  for (auto _ : state) {
+    const auto relation = std::make_shared<FcRelAssociatesClassification>();
+    for (const auto& wall : walls) relation->insertRelatedObjects(wall);
+    state.PauseTiming();
+    relation->setRelatedObjects({});
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(insertIntoAListOfSelects)->Arg(20000)->Unit(benchmark::kMillisecond);
+
+class Codes : public classification::ClassificationInterface {
+ public:
+  std::string getName() const override { return "System"; }
+  std::string getDescription() const override { return {}; }
+  std::string getEditionDate() const override { return {}; }
+  std::string getReferenceName(const std::string& code) const override { return code; }
+  std::string getReferenceDescription(const std::string&) const override { return {}; }
+  std::string getReferenceLocation(const std::string&) const override { return {}; }
+  std::string getReferenceSort(const std::string&) const override { return {}; }
+};
+
+void classifyWalls(benchmark::State& state) {
+  const auto system = std::make_shared<Codes>();
+  for (auto _ : state) {
+    state.PauseTiming();
+    auto data = std::make_shared<Data>();
+    for (std::int64_t i = 0; i < state.range(0); ++i) data->create<FcWall>();
+    state.ResumeTiming();
+    for (const std::shared_ptr<FcWall> wall : data->entities<FcWall>())
+      wall->classify(system, {"A", "A.1"});
+    state.PauseTiming();
+    data.reset();
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(classifyWalls)->Arg(40000)->Unit(benchmark::kMillisecond);
+
+void findNoGuid(benchmark::State& state) {
+  const auto data = std::make_shared<Data>();
+  for (std::int64_t i = 0; i < state.range(0); ++i) data->create<FcWall>();
+  const Guid guid = Guid::generate();
+  for (auto _ : state) benchmark::DoNotOptimize(data->entityByGuid(guid));
+}
+BENCHMARK(findNoGuid)->Arg(100000)->Unit(benchmark::kMicrosecond);
+
+void firstPropertySetOfMany(benchmark::State& state) {
+  auto data = std::make_shared<Data>();
+  const auto wall = data->create<FcWall>();
+  for (std::int64_t i = 0; i < state.range(0); ++i) {
+    const auto set = data->create<FcPropertySet>();
+    set->setName("Pset");
+    const auto relation = data->create<FcRelDefinesByProperties>();
+    relation->setRelatingPropertyDefinition(set);
+    relation->insertRelatedObjects(wall);
+  }
+  for (auto _ : state)
+    benchmark::DoNotOptimize(wall->getPropertySetDefinitionNonConst<FcPropertySet>("Pset"));
+}
+BENCHMARK(firstPropertySetOfMany)->Arg(10000)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 }  // namespace qor::fc

@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <memory>
 #include <set>
-#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -27,8 +26,9 @@ class FcRoot;
 /// entities point back at.
 ///
 /// Owns what it lists. An add is an append; sorting by class and indexing by guid wait for the
-/// first query that needs them and are then done for all at once. A class query is a binary search,
-/// since the ids of a class and its subclasses are one range.
+/// first query that needs them and are then done for all at once. What came since the last sort is
+/// sorted by itself and merged, which moves only entities of higher classes. A class query is a
+/// binary search, since the ids of a class and its subclasses are one range.
 ///
 /// No locks: a model belongs to one thread at a time. Before handing a model to reading threads,
 /// ask one class query and one guid look-up.
@@ -54,7 +54,7 @@ class QOR_API Data : public std::enable_shared_from_this<Data> {
   bool hasEntity(const FcBase& entity) const;
   /// Room for that many entities in all.
   void reserve(std::size_t count);
-  std::size_t size() const { return m_entities.size(); }
+  std::size_t size() const { return m_entities->size() + m_added.size(); }
 
   /// The project that was added last; without one the first that is listed; null for none.
   std::shared_ptr<core::kernel::FcProject> project();
@@ -63,8 +63,12 @@ class QOR_API Data : public std::enable_shared_from_this<Data> {
   /// Takes all entities off the list. The references among them stay.
   void clear();
   /// Keeps exactly what the project reaches, by forward or inverse attributes; an assert and no
-  /// change without a project.
+  /// change without a project. What was listed keeps its order, `inListedOrder`.
   void rebuildEntityList();
+  /// The same entities, each once: those that are listed in the order of the list, then the others
+  /// as a walk from those by forward and inverse attributes meets them. Two runs give one order,
+  /// but for several unlisted entities that name the same one.
+  Entities inListedOrder(const Entities& entities) const;
 
   /// All that `start` reaches by forward and inverse attributes, itself included; empty for null.
   static std::set<std::shared_ptr<FcBase>> getAllReferencedEntitiesNonConst(
@@ -79,8 +83,8 @@ class QOR_API Data : public std::enable_shared_from_this<Data> {
     entityAdd(entity, false);
     return entity;
   }
-  /// All entities of class `T` and its subclasses, as a range of `std::shared_ptr<T>`; valid until
-  /// an entity is added or deleted.
+  /// All entities of class `T` and its subclasses, as a range of `std::shared_ptr<T>`, which stays
+  /// as it is when entities are added or deleted while it is walked over.
   template <class T>
   EntityRange<T> entities() const {
     return typed<T>(rangeFromId(T::firstClassId, T::lastClassId));
@@ -100,11 +104,14 @@ class QOR_API Data : public std::enable_shared_from_this<Data> {
   }
   /// The root with this guid, null for none. Roots that had no guid when they were added are found
   /// from then on that they have one; a root whose guid changes after it was looked up stays under
-  /// the old one.
+  /// the old one. Of several with one guid the first is found, and when it is deleted the next.
+  ///
+  /// A hash look-up. Roots without a guid are gone through again only after some root, of whatever
+  /// model, was given one.
   std::shared_ptr<core::kernel::FcRoot> entityByGuid(const Guid& guid) const;
 
   /// All entities, sorted by class; those of one class in the order in which they were added.
-  std::span<const std::shared_ptr<FcBase>> allEntities() const;
+  EntityRange<FcBase> allEntities() const;
 
  protected:
   using Range = std::pair<Entities::iterator, Entities::iterator>;
@@ -120,15 +127,26 @@ class QOR_API Data : public std::enable_shared_from_this<Data> {
   void guidUpdate() const;
 
  private:
-  template <class T>
-  static EntityRange<T> typed(ConstRange range) {
-    return {range.first, range.second};
-  }
+  using Roots = std::vector<std::shared_ptr<core::kernel::FcRoot>>;
 
-  mutable Entities m_entities;
-  mutable bool m_sorted = false;
+  template <class T>
+  EntityRange<T> typed(ConstRange range) const {
+    return {m_entities, range.first, range.second};
+  }
+  /// The sorted list for changing it: a copy when a range shows it.
+  Entities& ownEntities() const;
+  void forgetGuid(const core::kernel::FcRoot& root);
+
+  /// Sorted by class. Never null.
+  mutable std::shared_ptr<Entities> m_entities = std::make_shared<Entities>();
+  /// What was added since, in that order.
+  mutable Entities m_added;
   mutable std::unordered_map<Guid, std::shared_ptr<core::kernel::FcRoot>> m_guidEntityMap;
-  mutable std::vector<std::shared_ptr<core::kernel::FcRoot>> m_pendingGuidEntities;
+  mutable Roots m_pendingGuidEntities;
+  /// Listed roots whose guid another one had before them.
+  mutable Roots m_sameGuidEntities;
+  /// `guidChanges()` when the pending roots were gone through.
+  mutable std::uint64_t m_guidChanges = 0;
   std::shared_ptr<core::kernel::FcProject> m_project;
 };
 

@@ -33,6 +33,28 @@ void linkAll(FcBase& holder, const ClassInfo& info) {
   for (const AttributeInfo& attribute : info.attributes) linkTargets(holder, attribute);
 }
 
+std::vector<std::shared_ptr<FcBase>> targetsOf(const FcBase& holder,
+                                               const AttributeInfo& attribute) {
+  std::vector<std::shared_ptr<FcBase>> targets;
+  attribute.type->forEachTarget(attribute.of(holder), [&targets](FcBase& target) {
+    targets.push_back(target.shared_from_this());
+  });
+  return targets;
+}
+
+// Keeps the inverse attributes in step with what `write` does to the attribute. A text that can't
+// be read may leave a select changed all the same.
+template <class Write>
+bool writeLinked(FcBase& holder, const AttributeInfo& attribute, Write&& write) {
+  if (attribute.links.empty()) return write();
+  const auto before = targetsOf(holder, attribute);
+  const bool written = write();
+  if (!written && targetsOf(holder, attribute) == before) return false;
+  for (const auto& target : before) unlinkTarget(holder, attribute, *target);
+  linkTargets(holder, attribute);
+  return written;
+}
+
 }  // namespace
 
 void FcBase::accept(FcVisitorBase& visitor) const { visitor.visit(*this); }
@@ -41,7 +63,9 @@ void FcBase::accept(FcVisitorBaseNonConst& visitor) { visitor.visit(*this); }
 
 bool FcBase::setAttributeFromString(const std::string& name, const std::string& value) {
   const AttributeInfo* attribute = classInfo().findAttribute(name);
-  return attribute && attribute->type->setFromString(attribute->of(*this), value);
+  return attribute && writeLinked(*this, *attribute, [&] {
+           return attribute->type->setFromString(attribute->of(*this), value);
+         });
 }
 
 std::optional<std::string> FcBase::getAttributeAsString(const std::string& name) const {
@@ -77,17 +101,9 @@ LocalValue FcBase::getLocalValue(const object::PropertyId& id) const {
 
 bool FcBase::setLocalValue(LocalValue value, const object::PropertyId& id) {
   const AttributeInfo* attribute = classInfo().findAttribute(id.name());
-  if (!attribute) return false;
-  void* member = attribute->of(*this);
-  if (attribute->links.empty()) return attribute->type->setLocalValue(member, value);
-
-  std::vector<std::shared_ptr<FcBase>> before;
-  attribute->type->forEachTarget(
-      member, [&before](FcBase& target) { before.push_back(target.shared_from_this()); });
-  if (!attribute->type->setLocalValue(member, value)) return false;
-  for (const auto& target : before) unlinkTarget(*this, *attribute, *target);
-  linkTargets(*this, *attribute);
-  return true;
+  return attribute && writeLinked(*this, *attribute, [&] {
+           return attribute->type->setLocalValue(attribute->of(*this), value);
+         });
 }
 
 bool FcBase::isOptional(const object::PropertyId& id) const {

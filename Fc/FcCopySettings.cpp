@@ -15,8 +15,11 @@ using resource::geometricmodel::FcTriangulatedFaceSet;
 using resource::geometry::FcRepresentationItem;
 using resource::representation::FcGeometricRepresentationContext;
 
-FcCopySettings::~FcCopySettings() {
-  if (!target) return;
+FcCopySettings::~FcCopySettings() noexcept(false) {
+  if (target) m_wayOut.leave([this] { copyStylesAndTextures(); });
+}
+
+void FcCopySettings::copyStylesAndTextures() {
   std::vector<const FcBase*> sources;
   sources.reserve(copiedEntities.size());
   for (const auto& [source, copy] : copiedEntities)

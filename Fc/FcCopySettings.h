@@ -2,11 +2,12 @@
 
 #include <deque>
 #include <functional>
+#include <map>
 #include <memory>
-#include <unordered_map>
 #include <utility>
 
 #include "Fc/FcBase.h"
+#include "Qor/Assert/WayOut.h"
 #include "Qor/Platform/Export.h"
 
 namespace qor::fc {
@@ -24,7 +25,8 @@ class QOR_API FcCopySettings {
   FcCopySettings() = default;
   FcCopySettings(const FcCopySettings&) = delete;
   FcCopySettings& operator=(const FcCopySettings&) = delete;
-  ~FcCopySettings();
+  /// What a callback of the host throws reaches the host, unless another exception ends the run.
+  ~FcCopySettings() noexcept(false);
 
   /// Maps each geometric representation context of `source` that equals one of `target` to that, so
   /// that contexts aren't duplicated.
@@ -34,8 +36,8 @@ class QOR_API FcCopySettings {
   bool generateNewGuids = false;
   /// Where new copies are listed; none when empty.
   std::shared_ptr<Data> target;
-  /// Source to copy. Keeps the copies alive.
-  std::unordered_map<const FcBase*, std::shared_ptr<FcBase>> copiedEntities;
+  /// Source to copy, ordered by address. Keeps the copies alive.
+  std::map<const FcBase*, std::shared_ptr<FcBase>> copiedEntities;
   /// False refuses the known copy of a source: it is copied anew.
   std::function<bool(const FcBase& source, FcBase& copy)> reuseCheck;
   /// Supplies the copy of a source; null leaves it to the run. What it supplies is neither filled
@@ -43,6 +45,11 @@ class QOR_API FcCopySettings {
   std::function<std::shared_ptr<FcBase>(const FcBase& source)> externalCopy;
   /// Sources with a copy that is still empty.
   std::deque<std::pair<const FcBase*, FcBase*>> copyQueue;
+
+ private:
+  void copyStylesAndTextures();
+
+  WayOut m_wayOut;
 };
 
 }  // namespace qor::fc

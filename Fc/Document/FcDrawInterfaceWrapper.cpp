@@ -69,7 +69,10 @@ FcDrawInterfaceWrapper::FcDrawInterfaceWrapper(generate::draw::DrawInterfaceBase
 }
 
 FcDrawInterfaceWrapper::~FcDrawInterfaceWrapper() {
-  while (!m_openObjects.empty()) m_openObjects.pop_back();
+  try {
+    while (m_openObjects > 0) stopObject();
+  } catch (...) {  // NOLINT(bugprone-empty-catch): no way on from here
+  }
 }
 
 void FcDrawInterfaceWrapper::vTransformationSet(const math::Matrix& matrix) {
@@ -147,10 +150,14 @@ void FcDrawInterfaceWrapper::drawRepresentationItem(std::shared_ptr<FcRepresenta
 }
 
 void FcDrawInterfaceWrapper::startObject(const generate::ObjectInterface* object) {
-  if (m_objects) m_openObjects.emplace_back(*m_objects, object);
+  if (!m_objects) return;
+  m_objects->startObject(object);
+  ++m_openObjects;
 }
 void FcDrawInterfaceWrapper::stopObject() {
-  if (!m_openObjects.empty()) m_openObjects.pop_back();
+  if (m_openObjects == 0) return;
+  --m_openObjects;
+  m_objects->stopObject();
 }
 bool FcDrawInterfaceWrapper::boAttribute(const generate::AttributeInterface& attribute) {
   return m_objects && m_objects->boAttribute(attribute);

@@ -10,7 +10,6 @@
 
 #include "Fc/Drawing/FcDrawInterface.h"
 #include "Fc/Drawing/FcDrawParams.h"
-#include "Fc/Drawing/OpenObject.h"
 #include "Qor/Draw/DrawInterface.h"
 
 namespace qor::fc::resource::presentationappearance {
@@ -101,7 +100,7 @@ class QOR_API FcDrawInterfaceWrapper : public FcDrawInterface,
   generate::draw::DrawInterface* m_objects;
   std::unique_ptr<CountedBlocks> m_blocks;  ///< null when the target keeps none
   std::uint64_t m_shownCount = 0;           ///< calls with something in them
-  std::deque<OpenObject> m_openObjects;
+  std::size_t m_openObjects = 0;
   std::map<std::pair<const Shading*, const Textures*>, StyleMaterial> m_materialByStyle;
   std::map<generate::draw::Color, Material, generate::draw::ColorLess> m_materialByColor;
 };

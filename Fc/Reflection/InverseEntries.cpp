@@ -21,6 +21,16 @@ struct InverseEntries::Flat {
 
 struct InverseEntries::Tree {
   std::set<Entry, std::owner_less<Entry>> entries;
+  std::size_t sweepAt = 2 * flatLimit;
+
+  bool insert(const Entry& holder) {
+    if (!entries.insert(holder).second) return false;
+    if (entries.size() >= sweepAt) {
+      std::erase_if(entries, [](const Entry& entry) { return entry.expired(); });
+      sweepAt = std::max(2 * entries.size(), 2 * flatLimit);
+    }
+    return true;
+  }
 };
 
 std::size_t InverseEntries::size() const {
@@ -28,24 +38,21 @@ std::size_t InverseEntries::size() const {
   return isTree() ? tree()->entries.size() : flat()->count;
 }
 
-void InverseEntries::insert(const Entry& holder) {
-  if (isTree()) {
-    tree()->entries.insert(holder);
-    return;
-  }
+bool InverseEntries::insert(const Entry& holder) {
+  if (isTree()) return tree()->insert(holder);
   if (empty()) growTo(1);
   const Entry* place = flat()->lowerBound(holder);
-  if (place != flat()->end() && !holder.owner_before(*place)) return;
+  if (place != flat()->end() && !holder.owner_before(*place)) return false;
   const auto position = place - flat()->begin();
   if (flat()->count == flatLimit) {
     turnIntoTree();
-    tree()->entries.insert(holder);
-    return;
+    return tree()->insert(holder);
   }
   if (flat()->count == flat()->capacity) growTo(flat()->capacity * 2);
   new (flat()->end()) Entry(holder);
   ++flat()->count;
   std::rotate(flat()->begin() + position, flat()->end() - 1, flat()->end());
+  return true;
 }
 
 void InverseEntries::replace(const Entry& holder) {
@@ -82,12 +89,14 @@ void InverseEntries::clear() {
   m_storage = 0;
 }
 
-void InverseEntries::visit(void* object, void (*callback)(void*, const Entry&)) const {
+void InverseEntries::visit(void* object, bool (*callback)(void*, const Entry&)) const {
   if (empty()) return;
   if (isTree()) {
-    for (const Entry& entry : tree()->entries) callback(object, entry);
+    for (const Entry& entry : tree()->entries)
+      if (callback(object, entry)) return;
   } else {
-    for (const Entry& entry : *flat()) callback(object, entry);
+    for (const Entry& entry : *flat())
+      if (callback(object, entry)) return;
   }
 }
 

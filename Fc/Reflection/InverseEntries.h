@@ -2,6 +2,8 @@
 
 #include <cstdint>
 #include <memory>
+#include <type_traits>
+#include <utility>
 
 #include "Qor/Platform/Export.h"
 
@@ -15,7 +17,8 @@ class FcBase;
 /// One word while empty, since most entities have no entry in most of their inverse attributes. Up
 /// to `flatLimit` entries stand in one sorted array, more in a balanced tree, so that an insertion
 /// stays logarithmic on an entity that a million others name. An entry whose entity has died stays
-/// until it is erased and is passed over by readers.
+/// until it is erased, or until a tree has doubled, when the dead are swept out; readers pass over
+/// it.
 class QOR_API InverseEntries {
  public:
   static constexpr std::size_t flatLimit = 32;
@@ -28,8 +31,8 @@ class QOR_API InverseEntries {
   bool empty() const { return m_storage == 0; }
   /// Counts dead entries too.
   std::size_t size() const;
-  /// No effect when the owner is there already.
-  void insert(const std::weak_ptr<FcBase>& holder);
+  /// False, and no effect, when the owner is there already.
+  bool insert(const std::weak_ptr<FcBase>& holder);
   /// Makes `holder` the only entry.
   void replace(const std::weak_ptr<FcBase>& holder);
   /// No effect when the owner isn't there. Works for a dead entry.
@@ -40,18 +43,24 @@ class QOR_API InverseEntries {
   /// owners.
   template <class Callback>
   void forEach(Callback&& callback) const {
-    forEachEntry([&callback](std::shared_ptr<FcBase>&& entry) {
-      if (entry) callback(std::move(entry));
+    forEachUntil([&callback](std::shared_ptr<FcBase>&& entry) {
+      callback(std::move(entry));
+      return false;
+    });
+  }
+  /// The same until the callback answers true: what lies behind isn't locked.
+  template <class Callback>
+  void forEachUntil(Callback&& callback) const {
+    visitLocked([&callback](std::shared_ptr<FcBase>&& entry) {
+      return entry && callback(std::move(entry));
     });
   }
   /// The same with a null pointer for each entry that has died.
   template <class Callback>
   void forEachEntry(Callback&& callback) const {
-    struct Context {
-      Callback& callback;
-    } context{callback};
-    visit(&context, [](void* object, const std::weak_ptr<FcBase>& entry) {
-      static_cast<Context*>(object)->callback(entry.lock());
+    visitLocked([&callback](std::shared_ptr<FcBase>&& entry) {
+      callback(std::move(entry));
+      return false;
     });
   }
 
@@ -63,7 +72,14 @@ class QOR_API InverseEntries {
   bool isTree() const { return (m_storage & treeTag) != 0; }
   Flat* flat() const { return reinterpret_cast<Flat*>(m_storage); }
   Tree* tree() const { return reinterpret_cast<Tree*>(m_storage & ~treeTag); }
-  void visit(void* object, void (*callback)(void*, const std::weak_ptr<FcBase>&)) const;
+  /// Until the callback answers true.
+  template <class Callback>
+  void visitLocked(Callback&& callback) const {
+    visit(&callback, [](void* object, const std::weak_ptr<FcBase>& entry) -> bool {
+      return (*static_cast<std::remove_reference_t<Callback>*>(object))(entry.lock());
+    });
+  }
+  void visit(void* object, bool (*callback)(void*, const std::weak_ptr<FcBase>&)) const;
   void growTo(std::uint32_t capacity);
   void turnIntoTree();
 

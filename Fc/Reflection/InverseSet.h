@@ -23,6 +23,13 @@ class InverseSet : public InverseEntries {
       callback(std::static_pointer_cast<T>(std::move(entry)));
     });
   }
+  /// The same until the callback answers true: what lies behind isn't locked.
+  template <class Callback>
+  void forEachUntil(Callback&& callback) const {
+    InverseEntries::forEachUntil([&callback](std::shared_ptr<FcBase>&& entry) {
+      return callback(std::static_pointer_cast<T>(std::move(entry)));
+    });
+  }
   /// The entries that are alive.
   std::vector<std::shared_ptr<T>> lock() const {
     std::vector<std::shared_ptr<T>> result;
@@ -42,8 +49,9 @@ class InverseSet : public InverseEntries {
   /// The first entry that is alive; null for none.
   std::shared_ptr<T> lockFirst() const {
     std::shared_ptr<T> result;
-    forEach([&result](std::shared_ptr<T>&& entry) {
-      if (!result) result = std::move(entry);
+    forEachUntil([&result](std::shared_ptr<T>&& entry) {
+      result = std::move(entry);
+      return true;
     });
     return result;
   }

@@ -59,13 +59,15 @@ void append(const ListOperations& list, void* member, void* value) {
 
 }  // namespace
 
-void linkTarget(FcBase& holder, const AttributeInfo& attribute, FcBase& target) {
-  forEachInverse(attribute, target, [&holder](InverseEntries& entries, bool single) {
+bool linkTarget(FcBase& holder, const AttributeInfo& attribute, FcBase& target) {
+  bool isNew = false;
+  forEachInverse(attribute, target, [&](InverseEntries& entries, bool single) {
     if (single)
       entries.replace(ownedHolder(holder));
-    else
-      entries.insert(ownedHolder(holder));
+    else if (entries.insert(ownedHolder(holder)))
+      isNew = true;
   });
+  return isNew;
 }
 
 void unlinkTarget(FcBase& holder, const AttributeInfo& attribute, FcBase& target) {
@@ -91,8 +93,10 @@ void unlinkTargets(FcBase& holder, const AttributeInfo& attribute) {
 
 void insertLinked(FcBase& holder, const AttributeInfo& attribute, void* value) {
   const ListOperations& list = listOf(attribute);
-  if (FcBase* target = targetOf(*list.element, value)) linkTarget(holder, attribute, *target);
+  FcBase* const target = targetOf(*list.element, value);
+  const bool isNew = target && linkTarget(holder, attribute, *target);
   void* member = listIn(holder, attribute, OptionalOperations::Access::engage);
+  if (isNew) return append(list, member, value);
   const auto [first, count] = list.elements(member);
   for (std::size_t i = 0; i < count; ++i)
     if (isSame(*list.element, first + i * list.elementSize, value)) return;

@@ -14,7 +14,9 @@ namespace qor::fc {
 // the schema has one for the target's class. They throw `std::bad_weak_ptr` when no
 // `std::shared_ptr` holds the holder.
 
-QOR_API void linkTarget(FcBase& holder, const AttributeInfo& attribute, FcBase& target);
+/// True when an inverse set of the target, which didn't have the holder, has it now: the attribute
+/// can't have named the target before.
+QOR_API bool linkTarget(FcBase& holder, const AttributeInfo& attribute, FcBase& target);
 /// Takes the holder out of an inverse set. An inverse with one entry is emptied, whoever the entry
 /// was.
 QOR_API void unlinkTarget(FcBase& holder, const AttributeInfo& attribute, FcBase& target);
@@ -45,7 +47,8 @@ void clearLinked(FcBase& holder, const AttributeInfo& attribute, Member& member)
 // Of attributes that are lists of references or of selects. `value` is the address of an element's
 // value, which is the same as an element when both name one entity or hold equal values.
 
-/// Links the value and moves it to the end of the list unless that has it already.
+/// Links the value and moves it to the end of the list unless that has it already. A target that
+/// the list doesn't have is known by its inverse attribute, without a search through the list.
 QOR_API void insertLinked(FcBase& holder, const AttributeInfo& attribute, void* value);
 /// Links the value and moves it to the end of the list.
 QOR_API void pushBackLinked(FcBase& holder, const AttributeInfo& attribute, void* value);

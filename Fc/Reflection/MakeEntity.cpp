@@ -15,35 +15,43 @@ namespace {
 // A level of destruction takes some 200 bytes of stack.
 constexpr int depthLimit = 500;
 
-thread_local int depth = 0;
-thread_local std::vector<std::shared_ptr<FcBase>> parked;
+class EntityRelease;
 
-void park(const AttributeInfo& attribute, const FcBase& entity) {
-  attribute.type->forEachEntity(attribute.of(entity), [](FcBase& target) {
-    parked.push_back(target.weak_from_this().lock());
-  });
-}
+thread_local int depth = 0;
+// Of this thread, null while no entity is destroyed. Not an object of the thread's own: entities in
+// static variables end after those.
+thread_local EntityRelease* outermost = nullptr;
 
 // Lives while an entity is destroyed: from a certain depth on, what the entity names is parked and
 // released when the outermost destruction is done.
 class EntityRelease {
  public:
   explicit EntityRelease(FcBase& entity) {
-    if (++depth > depthLimit)
+    if (++depth == 1) outermost = this;
+    if (depth > depthLimit)
       entity.classInfo().forEachAttribute(
-          [&entity](const AttributeInfo& attribute) { park(attribute, entity); });
+          [&entity](const AttributeInfo& attribute) { outermost->park(attribute, entity); });
   }
   EntityRelease(const EntityRelease&) = delete;
   EntityRelease& operator=(const EntityRelease&) = delete;
   ~EntityRelease() {
     // The outermost one stays at depth 1 meanwhile, so that what is released here doesn't come to
     // this loop again.
-    while (depth == 1 && !parked.empty()) {
-      const std::shared_ptr<FcBase> released = std::move(parked.back());
-      parked.pop_back();
+    while (depth == 1 && !m_parked.empty()) {
+      const std::shared_ptr<FcBase> released = std::move(m_parked.back());
+      m_parked.pop_back();
     }
-    --depth;
+    if (--depth == 0) outermost = nullptr;
   }
+
+ private:
+  void park(const AttributeInfo& attribute, const FcBase& entity) {
+    attribute.type->forEachEntity(attribute.of(entity), [this](FcBase& target) {
+      m_parked.push_back(target.weak_from_this().lock());
+    });
+  }
+
+  std::vector<std::shared_ptr<FcBase>> m_parked;
 };
 
 void destroy(FcBase& entity) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <type_traits>
 #include <typeinfo>
 #include <utility>
 #include <vector>
@@ -87,9 +88,9 @@ void DrawStatus::addProject(const Data& data) {
     contexts.sortIn(*context);
   const bool hasBody = !contexts.bodies.empty();
   if (hasBody || contexts.hasDetailedBody)
-    m_disabled.insert(contexts.besideBody.begin(), contexts.besideBody.end());
+    for (const StateKey& key : contexts.besideBody) disable(key);
   if (hasBody && contexts.hasDetailedBody)
-    m_disabled.insert(contexts.bodies.begin(), contexts.bodies.end());
+    for (const StateKey& key : contexts.bodies) disable(key);
 }
 
 void DrawStatus::removeProject(const Data& data) {
@@ -103,16 +104,59 @@ void DrawStatus::removeProject(const Data& data) {
   setRepresentationState(keys, std::nullopt);
 }
 
+DrawStatus::StateSet DrawStatus::getDisabledStates() const {
+  StateSet alive;
+  for (const StateKey& key : m_disabled)
+    if (isAlive(key)) alive.insert(alive.end(), key);
+  return alive;
+}
+
+void DrawStatus::setDisabledStates(StateSet disabled) {
+  const StateSet before = std::exchange(m_disabled, std::move(disabled));
+  for (const StateKey& key : before) forgetUnused(key);
+  for (const StateKey& key : m_disabled) watch(key);
+}
+
+void DrawStatus::disable(const StateKey& key) {
+  m_disabled.insert(key);
+  watch(key);
+}
+
+// Only a key that is new is followed: what an older one points at may have died.
+void DrawStatus::watch(const StateKey& key) {
+  if (m_watched.contains(key)) return;
+  std::weak_ptr<const FcBase> owned = std::visit(
+      [](const auto& value) -> std::weak_ptr<const FcBase> {
+        if constexpr (std::is_pointer_v<std::remove_cvref_t<decltype(value)>>)
+          return value ? value->weak_from_this() : std::weak_ptr<const FcBase>();
+        else
+          return {};
+      },
+      key);
+  if (!owned.expired()) m_watched.emplace(key, std::move(owned));
+}
+
+void DrawStatus::forgetUnused(const StateKey& key) {
+  if (!m_disabled.contains(key) && !m_representationStates.contains(key)) m_watched.erase(key);
+}
+
+bool DrawStatus::isAlive(const StateKey& key) const {
+  const auto watched = m_watched.find(key);
+  return watched == m_watched.end() || !watched->second.expired();
+}
+
 void DrawStatus::setEnabled(const StateKey& key, bool enabled) {
   setEnabled(StateSet{key}, enabled);
 }
 
 void DrawStatus::setEnabled(const StateSet& keys, bool enabled) {
   for (const StateKey& key : keys) {
-    if (enabled)
+    if (enabled) {
       m_disabled.erase(key);
-    else
-      m_disabled.insert(key);
+      forgetUnused(key);
+    } else {
+      disable(key);
+    }
   }
   m_disabledStatesEvent.fire(keys,
                              enabled ? ObserverOperation::Enabled : ObserverOperation::Disabled);
@@ -145,10 +189,13 @@ void DrawStatus::setRepresentationState(const StateKey& key,
 void DrawStatus::setRepresentationState(const StateSet& keys,
                                         std::optional<ObjectRepresentationState> state) {
   for (const StateKey& key : keys) {
-    if (state)
+    if (state) {
       m_representationStates.insert_or_assign(key, *state);
-    else
+      watch(key);
+    } else {
       m_representationStates.erase(key);
+      forgetUnused(key);
+    }
   }
   m_representationStatesEvent.fire(keys, state);
 }
@@ -174,7 +221,8 @@ void DrawStatus::assignAndNotify(const DrawStatus& other) {
                       m_disabled.end(), std::inserter(disabled, disabled.end()));
   std::set_difference(m_disabled.begin(), m_disabled.end(), other.m_disabled.begin(),
                       other.m_disabled.end(), std::inserter(enabled, enabled.end()));
-  m_disabled = other.m_disabled;
+  m_watched.insert(other.m_watched.begin(), other.m_watched.end());
+  setDisabledStates(other.m_disabled);
   m_disabledStatesEvent.fire(disabled, ObserverOperation::Disabled);
   m_disabledStatesEvent.fire(enabled, ObserverOperation::Enabled);
 }

@@ -2,6 +2,7 @@
 
 #include <iosfwd>
 #include <map>
+#include <memory>
 #include <optional>
 #include <set>
 #include <string>
@@ -29,9 +30,11 @@ class FcRepresentation;
 /// off, and a table of things that are shown differently. Either is keyed by an entity, a
 /// representation context or a class. A new status disables nothing.
 ///
-/// Keys are plain pointers into a model and aren't followed until a status is written:
-/// `removeProject` makes a status forget a model that is about to go. Belongs to the thread of the
-/// model; events are fired on the thread that made the change, before the call returns.
+/// Keys are plain pointers into a model. The status watches what they point at without owning it: a
+/// key whose entity has died is passed over when the status is written, and never stands for
+/// another entity. What a new key points at must be there. `removeProject` makes a status forget a
+/// model that is about to go. Belongs to the thread of the model; events are fired on the thread
+/// that made the change, before the call returns.
 class QOR_API DrawStatus : public DrawStatusInterface {
  public:
   /// Compared by kind (entity, context, class), then by the value. An entity of the model is keyed
@@ -65,9 +68,10 @@ class QOR_API DrawStatus : public DrawStatusInterface {
   void setEnabled(const StateKey& key, bool enabled);
   /// The same for all keys, with one event.
   void setEnabled(const StateSet& keys, bool enabled);
-  StateSet getDisabledStates() const { return m_disabled; }
+  /// Without the keys whose entity has died.
+  StateSet getDisabledStates() const;
   /// Without an event.
-  void setDisabledStates(StateSet disabled) { m_disabled = std::move(disabled); }
+  void setDisabledStates(StateSet disabled);
 
   /// How a key is shown; nothing when it is shown as usual.
   std::optional<ObjectRepresentationState> getRepresentationState(const StateKey& key) const;
@@ -91,7 +95,7 @@ class QOR_API DrawStatus : public DrawStatusInterface {
   void assignAndNotify(const DrawStatus& other);
 
   /// Writes XML in UTF-8: entities by guid, contexts by identifier and type, classes by name. Two
-  /// statuses with the same keys give the same bytes. The models of all keys must still be there.
+  /// statuses with the same keys give the same bytes.
   void serialize(std::ostream& stream) const;
   /// Reads what `serialize` wrote; entities and contexts are looked up in `data`, and what isn't
   /// there any more is left out silently. Broken entries are told by asserts and left out. Nothing,
@@ -103,8 +107,16 @@ class QOR_API DrawStatus : public DrawStatusInterface {
   RepresentationStatesEvent& representationStatesEvent() { return m_representationStatesEvent; }
 
  private:
+  void disable(const StateKey& key);
+  void watch(const StateKey& key);
+  void forgetUnused(const StateKey& key);
+  bool isAlive(const StateKey& key) const;
+
   StateSet m_disabled;
   std::map<StateKey, ObjectRepresentationState> m_representationStates;
+  /// What the keys of both point at; nothing for classes and for what no `std::shared_ptr` holds. A
+  /// weak pointer also keeps the place of what has died from being taken by something new.
+  std::map<StateKey, std::weak_ptr<const FcBase>> m_watched;
   DisabledStatesEvent m_disabledStatesEvent;
   RepresentationStatesEvent m_representationStatesEvent;
 };

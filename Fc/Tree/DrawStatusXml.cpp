@@ -148,11 +148,11 @@ void DrawStatus::serialize(std::ostream& stream) const {
     return;
   }
   xml::Element disabled = root->appendElement(disabledList);
-  for (const StateKey& key : m_disabled)
+  for (const StateKey& key : getDisabledStates())
     std::visit(KeyWriter{disabled, disabledWords, "Disabled"}, key);
   xml::Element states = root->appendElement(stateList);
   for (const auto& [key, state] : m_representationStates)
-    std::visit(KeyWriter{states, stateWords, wordOf(state)}, key);
+    if (isAlive(key)) std::visit(KeyWriter{states, stateWords, wordOf(state)}, key);
   file.save(stream);
 }
 

@@ -1,5 +1,6 @@
 #include "Fc/Utilities/DeleteEntities.h"
 
+#include <algorithm>
 #include <memory>
 #include <unordered_set>
 #include <vector>
@@ -108,14 +109,17 @@ void deleteEntities(Data& data, const std::set<FcBase*>& entities) {
   const Traversal traversal = traversePointersInData(project, entities);
   for (const Holding& holding : traversal.holdings) removeHolding(holding, entities);
 
-  data.clear();
-  data.reserve(traversal.reached.size());
+  Data::Entities kept = data.inListedOrder(traversal.reached);
   // The project goes in last: among several the last one counts.
-  for (auto entity = traversal.reached.rbegin(); entity != traversal.reached.rend(); ++entity) {
-    data.entityAdd(*entity, false);
-    (*entity)->clearInverseAttributes();
+  std::stable_partition(kept.begin(), kept.end(),
+                        [&project](const auto& entity) { return entity != project; });
+  data.clear();
+  data.reserve(kept.size());
+  for (const auto& entity : kept) {
+    data.entityAdd(entity, false);
+    entity->clearInverseAttributes();
   }
-  for (const auto& entity : traversal.reached) entity->updateInverseAttributes();
+  for (const auto& entity : kept) entity->updateInverseAttributes();
 }
 
 }  // namespace qor::fc::utilities

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Qor/Assert/WayOut.h"
 #include "Qor/Math/Matrix.h"
 #include "Qor/Math/MatrixMultiplyOrder.h"
 #include "Qor/Platform/Export.h"
@@ -29,18 +30,21 @@ class QOR_API TransformationInterface {
 
 /// Gives a target back the frame that it had when this was made, on every way out of a scope.
 ///
-/// The target's two operations must not throw when the scope is left by an exception.
+/// What the target throws then reaches the host, unless another exception is on its way.
 class TransformationGuard {
  public:
   explicit TransformationGuard(TransformationInterface& target)
       : m_target(target), m_saved(target.transformationGet()) {}
   TransformationGuard(const TransformationGuard&) = delete;
   TransformationGuard& operator=(const TransformationGuard&) = delete;
-  ~TransformationGuard() { m_target.vTransformationSet(m_saved); }
+  ~TransformationGuard() noexcept(false) {
+    m_wayOut.leave([this] { m_target.vTransformationSet(m_saved); });
+  }
 
  private:
   TransformationInterface& m_target;
   math::Matrix m_saved;
+  WayOut m_wayOut;
 };
 
 }  // namespace qor::generate::draw

@@ -261,5 +261,106 @@ TEST(Data, RebuildKeepsWhatTheProjectReaches) {
   EXPECT_FALSE(data->hasEntity(*stray));
 }
 
+TEST(Data, IsWalkedOverAsItWasWhenTheLoopBegan) {
+  const auto data = std::make_shared<Data>();
+  for (int i = 0; i < 100; ++i) data->create<FcWall>();
+  const auto before = data->entities<FcWall>();
+  std::size_t met = 0;
+  for (const std::shared_ptr<FcWall> wall : data->entities<FcWall>()) {
+    data->create<FcCartesianPoint>();
+    data->create<FcWall>();
+    EXPECT_EQ(data->entities<FcWall>().size(), 101 + met / 2);
+    if (met % 2 == 0) {
+      EXPECT_TRUE(data->entityDelete(wall)) << "the one at hand";
+    }
+    ++met;
+  }
+  EXPECT_EQ(met, 100U);
+  EXPECT_EQ(data->entities<FcWall>().size(), 150U);
+  data->clear();
+  EXPECT_EQ(before.size(), 100U);
+  for (const std::shared_ptr<FcWall> wall : before) EXPECT_EQ(wall->classId(), 429U);
+}
+
+TEST(Data, IsSortedWhateverIsAddedBetweenQueries) {
+  const auto data = std::make_shared<Data>();
+  std::vector<std::shared_ptr<FcBase>> added;
+  const auto add = [&](const std::shared_ptr<FcBase>& entity) { added.push_back(entity); };
+  for (int run = 0; run < 20; ++run) {
+    for (int i = 0; i < run; ++i) {
+      add(data->create<FcSlab>());
+      add(data->create<FcCartesianPoint>());
+      add(data->create<FcWall>());
+    }
+    std::ranges::stable_sort(added, {}, [](const auto& entity) { return entity->classId(); });
+    EXPECT_THAT(data->allEntities(), ElementsAreArray(added));
+  }
+}
+
+TEST(Data, FindsARootThatWasGivenItsGuidByWhateverRoad) {
+  const ExpectAsserts none;
+  const auto data = std::make_shared<Data>();
+  const auto find = [&](const std::shared_ptr<FcWall>& wall) {
+    return data->entityByGuid(wall->GlobalId());
+  };
+  const auto set = data->create<FcWall>(), read = data->create<FcWall>(),
+             local = data->create<FcWall>();
+  EXPECT_EQ(data->entityByGuid(Guid::generate()), nullptr);
+  set->setGlobalId(Guid::generate());
+  EXPECT_EQ(find(set), set);
+  EXPECT_TRUE(read->setAttributeFromString("GlobalId", Guid::generate().toString(false)));
+  EXPECT_EQ(find(read), read);
+  EXPECT_TRUE(local->setLocalValue(LocalValue(Guid::generate()), object::PropertyId("GlobalId")));
+  EXPECT_EQ(find(local), local);
+}
+
+TEST(Data, ForgetsTheGuidOfADeletedRootAlone) {
+  const auto data = std::make_shared<Data>();
+  const Guid guid = Guid::generate();
+  const auto first = wallWithGuid(*data, guid), second = wallWithGuid(*data, guid);
+  const ExpectAsserts expected({"Guid with id '" + guid.toString(false) +
+                                "' already exist in m_guidEntityMap on object 'IfcWall'"});
+  EXPECT_EQ(data->entityByGuid(guid), first);
+  data->entityDelete(first);
+  EXPECT_EQ(data->entityByGuid(guid), second) << "the other one of that guid";
+
+  second->setGuid(Guid::generate());
+  data->entityDelete(second);
+  EXPECT_EQ(data->entityByGuid(guid), nullptr) << "listed under the guid that it had";
+
+  auto nameless = data->create<FcWall>();
+  data->entityDelete(nameless);
+  const std::weak_ptr<FcWall> watched = nameless;
+  nameless.reset();
+  EXPECT_TRUE(watched.expired());
+}
+
+TEST(Data, RebuildKeepsTheOrder) {
+  const auto data = std::make_shared<Data>();
+  const auto aggregation = data->create<FcRelAggregates>();
+  std::vector<std::shared_ptr<FcBase>> walls;
+  for (int i = 0; i < 200; ++i) {
+    // Places in memory that rise and fall.
+    const auto wall = i % 2 == 0 ? std::make_shared<FcWall>() : makeEntity<FcWall>();
+    walls.push_back(wall);
+    data->entityAdd(wall, false);
+  }
+  std::ranges::reverse(walls);
+  data->clear();
+  aggregation->setRelatingObject(data->create<FcProject>());
+  for (const auto& wall : walls) {
+    data->entityAdd(wall, false);
+    aggregation->insertRelatedObjects(std::static_pointer_cast<FcWall>(wall));
+  }
+  data->rebuildEntityList();
+  EXPECT_THAT(data->entities<FcWall>(), ElementsAreArray(walls));
+  data->clear();
+  const auto unlisted = data->create<FcProject>();
+  aggregation->setRelatingObject(unlisted);
+  data->rebuildEntityList();
+  EXPECT_THAT(data->entities<FcWall>(), ElementsAreArray(walls))
+      << "as the relationship names them";
+}
+
 }  // namespace
 }  // namespace qor::fc

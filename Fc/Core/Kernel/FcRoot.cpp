@@ -8,6 +8,7 @@ namespace qor::fc::core::kernel {
 void FcRoot::doAssign(const FcBase& source, FcCopySettings& settings) {
   FcBase::doAssign(source, settings);
   if (settings.generateNewGuids) setGlobalId(Guid::generate());
+  noteGuidChange();
 }
 
 void FcRoot::generate(FcGenerateParams& params) const { params.generate(*this); }

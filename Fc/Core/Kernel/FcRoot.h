@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "Fc/Core/Kernel/FcRootAttributes.h"
+#include "Fc/Reflection/GuidChanges.h"
 #include "Qor/Id/GuidInterface.h"
 
 namespace qor::fc {
@@ -22,6 +23,11 @@ class QOR_API FcRoot : public FcRootAttributes, public GuidInterface {
   bool setGuid(const Guid& guid) override {
     setGlobalId(guid);
     return true;
+  }
+
+  void setGlobalId(const Guid& guid) {
+    FcRootAttributes::setGlobalId(guid);
+    noteGuidChange();
   }
 
   /// The model that the root was last added to; null when it was added to none, or that is gone.

@@ -37,9 +37,8 @@ bool forEachIn(const std::shared_ptr<FcRelDefinesByProperties>& relation,
 }
 
 void forEachIn(const InverseSet<FcRelDefinesByProperties>& relations, const Callback& callback) {
-  bool done = false;
-  relations.forEach([&](const std::shared_ptr<FcRelDefinesByProperties>& relation) {
-    done = done || forEachIn(relation, callback);
+  relations.forEachUntil([&](const std::shared_ptr<FcRelDefinesByProperties>& relation) {
+    return forEachIn(relation, callback);
   });
 }
 

@@ -1,5 +1,7 @@
 #include "Fc/Reflection/Traits/ScalarTraits.h"
 
+#include "Fc/Reflection/GuidChanges.h"
+
 #include <string_view>
 
 namespace qor::fc {
@@ -51,11 +53,20 @@ struct LogicalTraits : ScalarTraits<LogicalValue> {
 };
 
 struct GuidTraits : ScalarTraits<Guid> {
+  static bool setFromString(Guid& m, const std::string& text) {
+    noteGuidChange();
+    return ScalarTraits::setFromString(m, text);
+  }
+  static bool setLocalValue(Guid& m, const LocalValue& v) {
+    noteGuidChange();
+    return ScalarTraits::setLocalValue(m, v);
+  }
   static bool read(Guid& m, ValueSource& source, const TypeOperations& self) {
     if (source.next() != ValueSource::Kind::text)
       return rejectNext(source, Rejection::wrongKind, self);
     std::string text;
     source.takeText(text);
+    noteGuidChange();
     if (text.size() == 22 && m.boSet(text)) return true;
     source.rejected(Rejection::outOfRange, text, self);
     return false;

@@ -22,13 +22,16 @@ class OpenBlock {
       : m_target(target), m_isKnown(target.startBlock(name) != 0) {}
   OpenBlock(const OpenBlock&) = delete;
   OpenBlock& operator=(const OpenBlock&) = delete;
-  ~OpenBlock() { m_target.stopBlock(); }
+  ~OpenBlock() noexcept(false) {
+    m_wayOut.leave([this] { m_target.stopBlock(); });
+  }
 
   bool isKnown() const { return m_isKnown; }
 
  private:
   BlockInterface& m_target;
   bool m_isKnown;
+  WayOut m_wayOut;
 };
 
 }  // namespace

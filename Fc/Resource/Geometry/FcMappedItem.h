@@ -8,7 +8,8 @@ namespace qor::fc::resource::geometry {
 ///
 /// A map that comes to lie within itself is cut there, with the assert "Circular dependency in
 /// mapped item", and so are maps that lie within each other a few hundred deep: what lies before
-/// the cut is drawn and measured.
+/// the cut is drawn and measured. Each thread knows the maps that it is in, so that several may
+/// draw one item.
 class QOR_API FcMappedItem : public FcMappedItemAttributes {
  public:
   /// A target that keeps blocks gets the map as a block, filled once, and the place as the frame

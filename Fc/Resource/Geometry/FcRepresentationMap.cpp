@@ -19,11 +19,10 @@ void FcRepresentationMap::draw(const FcDrawParams& params) const {
 
 void FcRepresentationMap::generate(FcGenerateParams& params) const {
   if (!MappedRepresentation() || !params.isEnabled(*MappedRepresentation())) return;
-  std::optional<TransformationGuard> guard;
-  if (FcDrawInterface* const target = params.drawInterface()) {
-    guard.emplace(*target);
-    target->vTransformationMultiply(MappingOrigin().transformationGet(), MatrixMultiplyOrder::left);
-  }
+  FcDrawInterface* const target = params.drawInterface();
+  if (!target) return MappedRepresentation()->generate(params);
+  const TransformationGuard guard(*target);
+  target->vTransformationMultiply(MappingOrigin().transformationGet(), MatrixMultiplyOrder::left);
   MappedRepresentation()->generate(params);
 }
 

@@ -9,19 +9,23 @@ namespace qor::fc::resource::profile {
 
 using generate::draw::Profile2D;
 
-void FcRectangleProfileDef::assertThatDimensionsArePositive() const {
-  const double tolerance = math::Epsilon::current().general;
-  expectThat(*this, XDim() > tolerance,
+const measure::FcPositiveLengthMeasure& FcRectangleProfileDef::XDimAssert() const {
+  expectThat(*this, XDim() > math::Epsilon::current().general,
              "By definition of IfcPositiveLengthMeasure, XDim should be a positive distance");
-  expectThat(*this, YDim() > tolerance,
+  return XDim();
+}
+
+const measure::FcPositiveLengthMeasure& FcRectangleProfileDef::YDimAssert() const {
+  expectThat(*this, YDim() > math::Epsilon::current().general,
              "By definition of IfcPositiveLengthMeasure, YDim should be a positive distance");
+  return YDim();
 }
 
 std::vector<Profile2D> FcRectangleProfileDef::closedProfile(const FcParams& /*params*/) const {
-  assertThatDimensionsArePositive();
+  const double xHalf = XDimAssert() / 2, yHalf = YDimAssert() / 2;
   std::vector<Profile2D> result;
   result.emplace_back(std::vector<Profile2D::Contour>{contourWithSharpCorners(
-      validPosition(), XDim() / 2, YDim() / 2, ContourOrientation::counterClockwise)});
+      validPosition(), xHalf, yHalf, ContourOrientation::counterClockwise)});
   return result;
 }
 

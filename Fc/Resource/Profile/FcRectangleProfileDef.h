@@ -17,8 +17,9 @@ class QOR_API FcRectangleProfileDef : public FcRectangleProfileDefAttributes {
   /// Of the dimensions; a turned `Position` doesn't turn it.
   std::optional<math::Extent2d> doGetPlanarBox(const FcParams& params) const override;
 
- protected:
-  void assertThatDimensionsArePositive() const;
+  /// The dimensions, which are reported unless they are above the general tolerance.
+  const measure::FcPositiveLengthMeasure& XDimAssert() const;
+  const measure::FcPositiveLengthMeasure& YDimAssert() const;
 };
 
 }  // namespace qor::fc::resource::profile

@@ -14,7 +14,8 @@ using generate::draw::Profile2D;
 namespace {}  // namespace
 
 std::vector<Profile2D> FcRoundedRectangleProfileDef::closedProfile(const FcParams& params) const {
-  assertThatDimensionsArePositive();
+  XDimAssert();
+  YDimAssert();
   const double tolerance = math::Epsilon::current().general;
   const double radius = RoundingRadius();
   expectThat(

@@ -187,5 +187,43 @@ TEST(Model, LetsGoOfALongChainWithoutExhaustingTheStack) {
   EXPECT_TRUE(watched.expired());
 }
 
+TEST(DeepCopy, LetsTheHostsExceptionOutWhenTheRunEnds) {
+  const auto faceSet = make<FcTriangulatedFaceSet>();
+  const auto style = make<FcStyledItem>({{"Item", faceSet}});
+  const auto run = [&](bool failsBefore) {
+    FcCopySettings settings;
+    settings.target = std::make_shared<Data>();
+    faceSet->deepCopy(settings);
+    settings.externalCopy = [](const FcBase&) -> std::shared_ptr<FcBase> {
+      throw std::logic_error("external");
+    };
+    if (failsBefore) throw std::runtime_error("before");
+  };
+  EXPECT_THROW(run(false), std::logic_error);
+  EXPECT_THROW(run(true), std::runtime_error) << "the first one counts";
+}
+
+// Destroyed after the objects of the thread.
+TEST(Model, MayStandInAStaticVariable) {
+  EXPECT_EXIT(
+      {
+        static std::shared_ptr<FcLocalPlacement> last;
+        for (int i = 0; i < 10000; ++i) {
+          auto next = makeEntity<FcLocalPlacement>();
+          if (last) next->setPlacementRelTo(last);
+          last = next;
+        }
+        auto another = makeEntity<FcLocalPlacement>();
+        for (int i = 0; i < 10000; ++i) {
+          auto next = makeEntity<FcLocalPlacement>();
+          next->setPlacementRelTo(another);
+          another = next;
+        }
+        another.reset();  // the thread has parked entities before
+        std::exit(0);
+      },
+      testing::ExitedWithCode(0), "");
+}
+
 }  // namespace
 }  // namespace qor::fc

@@ -3,11 +3,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <thread>
+
 #include "Fc/Core/ProductExtension/FcOpeningElement.h"
 #include "Fc/Core/ProductExtension/FcRelSpaceBoundary.h"
 #include "Fc/Core/ProductExtension/FcRelVoidsElement.h"
 #include "Fc/Core/ProductExtension/FcSpace.h"
 #include "Fc/Document/FcDrawInterfaceWrapper.h"
+#include "Fc/Drawing/FcDrawParams.h"
 #include "Fc/Resource/GeometricConstraint/FcConnectionPointGeometry.h"
 #include "Fc/Resource/GeometricModel/FcBlock.h"
 #include "Fc/Resource/Geometry/FcAxis2Placement3D.h"
@@ -189,6 +192,76 @@ TEST(Documents, TellOfAllRootsByOneObject) {
   const auto wall = std::make_unique<shared::buildingelements::FcWall>();
   EXPECT_THROW(object->objectSet(static_cast<const FcBase*>(wall.get())), std::bad_weak_ptr);
   EXPECT_EQ(document.getProductInterface().lock(), nullptr);
+}
+
+/// A target that throws at what guards do on their way out.
+class Thrower : public test::RecordingBlockTarget {
+ public:
+  enum class At { stopObject, frame, stopBlock } at = At::stopObject;
+  bool armed = true;
+
+  void stopObject() override {
+    RecordingTarget::stopObject();
+    throwAt(At::stopObject);
+  }
+  void vTransformationSet(const math::Matrix& matrix) override {
+    RecordingTarget::vTransformationSet(matrix);
+    throwAt(At::frame);
+  }
+  void stopBlock() override {
+    RecordingBlockTarget::stopBlock();
+    throwAt(At::stopBlock);
+  }
+
+ private:
+  void throwAt(At place) const {
+    if (armed && place == at) throw std::logic_error("at the end");
+  }
+};
+
+TEST(Documents, LetOutWhatATargetThrowsWhileItIsRestored) {
+  test::SmallModel model;
+  model.give(*model.storey, {model.shape("Body", {model.mapped(model.map({model.line()}))})});
+  model.place(*model.storey, math::Matrix::createTranslation({1, 0, 0}));
+  for (const auto at : {Thrower::At::stopObject, Thrower::At::frame, Thrower::At::stopBlock}) {
+    for (const bool failsBefore : {false, true}) {
+      Thrower target;
+      target.at = at;
+      if (failsBefore) {
+        target.problem = "the first";
+        EXPECT_THROW(Document(model.data).generate(target), std::runtime_error);
+      } else {
+        EXPECT_THROW(Document(model.data).generate(target), std::logic_error);
+      }
+      EXPECT_EQ(target.depth(), 0);
+      target.problem.clear();
+      target.armed = false;
+      target.calls.clear();
+      Document(model.data).generate(target);
+      EXPECT_EQ(target.callsOf("start").size(), 1U) << "the next draw is sound";
+    }
+  }
+}
+
+TEST(Documents, DrawOneModelOnSeveralThreads) {
+  test::SmallModel model;
+  const auto map = model.map({model.line()});
+  test::SmallModel::Items items;
+  for (int i = 0; i < 2000; ++i) items.push_back(model.mapped(map));
+  const auto shape = model.shape("Body", items);
+  model.give(*model.storey, {shape});
+  model.data->allEntities();
+  std::vector<std::size_t> polylines(4);
+  std::vector<std::thread> threads;
+  for (std::size_t& count : polylines)
+    threads.emplace_back([&model, &shape, &count] {
+      test::RecordingTarget target;
+      FcDrawInterfaceWrapper wrapper(target);
+      shape->draw(FcDrawParams(wrapper));
+      count = target.callsOf("polyline").size();
+    });
+  for (std::thread& thread : threads) thread.join();
+  EXPECT_THAT(polylines, ElementsAre(2000U, 2000U, 2000U, 2000U));
 }
 
 }  // namespace

@@ -88,6 +88,17 @@ TEST_F(Items, CountAsShownUnlessTheirBlockIsEmpty) {
   EXPECT_EQ(counted(model.mapped(model.map({empty}))), 0u);
 }
 
+TEST_F(Items, AreMovedInTheRepresentationsThatAreChosen) {
+  const auto body = model.shape("Body", {model.line()}), axis = model.shape("Axis", {model.line()});
+  const auto wall = model.wall("South");
+  model.give(*wall, {body, axis});
+  wall->Representation()->transform(
+      math::Matrix::createTranslation({5, 0, 0}),
+      [&](const auto& representation) { return representation == body; });
+  EXPECT_THAT(shapesOf(drawn(*body->Items().begin())), ElementsAre("polyline (5 0 0) (6 0 0)"));
+  EXPECT_THAT(shapesOf(drawn(*axis->Items().begin())), ElementsAre("polyline (0 0 0) (1 0 0)"));
+}
+
 TEST_F(Items, CutAMapThatLiesWithinItself) {
   const auto map = model.map({model.line()});
   const auto first = model.mapped(map), second = model.mapped(map);

@@ -38,7 +38,7 @@ class DrawnRealModel : public test::ModelTest {
 };
 
 /// Takes a value that refers to entities out of one of them; nothing when the one drawn has none.
-void loseAReference(std::span<const std::shared_ptr<FcBase>> entities, std::mt19937& random) {
+void loseAReference(const EntityRange<FcBase>& entities, std::mt19937& random) {
   FcBase& entity = *entities[random() % entities.size()];
   std::vector<object::PropertyId> references;
   entity.forEachEntity([&](const auto&, const object::PropertyId& id) { references.push_back(id); },

@@ -85,6 +85,24 @@ TEST(InverseEntries, KeepDeadOnesUntilTheyAreErased) {
   }
 }
 
+TEST(InverseEntries, AreFewHoweverManyCameAndWent) {
+  InverseEntries entries;
+  for (int i = 0; i < 100000; ++i) entries.insert(std::make_shared<FcRelAggregates>());
+  EXPECT_LT(entries.size(), 100U);
+}
+
+TEST(InverseEntries, AreVisitedUntilTheFirstIsFound) {
+  const Holders holders = someHolders(10);
+  InverseEntries entries;
+  for (const auto& holder : holders) {
+    EXPECT_TRUE(entries.insert(holder));
+    EXPECT_FALSE(entries.insert(holder)) << "there already";
+  }
+  int visited = 0;
+  entries.forEachUntil([&visited](const std::shared_ptr<FcBase>&) { return ++visited == 3; });
+  EXPECT_EQ(visited, 3);
+}
+
 TEST(InverseEntries, HoldNobodyAlive) {
   InverseSet<FcRelAggregates> entries;
   auto holder = std::make_shared<FcRelAggregates>();

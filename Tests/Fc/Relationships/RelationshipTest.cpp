@@ -89,6 +89,19 @@ TEST(SelectReference, KeepsBothSidesInStepWithEachAlternative) {
   EXPECT_TRUE(scheme->HasReferences().empty());
 }
 
+TEST(SelectReference, IsUnlinkedWhenATextTakesItsPlace) {
+  const auto select = make<FcRelDefinesByProperties>();
+  const auto set = make<FcPropertySet>();
+  for (const char* text : {"PropertySetDefinitionSet(1)", "PropertySetDefinition(1)"}) {
+    select->setRelatingPropertyDefinition(set);
+    ASSERT_THAT(set->DefinesOccurrence().lock(), ElementsAre(select));
+    Assert::setEnabled(false);  // what the text says is no matter here
+    EXPECT_FALSE(select->setAttributeFromString("RelatingPropertyDefinition", text));
+    Assert::setEnabled(true);
+    EXPECT_TRUE(set->DefinesOccurrence().empty()) << text;
+  }
+}
+
 enum class Kind { set, list };
 
 // The typed setters of a list; `add` inserts into a SET and pushes back to a LIST.

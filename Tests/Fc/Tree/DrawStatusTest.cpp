@@ -260,5 +260,21 @@ TEST_F(DrawStatusOfAModel, TellsBrokenEntriesAndReadsTheRest) {
   EXPECT_FALSE(statusOf("<DrawStatus/>"));
 }
 
+TEST_F(DrawStatusOfAModel, PassesOverWhatHasDied) {
+  DrawStatus status;
+  const std::string empty = xmlOf(status);
+  for (int i = 0; i < 100; ++i) {
+    const auto passing = std::make_shared<FcWall>();
+    EXPECT_TRUE(status.isEnabled(keyOf(passing))) << "at the place of none that is hidden";
+    status.setEnabled(keyOf(passing), false);
+    status.setRepresentationState(keyOf(passing), State::Wireframe);
+  }
+  EXPECT_EQ(xmlOf(status), empty);
+  EXPECT_TRUE(status.getDisabledStates().empty());
+  DrawStatus other;
+  other.assignAndNotify(status);
+  EXPECT_EQ(xmlOf(other), empty);
+}
+
 }  // namespace
 }  // namespace qor::fc
