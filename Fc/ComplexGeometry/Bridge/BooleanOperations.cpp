@@ -49,7 +49,7 @@ bool isWithinReach(const TopoDS_Shape& shape) {
   }
 }
 
-bool isEmpty(const TopoDS_Shape& shape) { return !TopExp_Explorer(shape, TopAbs_FACE).More(); }
+bool isEmpty(const TopoDS_Shape& shape) { return !TopExp_Explorer(shape, TopAbs_VERTEX).More(); }
 
 // But for more than any fuzzy value moves a corner.
 bool isWithin(const math::Extent& inner, const math::Extent& outer) {
