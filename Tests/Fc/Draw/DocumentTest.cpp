@@ -199,7 +199,12 @@ class Thrower : public test::RecordingBlockTarget {
  public:
   enum class At { stopObject, frame, stopBlock } at = At::stopObject;
   bool armed = true;
+  bool failsBefore = false;  ///< throws `Failure` at a polyline, too
 
+  void vPolyline(const std::vector<math::Point3d>& points) override {
+    if (armed && failsBefore) throw Failure();
+    RecordingTarget::vPolyline(points);
+  }
   void stopObject() override {
     RecordingTarget::stopObject();
     throwAt(At::stopObject);
@@ -227,14 +232,13 @@ TEST(Documents, LetOutWhatATargetThrowsWhileItIsRestored) {
     for (const bool failsBefore : {false, true}) {
       Thrower target;
       target.at = at;
+      target.failsBefore = failsBefore;
       if (failsBefore) {
-        target.problem = "the first";
-        EXPECT_THROW(Document(model.data).generate(target), std::runtime_error);
+        EXPECT_THROW(Document(model.data).generate(target), Thrower::Failure);
       } else {
         EXPECT_THROW(Document(model.data).generate(target), std::logic_error);
       }
       EXPECT_EQ(target.depth(), 0);
-      target.problem.clear();
       target.armed = false;
       target.calls.clear();
       Document(model.data).generate(target);
