@@ -177,10 +177,12 @@ ReadResult readUtf8(std::string_view text, const ReadOptions& options) {
     result.failure = fmt::format("its schema {} is none of IFC",
                                  ProblemLog::quote(result.header.schemas.front()));
   result.problems = log.release();
-  const auto notes = std::ranges::stable_partition(
-      result.problems, [](const Problem& problem) { return !isNote(problem.kind); });
-  result.notes.assign(std::make_move_iterator(notes.begin()), std::make_move_iterator(notes.end()));
-  result.problems.erase(notes.begin(), notes.end());
+  const auto notes =
+      std::stable_partition(result.problems.begin(), result.problems.end(),
+                            [](const Problem& problem) { return !isNote(problem.kind); });
+  result.notes.assign(std::make_move_iterator(notes),
+                      std::make_move_iterator(result.problems.end()));
+  result.problems.erase(notes, result.problems.end());
   return result;
 }
 
